@@ -1,0 +1,19 @@
+# What every target of the project is compiled with.
+set(KOSTYLE_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= takes them")
+option(KOSTYLE_COVERAGE "Count the lines that tests reach" OFF)
+
+if(MSVC)
+  add_compile_options(/W4 /utf-8)
+else()
+  add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -fvisibility=hidden)
+  add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
+endif()
+
+if(KOSTYLE_SANITIZE)
+  add_compile_options(-fsanitize=${KOSTYLE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${KOSTYLE_SANITIZE})
+endif()
+if(KOSTYLE_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()

@@ -1,0 +1,57 @@
+/*
+ * KoStyle: creation results. Reading a style set leaves one record for each style file that was
+ * opened, whether its style was taken or not. A record never changes and lives until its set is read
+ * again or its manager is destroyed.
+ */
+#ifndef KOSTYLE_CREATION_RESULT_H
+#define KOSTYLE_CREATION_RESULT_H
+
+#include "types.h"
+
+/** The record after this one of the same set, in reading order; NULL at the end. */
+KOSTYLE_API KoStyleCreationResult* StyleCreationResult_next(KoStyleCreationResult* result);
+
+/** The record before this one of the same set; NULL at the front. */
+KOSTYLE_API KoStyleCreationResult* StyleCreationResult_prev(KoStyleCreationResult* result);
+
+/**
+ * Whether the style was taken.
+ *
+ * @return KOSTYLE_OK when it was, else KOSTYLE_ERROR_NO_STYLE_FOR_KIND, KOSTYLE_ERROR_JSON_SYNTAX,
+ *         KOSTYLE_ERROR_MEMBER_MISSING, KOSTYLE_ERROR_WRONG_TYPE, KOSTYLE_ERROR_EMPTY_STRING,
+ *         KOSTYLE_ERROR_DUPLICATE_ID or KOSTYLE_ERROR_NO_EFFECT; KOSTYLE_ERROR_NO_CREATION_RESULT for
+ *         a null handle.
+ */
+KOSTYLE_API int StyleCreationResult_error(KoStyleCreationResult* result);
+
+/** The path of the file, as listed. */
+KOSTYLE_API const KoStyleChar* StyleCreationResult_filePath(KoStyleCreationResult* result);
+
+/**
+ * The identifier of the style in the file, also when it was refused with KOSTYLE_ERROR_DUPLICATE_ID;
+ * empty after every other error.
+ */
+KOSTYLE_API const KoStyleChar* StyleCreationResult_id(KoStyleCreationResult* result);
+
+/** The set, KOSTYLE_KIND_SYSTEM or KOSTYLE_KIND_USER; KOSTYLE_KIND_NONE for a null handle. */
+KOSTYLE_API int StyleCreationResult_type(KoStyleCreationResult* result);
+
+/**
+ * Where in the document the failing value lies: "/" for the root, "/id" or "/name"; empty on success,
+ * after KOSTYLE_ERROR_JSON_SYNTAX and after KOSTYLE_ERROR_DUPLICATE_ID.
+ */
+KOSTYLE_API const KoStyleChar* StyleCreationResult_jsonPath(KoStyleCreationResult* result);
+
+/**
+ * The parser's code after KOSTYLE_ERROR_JSON_SYNTAX, a value of enum KoStyleParseError; otherwise
+ * KOSTYLE_PARSE_OK. KOSTYLE_PARSE_NO_CREATION_RESULT for a null handle.
+ */
+KOSTYLE_API int StyleCreationResult_parseError(KoStyleCreationResult* result);
+
+/**
+ * After KOSTYLE_ERROR_JSON_SYNTAX, the number of bytes of the file that the parser had consumed when
+ * it found the error, a byte-order mark included; otherwise 0. SIZE_MAX for a null handle.
+ */
+KOSTYLE_API size_t StyleCreationResult_parseErrorOffset(KoStyleCreationResult* result);
+
+#endif

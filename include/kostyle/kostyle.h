@@ -1,0 +1,60 @@
+/*
+ * KoStyle: styles for music applications.
+ *
+ * A style is a named set of attributes (languages, singer groups, singer identifiers, genres,
+ * sub-genres, colours, a vendor text) with an audio and a MIDI chain of effects. It is stored as one
+ * JSON document in a ".kostyle" file. A manager reads the styles of a system and a user directory;
+ * the host walks them, builds new ones as mutable styles, and saves, overwrites, edits and removes
+ * user styles.
+ *
+ * Conventions, which hold for every function unless its own text says otherwise:
+ *
+ *  1. Handles. A handle is borrowed: the library owns the object behind it, and the handle stays valid
+ *     until its owner destroys the object. A manager owns its styles and creation results, a style
+ *     its effects, an effect its parameters, a user style its property editor. Reading a style set
+ *     again destroys that set's styles and creation results. A handle whose object is gone must not be
+ *     passed to any function but HasStyleManager(), the StyleManager_has*Style() functions (as the
+ *     style), Style_hasAudioEffect(), Style_hasMidiEffect() (as the effect) and Effect_hasParameter()
+ *     (as the parameter), which only compare it.
+ *  2. Null handles and wrong kinds. A function given a null handle, or a handle of its family but of
+ *     the wrong kind, changes nothing and returns a fixed default outside the valid range of its
+ *     result. Each function names its default; where it names none it is NULL for pointers and false
+ *     for bool.
+ *  3. Text is UTF-16 and NUL-terminated. Lengths count UTF-16 units, not characters. Texts are equal
+ *     when all their units are; they sort ascending by unit. Nothing is normalised, and letter case
+ *     matters.
+ *  4. Returned text is owned by the object that returned it. It stays valid while that object lives
+ *     and the value is not changed. A text that contains U+0000 ends there for the host.
+ *  5. Text arguments are copied. A function behaves as if its text arguments had been copied on
+ *     entry, so a text that the library returned may be passed back to change its own object. A null
+ *     text is refused like an empty one, unless the function says otherwise.
+ *  6. Indices are zero-based. An index at or past the end gives NULL (-1 for a language).
+ *  7. Codes are the values of enum KoStyleCode, returned as int.
+ *  8. Threads. Managers are created and destroyed under a lock of the library. Everything else takes
+ *     no lock: a manager and all that it owns are used by one thread at a time. Different managers may
+ *     be used by different threads at the same time. The library starts no thread.
+ *  9. Memory. When memory runs out, a function throws std::bad_alloc out of the library and leaves the
+ *     manager valid. Only MutableEffect_destroy(), MutableParameter_destroy(), MutableStyle_destroy(),
+ *     UserStyle_remove() and the StyleManager_has*Style() functions let no exception out. A host in C
+ *     that must survive exhausted memory calls the library through a C++ file that catches it.
+ * 10. Paths are passed to the operating system as they are given. On Windows they are absolute and use
+ *     backslashes; paths longer than 260 units work. Elsewhere they are UTF-16 forms of the system's
+ *     UTF-8 paths; a byte b that is not valid UTF-8 stands as the unit 0xDC00 + b.
+ */
+#ifndef KOSTYLE_KOSTYLE_H
+#define KOSTYLE_KOSTYLE_H
+
+/* IWYU pragma: begin_exports */
+#include "codes.h"
+#include "creation_result.h"
+#include "effect.h"
+#include "manager.h"
+#include "mutable_effect.h"
+#include "mutable_style.h"
+#include "parameter.h"
+#include "property_editor.h"
+#include "style.h"
+#include "types.h"
+/* IWYU pragma: end_exports */
+
+#endif

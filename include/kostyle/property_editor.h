@@ -1,0 +1,36 @@
+/*
+ * KoStyle: the property editor of a user style. It collects a name, sub-genres and colours, and
+ * writes the style back to its own file. It starts empty: what the style has is replaced, not
+ * extended. UserStyle_createPropertyEditor() makes one.
+ */
+#ifndef KOSTYLE_PROPERTY_EDITOR_H
+#define KOSTYLE_PROPERTY_EDITOR_H
+
+#include "types.h"
+
+/**
+ * Sets the name to be given to the style.
+ *
+ * @param name not empty. PropertyEditor_save() refuses more than KOSTYLE_MAX_NAME_LENGTH units.
+ * @return true; false when the name is null or empty, or the handle is null.
+ */
+KOSTYLE_API bool PropertyEditor_setStyleName(KoStylePropertyEditor* editor, const KoStyleChar* name);
+
+/** Adds a sub-genre; false when it is null, empty or added already, or the handle is null. */
+KOSTYLE_API bool PropertyEditor_addSubGenre(KoStylePropertyEditor* editor, const KoStyleChar* subGenre);
+
+/** Adds a colour; false when it is null, empty or added already, or the handle is null. */
+KOSTYLE_API bool PropertyEditor_addColor(KoStylePropertyEditor* editor, const KoStyleChar* color);
+
+/**
+ * Gives the style the collected name, sub-genres and colours, and writes it over its own file, in
+ * place and indented. The editor keeps what it collected. The file loses its vendor text.
+ *
+ * @param pretty not used.
+ * @return true; false when no name of 1 to KOSTYLE_MAX_NAME_LENGTH units was set or the file cannot be
+ *         opened (nothing is changed), or the style cannot be written (the file is then left empty and
+ *         the style in memory is as before; but a style that had an empty name keeps the new one).
+ */
+KOSTYLE_API bool PropertyEditor_save(KoStylePropertyEditor* editor, bool pretty);
+
+#endif

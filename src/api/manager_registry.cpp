@@ -1,0 +1,43 @@
+#include "api/manager_registry.h"
+
+#include <memory>
+#include <utility>
+
+#include "manager/file_system.h"
+
+namespace Tesk::KoStyle {
+
+StyleManagerRegistry& StyleManagerRegistry::instance() {
+  static StyleManagerRegistry registry;
+  return registry;
+}
+
+IStyleManager* StyleManagerRegistry::findOrCreate(const Char* appID, const Char* systemStyleDirPath,
+                                                  const Char* userStyleDirPath,
+                                                  std::vector<Text> systemStyleDirs,
+                                                  std::vector<Text> userStyleDirs, int& error) {
+  const std::lock_guard guard(lock_);
+  const auto fail = [&](int code) {
+    error = code;
+    return nullptr;
+  };
+  if (!appID || *appID == 0) return fail(KOSTYLE_ERROR_APP_ID_MISSING);
+  if (StyleManager* manager = managers_.findKey(appID)) {
+    error = KOSTYLE_OK;
+    return manager;
+  }
+  if (!isDirectory(systemStyleDirPath)) return fail(KOSTYLE_ERROR_SYSTEM_DIRECTORY_MISSING);
+  if (!ensureDirectory(userStyleDirPath)) return fail(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
+  auto manager = std::make_unique<StyleManager>(appID, systemStyleDirPath, userStyleDirPath,
+                                                std::move(systemStyleDirs), std::move(userStyleDirs));
+  IStyleManager* const registered = &managers_.append(managers_.prepare(std::move(manager)));
+  error = KOSTYLE_OK;
+  return registered;
+}
+
+void StyleManagerRegistry::destroy(const IStyleManager* manager) {
+  const std::lock_guard guard(lock_);
+  managers_.destroy(manager);
+}
+
+}  // namespace Tesk::KoStyle

@@ -1,0 +1,36 @@
+// The managers of the process.
+#pragma once
+
+#include <mutex>
+#include <vector>
+
+#include "manager/style_manager.h"
+#include "model/owned_sequence.h"
+
+namespace Tesk::KoStyle {
+
+/// Creating and destroying take the lock; contains() deliberately does not, and must not run beside
+/// them.
+class StyleManagerRegistry {
+ public:
+  /// Comes into being on first use; destroys the managers that are left when the library is unloaded.
+  static StyleManagerRegistry& instance();
+
+  /// The manager of `appID`, made when there is none. Null with a code in `error` on failure.
+  IStyleManager* findOrCreate(const Char* appID, const Char* systemStyleDirPath,
+                              const Char* userStyleDirPath, std::vector<Text> systemStyleDirs,
+                              std::vector<Text> userStyleDirs, int& error);
+
+  bool contains(const IStyleManager* manager) const noexcept { return managers_.contains(manager); }
+
+  /// Destroys a manager; ignores one that is not registered.
+  void destroy(const IStyleManager* manager);
+
+ private:
+  StyleManagerRegistry() = default;
+
+  OwnedSequence<StyleManager, IStyleManager, ManagerAppIdOf> managers_;
+  std::mutex lock_;
+};
+
+}  // namespace Tesk::KoStyle

@@ -1,0 +1,98 @@
+#include "manager/file_system.h"
+
+#include <utility>
+
+#include "platform/platform.h"
+
+namespace Tesk::KoStyle {
+
+using platform::DirectoryEntry;
+using platform::EntryKind;
+
+namespace {
+
+platform::NativePath nativeLongPath(const Char* path) { return platform::nativePath(toLongPath(path)); }
+
+}  // namespace
+
+Text toLongPath(const Char* path) { return path ? platform::longPathForm(path) : Text(); }
+
+bool pathExists(const Char* path) {
+  return path && platform::entryKind(nativeLongPath(path)) != EntryKind::none;
+}
+
+bool pathExists(Text path) { return pathExists(path.c_str()); }
+
+bool isDirectory(const Char* path) {
+  return path && platform::entryKind(nativeLongPath(path)) == EntryKind::directory;
+}
+
+bool createDirectories(const Char* path) {
+  if (!path) return false;
+  if (platform::makeDirectory(nativeLongPath(path))) return true;
+  const TextView text = path;
+  const std::size_t lastSeparator = text.rfind(platform::separator);
+  if (lastSeparator == TextView::npos) return false;
+  const Text parent(text.substr(0, lastSeparator));
+  return createDirectories(parent.c_str()) && platform::makeDirectory(nativeLongPath(path));
+}
+
+bool ensureDirectory(const Char* path) { return isDirectory(path) || createDirectories(path); }
+
+bool removePath(const Char* path, const bool& recursive) {
+  if (!path) return false;
+  const platform::NativePath longPath = nativeLongPath(path);
+  switch (platform::entryKind(longPath)) {
+    case EntryKind::none:
+      return false;
+    case EntryKind::file:
+      return platform::deleteFile(longPath);
+    case EntryKind::directory:
+      break;
+  }
+  return recursive ? removeDirectoryTree(path) : platform::removeDirectory(longPath);
+}
+
+bool removeDirectoryTree(const Char* path) {
+  if (!path) return false;
+  const platform::NativePath directory = nativeLongPath(path);
+  bool complete = true;
+  const bool enumerated = platform::enumerateDirectory(directory, [&](DirectoryEntry&& entry) {
+    const Text entryPath = joinPath(path, entry.name);
+    if (entry.isDirectory && !entry.isLink) {
+      // Inverted on purpose: hosts rely on one call more than there are subdirectories.
+      complete = !removeDirectoryTree(entryPath.c_str());
+    } else {
+      complete = platform::deleteFile(nativeLongPath(entryPath.c_str()));
+    }
+    return complete;
+  });
+  return enumerated && complete && platform::removeDirectory(directory);
+}
+
+std::vector<Text> listFiles(const Char* directory, const std::size_t& depthLimit) {
+  std::vector<Text> files;
+  if (directory) enumerateFiles(directory, depthLimit, 0, files);
+  return files;
+}
+
+void enumerateFiles(const Text& directory, const std::size_t& depthLimit, const std::size_t& depth,
+                    std::vector<Text>& files) {
+  platform::enumerateDirectory(nativeLongPath(directory.c_str()), [&](DirectoryEntry&& entry) {
+    Text entryPath = joinPath(directory, entry.name);
+    if (!entry.isDirectory) {
+      files.push_back(std::move(entryPath));
+    } else if (depthLimit == 0 || depth + 1 < depthLimit) {
+      enumerateFiles(entryPath, depthLimit, depth + 1, files);
+    }
+    return true;
+  });
+}
+
+Text joinPath(TextView directory, TextView name) {
+  Text path;
+  path.reserve(directory.size() + 1 + name.size());
+  return path.append(directory).append(1, platform::separator).append(name);
+}
+
+}  // namespace Tesk::KoStyle

@@ -1,0 +1,72 @@
+#include "model/parameter_list.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace Tesk::KoStyle {
+namespace {
+
+auto nameBefore(TextView name) {
+  return [name](const ParameterBase& parameter) { return parameter.wholeName() < name; };
+}
+
+auto nameNotAfter(TextView name) {
+  return [name](const ParameterBase& parameter) { return parameter.wholeName() <= name; };
+}
+
+}  // namespace
+
+ParameterBase* ParameterList::append(std::unique_ptr<ParameterBase> parameter) {
+  if (!parameter) return nullptr;
+  const TextView name = parameter->wholeName();
+  if (!name.empty() && containsName(name)) return nullptr;
+  auto prepared = parameters_.prepare(std::move(parameter));
+  sort();
+  return &parameters_.insert(parameters_.partitionPoint(nameNotAfter(name)), std::move(prepared));
+}
+
+void ParameterList::rename(ParameterBase& parameter, Text name) {
+  if (!contains(&parameter)) return parameter.assignName(std::move(name));
+  renamed_.insert(&parameter);
+  parameters_.rekey(&parameter, [&] { parameter.assignName(std::move(name)); });
+}
+
+void ParameterList::destroy(ParameterBase& parameter) noexcept {
+  renamed_.erase(&parameter);
+  parameters_.destroy(&parameter);
+}
+
+// A stable sort that moves the renamed parameters only: the others are in order already. A renamed one
+// belongs among the others of its name as near as possible to where it stands.
+void ParameterList::sort() {
+  if (renamed_.empty()) return;
+  struct Move {
+    ParameterBase* parameter;
+    std::size_t position;  // among all, then among the parameters that stay, then its target there
+  };
+  std::vector<Move> moves;
+  moves.reserve(renamed_.size());
+  for (ParameterBase* parameter : renamed_)
+    moves.push_back({parameter, parameters_.position(parameter)});
+  std::sort(moves.begin(), moves.end(),
+            [](const Move& a, const Move& b) { return a.position < b.position; });
+  for (std::size_t i = 0; i < moves.size(); ++i) moves[i].position -= i;
+  std::stable_sort(moves.begin(), moves.end(), [](const Move& a, const Move& b) {
+    return a.parameter->wholeName() < b.parameter->wholeName();
+  });
+  std::vector<decltype(parameters_)::Prepared> taken;
+  taken.reserve(moves.size());
+
+  for (const Move& move : moves) taken.push_back(parameters_.take(move.parameter));
+  for (Move& move : moves) {
+    const TextView name = move.parameter->wholeName();
+    move.position = std::clamp(move.position, parameters_.partitionPoint(nameBefore(name)),
+                               parameters_.partitionPoint(nameNotAfter(name)));
+  }
+  for (std::size_t i = 0; i < moves.size(); ++i)
+    parameters_.insert(moves[i].position + i, std::move(taken[i]));
+  renamed_.clear();
+}
+
+}  // namespace Tesk::KoStyle

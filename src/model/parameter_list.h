@@ -1,0 +1,54 @@
+// ParameterList: the parameters of an effect.
+//
+// Appending sorts the list ascending by name; parameters of equal name, which renaming can bring about,
+// keep their order. Renaming leaves a parameter where it is until the next append. The list remembers
+// the renamed ones, so that sorting moves only those.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <set>
+
+#include "model/owned_sequence.h"
+#include "model/parameter_base.h"
+
+namespace Tesk::KoStyle {
+
+class ParameterList {
+ public:
+  std::size_t size() const noexcept { return parameters_.size(); }
+  auto begin() const noexcept { return parameters_.begin(); }
+  auto end() const noexcept { return parameters_.end(); }
+  ParameterBase* at(std::size_t position) const noexcept { return parameters_.at(position); }
+  ParameterBase* next(const IParameterBase* parameter) const noexcept {
+    return parameters_.next(parameter);
+  }
+  ParameterBase* previous(const IParameterBase* parameter) const noexcept {
+    return parameters_.previous(parameter);
+  }
+  bool contains(const IParameterBase* parameter) const noexcept {
+    return parameters_.contains(parameter);
+  }
+  bool containsName(TextView name) const noexcept { return parameters_.findKey(name) != nullptr; }
+
+  /// Appends a parameter and sorts. Null or a name that is here already: nothing is appended, null.
+  ParameterBase* append(std::unique_ptr<ParameterBase> parameter);
+
+  /// Renames a parameter; one that is not in this list too.
+  void rename(ParameterBase& parameter, Text name);
+
+  /// Destroys a parameter of this list; ignores others.
+  void destroy(ParameterBase& parameter) noexcept;
+
+ private:
+  struct NameOf {
+    TextView operator()(const ParameterBase& parameter) const noexcept { return parameter.wholeName(); }
+  };
+
+  void sort();
+
+  OwnedSequence<ParameterBase, IParameterBase, NameOf> parameters_;
+  std::set<ParameterBase*> renamed_;  // since the list was sorted last
+};
+
+}  // namespace Tesk::KoStyle

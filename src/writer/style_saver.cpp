@@ -1,0 +1,148 @@
+#include "writer/style_saver.h"
+
+#include <memory>
+#include <utility>
+
+#include "manager/file_system.h"
+#include "manager/style_file_name.h"
+#include "manager/style_manager.h"
+#include "model/user_style.h"
+#include "platform/platform.h"
+#include "writer/style_copy.h"
+#include "writer/style_serializer.h"
+
+namespace Tesk::KoStyle {
+namespace {
+
+using platform::EntryKind;
+using platform::NativePath;
+
+// A file that a save writes or replaces. Its paths are made ahead, so that nothing here throws.
+class TargetFile {
+ public:
+  explicit TargetFile(const Text& path)
+      : path_(platform::nativePath(path)), longPath_(platform::nativePath(toLongPath(path.c_str()))) {}
+
+  // Opening and renaming take the path as it is, testing and deleting the long-path form.
+  platform::File open() const noexcept { return platform::openForWriting(path_); }
+  void renameTo(const TargetFile& target) const noexcept { platform::renameFile(path_, target.path_); }
+  bool remove() const noexcept {
+    switch (platform::entryKind(longPath_)) {
+      case EntryKind::none:
+        return false;
+      case EntryKind::file:
+        return platform::deleteFile(longPath_);
+      case EntryKind::directory:
+        break;
+    }
+    return platform::removeDirectory(longPath_);
+  }
+
+ private:
+  NativePath path_;
+  NativePath longPath_;
+};
+
+// A UUID whose file in the user directory does not exist, and which no style has when it is to be one's
+// identifier.
+struct FreshName {
+  Text uuid;
+  Text path;
+};
+
+FreshName chooseStyleName(const StyleManager& manager) {
+  for (;;) {
+    Text uuid = platform::makeUuid();
+    if (manager.isStyleIdInUse(uuid.c_str())) continue;
+    Text path = joinPath(manager.userStyleDirPath(), Text(uuid).append(styleFileExtension));
+    if (!pathExists(path.c_str())) return {std::move(uuid), std::move(path)};
+  }
+}
+
+Text chooseTemporaryPath(const StyleManager& manager) {
+  for (;;) {
+    Text path = joinPath(manager.userStyleDirPath(), platform::makeUuid());
+    if (!pathExists(path.c_str())) return path;
+  }
+}
+
+// Opens and writes a file that did not exist; on any other code than KOSTYLE_OK it does not exist
+// again.
+std::uint32_t writeNewFile(const TargetFile& target, const StyleDocument& document,
+                           bool pretty) noexcept {
+  platform::File file = target.open();
+  if (!file) return KOSTYLE_ERROR_OPEN_FAILED;
+  const std::uint32_t code = writeStyleFile(document, pretty, file.get());
+  file.reset();
+  if (code != KOSTYLE_OK) target.remove();
+  return code;
+}
+
+}  // namespace
+
+IUserStyle* saveNewStyle(StyleManager& manager, MutableStyle& style, bool pretty,
+                         std::uint32_t& error) {
+  const auto fail = [&](std::uint32_t code) {
+    error = code;
+    return nullptr;
+  };
+  StyleSequence& mutableStyles = manager.styles(StyleKind::editable);
+  if (*style.name() == 0) return fail(KOSTYLE_ERROR_ARGUMENT_MISSING);
+  if (!mutableStyles.contains(&style)) return fail(KOSTYLE_ERROR_FOREIGN_MUTABLE_STYLE);
+  if (!ensureDirectory(manager.userStyleDirPath()))
+    return fail(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
+
+  FreshName name = chooseStyleName(manager);
+  const TargetFile target(name.path);
+  const StyleDocument document(style, name.uuid);
+  auto saved = std::make_unique<UserStyle>(&manager);
+  StyleContent content = copyFromMutableStyle(style, *saved);
+  content.id = std::move(name.uuid);
+  content.path = std::move(name.path);
+  saved->exchangeContent(content);
+  UserStyle* const result = saved.get();
+  auto prepared = StyleSequence::prepare(std::move(saved));
+
+  error = writeNewFile(target, document, pretty);
+  if (error != KOSTYLE_OK) return nullptr;
+  manager.styles(StyleKind::user).append(std::move(prepared));
+  mutableStyles.destroy(&style);
+  return result;
+}
+
+IUserStyle* overwriteStyle(StyleManager& manager, const Char* targetID, MutableStyle& style,
+                           bool pretty, std::uint32_t& error) {
+  const auto fail = [&](std::uint32_t code) {
+    error = code;
+    return nullptr;
+  };
+  if (!targetID) return fail(KOSTYLE_ERROR_ARGUMENT_MISSING);
+  StyleSequence& userStyles = manager.styles(StyleKind::user);
+  StyleSequence& mutableStyles = manager.styles(StyleKind::editable);
+  auto* const user = *targetID == 0 ? nullptr : dynamic_cast<UserStyle*>(userStyles.findKey(targetID));
+  if (!user) return fail(KOSTYLE_ERROR_USER_STYLE_NOT_FOUND);
+  if (!mutableStyles.contains(&style)) return fail(KOSTYLE_ERROR_FOREIGN_MUTABLE_STYLE);
+  if (!ensureDirectory(manager.userStyleDirPath()))
+    return fail(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
+
+  const Text path = user->path();
+  const TargetFile target(path);
+  const TargetFile temporary(chooseTemporaryPath(manager));
+  const StyleDocument document(style, targetID);
+  StyleContent content = copyFromMutableStyle(style, *user);
+  content.id = targetID;
+  content.path = path;
+
+  error = writeNewFile(temporary, document, pretty);
+  if (error != KOSTYLE_OK) return nullptr;
+  if (path.empty() || !target.remove()) {
+    temporary.remove();
+    return fail(KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE);
+  }
+  temporary.renameTo(target);
+  userStyles.rekey(user, [&] { user->exchangeContent(content); });
+  mutableStyles.destroy(&style);
+  return user;
+}
+
+}  // namespace Tesk::KoStyle
