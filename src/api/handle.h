@@ -29,7 +29,7 @@ Result checked(Base* handle, Operation operation, Result otherwise, const Argume
 /// As checked, for operations without a result.
 template <class Target, class Base, class Operation, class... Arguments>
 void checkedVoid(Base* handle, Operation operation, const Arguments&... arguments) {
-  if (Target* target = dynamic_cast<Target*>(handle)) std::invoke(operation, *target, arguments...);
+  if (auto* target = dynamic_cast<Target*>(handle)) std::invoke(operation, *target, arguments...);
 }
 
 /// As checked, for operations that give an interface: the result becomes the `Base` of its family.

@@ -21,7 +21,7 @@ bool pathExists(const Char* path) {
   return path && platform::entryKind(nativeLongPath(path)) != EntryKind::none;
 }
 
-bool pathExists(Text path) { return pathExists(path.c_str()); }
+bool pathExists(const Text& path) { return pathExists(path.c_str()); }
 
 bool isDirectory(const Char* path) {
   return path && platform::entryKind(nativeLongPath(path)) == EntryKind::directory;

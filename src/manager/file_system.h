@@ -13,7 +13,7 @@ namespace Tesk::KoStyle {
 Text toLongPath(const Char* path);
 
 bool pathExists(const Char* path);
-bool pathExists(Text path);
+bool pathExists(const Text& path);
 
 bool isDirectory(const Char* path);
 

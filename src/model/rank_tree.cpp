@@ -105,9 +105,8 @@ void RankTree::attach(RankNode* parent, RankNode* old, RankNode* replacement) no
   if (replacement) replacement->parent = parent;
 }
 
-// Lifts the child on the `rising` side above its parent.
-RankNode* RankTree::rotate(RankNode& node, Side rising, Side falling) noexcept {
-  RankNode& child = *(node.*rising);
+// Lifts a child, which is on the `rising` side of its parent, above it.
+RankNode* RankTree::rotate(RankNode& node, RankNode& child, Side rising, Side falling) noexcept {
   attach(node.parent, &node, &child);
   node.*rising = child.*falling;
   if (node.*rising) (node.*rising)->parent = &node;
@@ -119,10 +118,13 @@ RankNode* RankTree::rotate(RankNode& node, Side rising, Side falling) noexcept {
 }
 
 RankNode* RankTree::balanceSide(RankNode& node, Side light, Side heavy) noexcept {
-  if (weight(node.*heavy) <= balanceRatio * weight(node.*light)) return &node;
-  RankNode& child = *(node.*heavy);
-  if (weight(child.*light) >= rotationRatio * weight(child.*heavy)) rotate(child, light, heavy);
-  return rotate(node, heavy, light);
+  RankNode* child = node.*heavy;
+  if (!child || weight(child) <= balanceRatio * weight(node.*light)) return &node;
+  RankNode* const inner = child->*light;
+  if (inner && weight(inner) >= rotationRatio * weight(child->*heavy)) {
+    child = rotate(*child, *inner, light, heavy);
+  }
+  return rotate(node, *child, heavy, light);
 }
 
 void RankTree::rebalanceUpwards(RankNode* node) noexcept {

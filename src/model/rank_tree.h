@@ -60,7 +60,8 @@ class RankTree {
 
  private:
   void attach(RankNode* parent, RankNode* old, RankNode* replacement) noexcept;
-  RankNode* rotate(RankNode& node, RankNode* RankNode::*rising, RankNode* RankNode::*falling) noexcept;
+  RankNode* rotate(RankNode& node, RankNode& child, RankNode* RankNode::*rising,
+                   RankNode* RankNode::*falling) noexcept;
   RankNode* balanceSide(RankNode& node, RankNode* RankNode::*light,
                         RankNode* RankNode::*heavy) noexcept;
   void rebalanceUpwards(RankNode* node) noexcept;

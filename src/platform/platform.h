@@ -61,7 +61,7 @@ bool deleteFile(const NativePath& path) noexcept;
 bool renameFile(const NativePath& from, const NativePath& to) noexcept;
 
 struct FileCloser {
-  void operator()(std::FILE* file) const noexcept { std::fclose(file); }
+  void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
 

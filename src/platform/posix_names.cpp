@@ -20,10 +20,10 @@ Sequence decodeSequence(std::string_view bytes) {
   if (lead < 0x80) return {1, lead};
   const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
   if (lead < 0xC2 || lead > 0xF4 || bytes.size() < length) return {0, 0};
-  std::uint32_t codePoint = lead & (0x7Fu >> length);
+  std::uint32_t codePoint = lead & (0x7FU >> length);
   for (std::size_t i = 1; i < length; ++i) {
     if ((byteAt(i) & 0xC0) != 0x80) return {0, 0};
-    codePoint = codePoint << 6 | (byteAt(i) & 0x3Fu);
+    codePoint = codePoint << 6 | (byteAt(i) & 0x3FU);
   }
   constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
   const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
@@ -85,7 +85,7 @@ std::optional<std::string> nameFromText(TextView text) {
   for (std::size_t i = 0; i < text.size(); ++i) {
     const std::uint32_t unit = text[i];
     if (isHighSurrogate(unit) && i + 1 < text.size() && isLowSurrogate(text[i + 1])) {
-      appendUtf8(bytes, 0x10000 + ((unit - 0xD800) << 10) + (text[++i] - 0xDC00u));
+      appendUtf8(bytes, 0x10000 + ((unit - 0xD800) << 10) + (text[++i] - 0xDC00U));
     } else if (isStrayByte(unit)) {
       bytes += static_cast<char>(unit - strayByteBase);
     } else if (isHighSurrogate(unit) || isLowSurrogate(unit)) {

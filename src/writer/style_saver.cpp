@@ -55,14 +55,14 @@ FreshName chooseStyleName(const StyleManager& manager) {
     Text uuid = platform::makeUuid();
     if (manager.isStyleIdInUse(uuid.c_str())) continue;
     Text path = joinPath(manager.userStyleDirPath(), Text(uuid).append(styleFileExtension));
-    if (!pathExists(path.c_str())) return {std::move(uuid), std::move(path)};
+    if (!pathExists(path)) return {std::move(uuid), std::move(path)};
   }
 }
 
 Text chooseTemporaryPath(const StyleManager& manager) {
   for (;;) {
     Text path = joinPath(manager.userStyleDirPath(), platform::makeUuid());
-    if (!pathExists(path.c_str())) return path;
+    if (!pathExists(path)) return path;
   }
 }
 
