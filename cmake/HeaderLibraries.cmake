@@ -1,13 +1,16 @@
-# Header-only libraries from the system. Each is handed over by itself, through a folder of links, so
-# that a cross build sees none of the other headers beside them.
+# Header-only libraries from the system. A cross build is handed each by itself, through a folder with one
+# link, so that it sees none of the other headers beside them.
 function(kostyle_header_library name folder)
   find_path(KOSTYLE_${name}_INCLUDE_DIR NAMES ${folder} PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH REQUIRED
             DOC "Folder that holds ${folder}/")
-  set(isolated ${PROJECT_BINARY_DIR}/header-libraries/${name})
-  file(MAKE_DIRECTORY ${isolated})
-  file(CREATE_LINK ${KOSTYLE_${name}_INCLUDE_DIR}/${folder} ${isolated}/${folder} SYMBOLIC COPY_ON_ERROR)
+  set(directory ${KOSTYLE_${name}_INCLUDE_DIR})
+  if(CMAKE_CROSSCOMPILING)
+    set(directory ${PROJECT_BINARY_DIR}/header-libraries/${name})
+    file(MAKE_DIRECTORY ${directory})
+    file(CREATE_LINK ${KOSTYLE_${name}_INCLUDE_DIR}/${folder} ${directory}/${folder} SYMBOLIC)
+  endif()
   add_library(${name} INTERFACE IMPORTED GLOBAL)
-  target_include_directories(${name} SYSTEM INTERFACE ${isolated})
+  target_include_directories(${name} SYSTEM INTERFACE ${directory})
 endfunction()
 
 kostyle_header_library(rapidjson rapidjson)

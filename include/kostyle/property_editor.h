@@ -27,9 +27,10 @@ KOSTYLE_API bool PropertyEditor_addColor(KoStylePropertyEditor* editor, const Ko
  * place and indented. The editor keeps what it collected. The file loses its vendor text.
  *
  * @param pretty not used.
- * @return true; false when no name of 1 to KOSTYLE_MAX_NAME_LENGTH units was set or the file cannot be
- *         opened (nothing is changed), or the style cannot be written (the file is then left empty and
- *         the style in memory is as before; but a style that had an empty name keeps the new one).
+ * @return true; false when no name of 1 to KOSTYLE_MAX_NAME_LENGTH units was set (nothing happens), when
+ *         the file cannot be opened (it stays as it is), or when the style cannot be written (the file
+ *         is left empty). After a failure the style in memory is as before, except that a style
+ *         without a name keeps the new one.
  */
 KOSTYLE_API bool PropertyEditor_save(KoStylePropertyEditor* editor, bool pretty);
 
