@@ -1,0 +1,35 @@
+// The platform with faults on demand. The test program links the real platform under other names for
+// the functions below, and these in their place.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace test {
+
+using Tesk::KoStyle::Text;
+
+/// What goes wrong while the object lives; nothing by default.
+class Faults {
+ public:
+  Faults();
+  Faults(const Faults&) = delete;
+  Faults& operator=(const Faults&) = delete;
+  ~Faults();
+
+  bool refuseMakingDirectories = false;
+  bool refuseOpening = false;
+  bool refuseRenaming = false;
+  /// Every write to an opened file fails, as on a full disk.
+  bool refuseWriting = false;
+  /// The deletion that is refused, counted from 1; 0 for none.
+  int refusedDeletion = 0;
+  /// The UUIDs that are made before random ones.
+  std::vector<Text> nextUuids;
+
+  int deletions = 0;
+};
+
+}  // namespace test
