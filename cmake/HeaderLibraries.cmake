@@ -1,7 +1,7 @@
 # Header-only libraries from the system. A cross build is handed each by itself, through a folder with one
 # link, so that it sees none of the other headers beside them.
-function(kostyle_header_library name folder)
-  find_path(KOSTYLE_${name}_INCLUDE_DIR NAMES ${folder} PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH REQUIRED
+function(kostyle_header_library name folder header)
+  find_path(KOSTYLE_${name}_INCLUDE_DIR NAMES ${folder}/${header} PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH REQUIRED
             DOC "Folder that holds ${folder}/")
   set(directory ${KOSTYLE_${name}_INCLUDE_DIR})
   if(CMAKE_CROSSCOMPILING)
@@ -13,9 +13,9 @@ function(kostyle_header_library name folder)
   target_include_directories(${name} SYSTEM INTERFACE ${directory})
 endfunction()
 
-kostyle_header_library(rapidjson rapidjson)
+kostyle_header_library(rapidjson rapidjson document.h)
 if(KOSTYLE_BUILD_TOOLS)
-  kostyle_header_library(cli11 CLI)
-  kostyle_header_library(fmt fmt)
+  kostyle_header_library(cli11 CLI CLI.hpp)
+  kostyle_header_library(fmt fmt format.h)
   target_compile_definitions(fmt INTERFACE FMT_HEADER_ONLY)
 endif()
