@@ -29,12 +29,23 @@ bool isDirectory(const Char* path) {
 
 bool createDirectories(const Char* path) {
   if (!path) return false;
-  if (platform::makeDirectory(nativeLongPath(path))) return true;
-  const TextView text = path;
-  const std::size_t lastSeparator = text.rfind(platform::separator);
-  if (lastSeparator == TextView::npos) return false;
-  const Text parent(text.substr(0, lastSeparator));
-  return createDirectories(parent.c_str()) && platform::makeDirectory(nativeLongPath(path));
+  const auto make = [](TextView level) {
+    return platform::makeDirectory(platform::nativePath(platform::longPathForm(level)));
+  };
+  // Up to the first level that can be made, then down again; in a loop, for a path may have more levels
+  // than a stack has room for.
+  const TextView whole = path;
+  TextView level = whole;
+  while (!make(level)) {
+    const std::size_t lastSeparator = level.rfind(platform::separator);
+    if (lastSeparator == TextView::npos) return false;
+    level = level.substr(0, lastSeparator);
+  }
+  while (level.size() < whole.size()) {
+    level = whole.substr(0, whole.find(platform::separator, level.size() + 1));
+    if (!make(level)) return false;
+  }
+  return true;
 }
 
 bool ensureDirectory(const Char* path) { return isDirectory(path) || createDirectories(path); }
@@ -60,7 +71,7 @@ bool removeDirectoryTree(const Char* path) {
   const bool enumerated = platform::enumerateDirectory(directory, [&](DirectoryEntry&& entry) {
     const Text entryPath = joinPath(path, entry.name);
     if (entry.isDirectory && !entry.isLink) {
-      // Inverted on purpose: hosts rely on one call more than there are subdirectories.
+      // Inverted on purpose: a subdirectory that is gone ends the call, and the host calls again.
       complete = !removeDirectoryTree(entryPath.c_str());
     } else {
       complete = platform::deleteFile(nativeLongPath(entryPath.c_str()));

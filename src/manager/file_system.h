@@ -28,7 +28,7 @@ bool ensureDirectory(const Char* path);
 bool removePath(const Char* path, const bool& recursive);
 
 /// Removes a directory with its content, but stops with false after the first subdirectory that it
-/// could remove whole: a tree needs one call more than it has subdirectories.
+/// could remove whole: a tree needs more calls, one for each subdirectory that a call removes.
 bool removeDirectoryTree(const Char* path);
 
 /// The files of a directory in the system's order, entering subdirectories down to `depthLimit` levels

@@ -25,7 +25,7 @@ bool isDirectory(const struct stat& status) { return S_ISDIR(status.st_mode); }
 // the opening itself from waiting for a pipe's other end.
 File openRegular(const NativePath& path, int flags, const char* mode) noexcept {
   constexpr mode_t readWriteForAll = 0666;
-  const int descriptor = open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, readWriteForAll);
+  const int descriptor = open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, readWriteForAll);
   if (descriptor < 0) return nullptr;
   struct stat status {};
   std::FILE* file = nullptr;

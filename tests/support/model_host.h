@@ -1,0 +1,152 @@
+// A host that drives a manager and a model of it side by side, and compares them.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <kostyle/kostyle.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "support/host.h"
+#include "support/random.h"
+#include "support/style_model.h"
+#include "support/style_walk.h"
+
+namespace test {
+
+/// One of the two sets of stored styles, through the exported functions.
+struct StoredSet {
+  std::size_t (*count)(KoStyleManager*);
+  KoStyleStyle* (*at)(KoStyleManager*, std::size_t);
+  bool (*has)(KoStyleManager*, KoStyleStyle*);
+  std::size_t (*recordCount)(KoStyleManager*);
+  KoStyleCreationResult* (*recordAt)(KoStyleManager*, std::size_t);
+  int (*read)(KoStyleManager*);
+};
+
+inline const std::array<StoredSet, 2>& storedSets() {
+  static const std::array<StoredSet, 2> sets{
+      {{StyleManager_numSystemStyle, StyleManager_systemStyle, StyleManager_hasSystemStyle,
+        StyleManager_numSystemStyleCreationResult, StyleManager_systemStyleCreationResult,
+        StyleManager_readSystemStyles},
+       {StyleManager_numUserStyle, StyleManager_userStyle, StyleManager_hasUserStyle,
+        StyleManager_numUserStyleCreationResult, StyleManager_userStyleCreationResult,
+        StyleManager_readUserStyles}}};
+  return sets;
+}
+
+class ModelHost {
+ public:
+  /// Expects the manager to be what the model says.
+  void expectAgreement() {
+    for (const MutableModel& model : mutables) {
+      ASSERT_TRUE(StyleManager_hasMutableStyle(manager(), model.handle));
+      ASSERT_EQ(valueOf(model.handle), model.value());
+      expectHandles(model);
+      expectStyleWalks(model.handle);
+    }
+    for (std::size_t kind : {KOSTYLE_KIND_SYSTEM, KOSTYLE_KIND_USER}) expectSetAgreement(kind);
+    expectManagerWalks(manager());
+    if (filesChanged_) expectFiles();
+    filesChanged_ = false;
+  }
+
+  /// Expects a second manager to read from the files what the model says of them.
+  void expectFilesToBeReadAgain() {
+    ModelHost second(host_.system, host_.user);
+    second.sets[0].files = sets[0].files;
+    second.sets[1].files = sets[1].files;
+    second.read(KOSTYLE_KIND_USER);
+    second.read(KOSTYLE_KIND_SYSTEM);
+    second.expectAgreement();
+  }
+
+  ModelHost() : manager_(host_.system, host_.user) {}
+
+ protected:
+  KoStyleManager* manager() const { return manager_; }
+  const fs::path& folder(std::size_t kind) const {
+    return kind == KOSTYLE_KIND_SYSTEM ? systemFolder_ : userFolder_;
+  }
+
+  /// Reads a set in both; the order of the files is the library's.
+  void read(std::size_t kind) {
+    EXPECT_EQ(storedSets()[kind].read(manager()), KOSTYLE_OK);
+    std::vector<std::string> order;
+    for (std::size_t i = 0; KoStyleCreationResult* record = storedSets()[kind].recordAt(manager(), i);
+         ++i)
+      order.push_back(fileName(StyleCreationResult_filePath(record)));
+    std::vector<std::string> sorted = order;
+    std::sort(sorted.begin(), sorted.end());
+    std::vector<std::string> expected;
+    for (const auto& [name, file] : sets[kind].files) expected.push_back(name);
+    ASSERT_EQ(sorted, expected);
+    sets[kind].read(order, sets[1 - kind]);
+    for (std::size_t i = 0; i < sets[kind].styles.size(); ++i)
+      sets[kind].styles[i].handle = storedSets()[kind].at(manager(), i);
+  }
+
+  static std::string fileName(const KoStyleChar* path) {
+    const std::string whole = utf8(path);
+    return whole.substr(whole.find_last_of("/\\") + 1);
+  }
+
+  void noteFilesChanged() { filesChanged_ = true; }
+
+  std::vector<MutableModel> mutables;
+  std::array<SetModel, 2> sets;
+
+ private:
+  ModelHost(const fs::path& system, const fs::path& user)
+      : systemFolder_(system), userFolder_(user), manager_(system, user) {}
+
+  static void expectHandles(const MutableModel& model) {
+    for (const Chain& chain : chains()) {
+      const auto& effects = model.chains[chain.type == KOSTYLE_EFFECT_AUDIO ? 0 : 1];
+      for (std::size_t i = 0; i < effects.size(); ++i) {
+        ASSERT_EQ(chain.mutableAt(model.handle, i), effects[i].handle);
+        for (std::size_t j = 0; j < effects[i].parameters.size(); ++j)
+          ASSERT_EQ(MutableEffect_parameter(effects[i].handle, j), effects[i].parameters[j].handle);
+      }
+    }
+  }
+
+  void expectSetAgreement(std::size_t kind) {
+    const SetModel& model = sets[kind];
+    const StoredSet& set = storedSets()[kind];
+    ASSERT_EQ(set.count(manager()), model.styles.size());
+    for (std::size_t i = 0; i < model.styles.size(); ++i) {
+      const StoredModel& style = model.styles[i];
+      ASSERT_EQ(set.at(manager(), i), style.handle);
+      ASSERT_EQ(Style_id(style.handle), style.id);
+      ASSERT_EQ(Style_vendor(style.handle), style.vendor);
+      ASSERT_EQ(Style_path(style.handle), pathText(folder(kind) / style.fileName));
+      ASSERT_EQ(valueOf(style.handle), style.value);
+      expectStyleWalks(style.handle);
+    }
+    ASSERT_EQ(set.recordCount(manager()), model.records.size());
+    for (std::size_t i = 0; i < model.records.size(); ++i) {
+      KoStyleCreationResult* const record = set.recordAt(manager(), i);
+      ASSERT_EQ(StyleCreationResult_error(record), model.records[i].code);
+      ASSERT_EQ(StyleCreationResult_id(record), model.records[i].id);
+      ASSERT_EQ(fileName(StyleCreationResult_filePath(record)), model.records[i].fileName);
+    }
+  }
+
+  void expectFiles() const {
+    for (std::size_t kind : {KOSTYLE_KIND_SYSTEM, KOSTYLE_KIND_USER}) {
+      std::vector<std::string> expected;
+      for (const auto& [name, file] : sets[kind].files) expected.push_back(name);
+      ASSERT_EQ(entryNames(folder(kind)), expected);
+    }
+  }
+
+  Host host_;
+  fs::path systemFolder_ = host_.system;
+  fs::path userFolder_ = host_.user;
+  Manager manager_;
+  bool filesChanged_ = false;
+};
+
+}  // namespace test
