@@ -4,8 +4,10 @@ option(KOSTYLE_COVERAGE "Count the lines that tests reach" OFF)
 
 if(MSVC)
   add_compile_options(/W4 /utf-8)
+  # Exported functions are extern "C" and may throw.
+  string(REPLACE "/EHsc" "/EHs" CMAKE_CXX_FLAGS "${CMAKE_CXX_FLAGS}")
 else()
-  add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -fvisibility=hidden)
+  add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -fvisibility=hidden)
   add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fvisibility-inlines-hidden>)
 endif()
 

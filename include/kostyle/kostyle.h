@@ -15,7 +15,8 @@
  *     again destroys that set's styles and creation results. A handle whose object is gone must not be
  *     passed to any function but HasStyleManager(), the StyleManager_has*Style() functions (as the
  *     style), Style_hasAudioEffect(), Style_hasMidiEffect() (as the effect) and Effect_hasParameter()
- *     (as the parameter), which only compare it.
+ *     (as the parameter), which only compare it; they answer true when a new object of that place has
+ *     taken the address.
  *  2. Null handles and wrong kinds. A function given a null handle, or a handle of its family but of
  *     the wrong kind, changes nothing and returns a fixed default outside the valid range of its
  *     result. Each function names its default; where it names none it is NULL for pointers and false
@@ -34,12 +35,21 @@
  *     no lock: a manager and all that it owns are used by one thread at a time. Different managers may
  *     be used by different threads at the same time. The library starts no thread.
  *  9. Memory. When memory runs out, a function throws std::bad_alloc out of the library and leaves the
- *     manager valid. Only MutableEffect_destroy(), MutableParameter_destroy(), MutableStyle_destroy(),
- *     UserStyle_remove() and the StyleManager_has*Style() functions let no exception out. A host in C
- *     that must survive exhausted memory calls the library through a C++ file that catches it.
+ *     manager valid; an operation on files that had not started to write has changed nothing but
+ *     that the user directory may exist now. Only MutableEffect_destroy(), MutableParameter_destroy(),
+ * MutableStyle_destroy(), UserStyle_remove() and the StyleManager_has*Style() functions let no
+ * exception out. A host in C that must survive exhausted memory calls the library through a C++ file
+ * that catches it, compiled so that extern "C" functions may throw (Microsoft's compiler: /EHs, not
+ * /EHsc).
  * 10. Paths are passed to the operating system as they are given. On Windows they are absolute and use
- *     backslashes; paths longer than 260 units work. Elsewhere they are UTF-16 forms of the system's
- *     UTF-8 paths; a byte b that is not valid UTF-8 stands as the unit 0xDC00 + b.
+ *     backslashes. Paths longer than 260 units are read, created and deleted there, but files are
+ *     opened for writing and renamed by the path as it is, so saving, overwriting and editing need a
+ *     directory given with the prefix for long paths, or a host that is aware of them. Elsewhere paths
+ *     are UTF-16 forms of the system's UTF-8 paths; a byte b that is not valid UTF-8 stands as the
+ *     unit 0xDC00 + b.
+ * 11. Writing a file is not watched once the file is open. A full disk, a text with a lone surrogate
+ *     or a parameter that is infinite or NaN gives no error: the file holds the blocks of 256 bytes
+ *     that were written before, often none. A host that must know reads the file again.
  */
 #ifndef KOSTYLE_KOSTYLE_H
 #define KOSTYLE_KOSTYLE_H

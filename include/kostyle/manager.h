@@ -10,7 +10,8 @@
 /**
  * Returns the manager of an application identifier, creating it when there is none yet.
  *
- * When a manager with the identifier exists, it is returned and all other arguments are ignored.
+ * When a manager with the identifier exists, it is returned and the directories are ignored, though the
+ * arrays must be valid.
  * A new manager starts empty: call StyleManager_readSystemStyles() and StyleManager_readUserStyles().
  * May be called from any thread at any time.
  *

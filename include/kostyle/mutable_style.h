@@ -72,10 +72,11 @@ KOSTYLE_API KoStyleEffect* MutableStyle_insertMidiEffect(KoStyleStyle* style, si
 
 /**
  * Writes the style as a new file of the user style directory, under a new identifier, and adds it to
- * the manager's user styles. On success the mutable style is destroyed; on failure nothing changes.
+ * the manager's user styles. On success the mutable style is destroyed; on failure nothing changes,
+ * but that the user directory may exist now.
  *
- * An effect without parameters is written, but reading the file again skips it. A text with a lone
- * surrogate, or an infinite or NaN value, ends the file in front of it without an error.
+ * An effect without parameters is written, but reading the file again skips it. What goes wrong while
+ * the file is being written, a full disk for instance, gives no error (see the conventions).
  *
  * @param pretty true for one line per member, indented by 4 spaces; false for no white space.
  * @param error receives KOSTYLE_OK, KOSTYLE_ERROR_ARGUMENT_MISSING (the style has no name),
@@ -90,12 +91,15 @@ KOSTYLE_API KoStyleStyle* MutableStyle_save(KoStyleStyle* style, bool pretty, in
 /**
  * Writes the style over the file of a user style, which keeps its identifier, its file name and its
  * handle and takes the new contents. On success the mutable style is destroyed; on failure nothing
- * changes. The handles of the user style's old effects and parameters become invalid.
+ * changes, but that the user directory may exist now. The handles of the user style's old effects and
+ * parameters become invalid.
  *
- * The new file is written beside the old one, the old one is deleted and the new one renamed. When
- * the system refuses the rename the call still succeeds, but the file keeps its temporary name.
+ * The new file is written into the user style directory, the old one is deleted and the new one takes
+ * its name. When the system refuses that, as it does for a style of a further directory on another
+ * volume, the call still succeeds, but the file stays in the user style directory under a bare UUID,
+ * where no read finds it. What goes wrong while the file is being written gives no error either.
  *
- * @param targetID the identifier of the user style to overwrite.
+ * @param targetID the identifier of the user style to overwrite; an empty one finds none.
  * @param pretty as for MutableStyle_save().
  * @param error receives KOSTYLE_OK, KOSTYLE_ERROR_ARGUMENT_MISSING (targetID is null),
  *        KOSTYLE_ERROR_NO_MANAGER, KOSTYLE_ERROR_USER_STYLE_NOT_FOUND,

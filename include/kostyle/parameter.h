@@ -62,7 +62,7 @@ KOSTYLE_API void MutableParameter_setValueInt(KoStyleParameter* parameter, int v
 
 /**
  * Makes the parameter a float of this value. An infinity or a NaN is kept in memory, but JSON cannot
- * express it: a file written with one ends in front of it.
+ * express it: a file with one is not written whole, without an error.
  */
 KOSTYLE_API void MutableParameter_setValueFloat(KoStyleParameter* parameter, float value);
 

@@ -24,13 +24,14 @@ KOSTYLE_API bool PropertyEditor_addColor(KoStylePropertyEditor* editor, const Ko
 
 /**
  * Gives the style the collected name, sub-genres and colours, and writes it over its own file, in
- * place and indented. The editor keeps what it collected. The file loses its vendor text.
+ * place and indented. The editor keeps what it collected. The file loses its vendor text. What goes
+ * wrong while the file is being written gives no error (see the conventions).
  *
  * @param pretty not used.
- * @return true; false when no name of 1 to KOSTYLE_MAX_NAME_LENGTH units was set (nothing happens), when
- *         the file cannot be opened (it stays as it is), or when the style cannot be written (the file
- *         is left empty). After a failure the style in memory is as before, except that a style
- *         without a name keeps the new one.
+ * @return true; false when no name of 1 to KOSTYLE_MAX_NAME_LENGTH units was set (nothing happens),
+ * when the file cannot be opened (it stays as it is), or when the style cannot be written (the file is
+ * left empty). After a failure the style in memory is as before, except that a style without a name
+ * keeps the new one.
  */
 KOSTYLE_API bool PropertyEditor_save(KoStylePropertyEditor* editor, bool pretty);
 

@@ -18,7 +18,10 @@ KOSTYLE_API const KoStyleChar* Style_id(KoStyleStyle* style);
 /** The full path of the style's file; empty for a mutable style. */
 KOSTYLE_API const KoStyleChar* Style_path(KoStyleStyle* style);
 
-/** The display name; empty when the file's name is longer than KOSTYLE_MAX_NAME_LENGTH units. */
+/**
+ * The display name; empty when the file's name is longer than KOSTYLE_MAX_NAME_LENGTH units, and for a
+ * mutable style that has none yet.
+ */
 KOSTYLE_API const KoStyleChar* Style_name(KoStyleStyle* style);
 
 /** Number of languages; SIZE_MAX for a null handle. */

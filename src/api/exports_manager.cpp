@@ -16,14 +16,11 @@ std::vector<Text> copyTexts(const Char* const* texts, int count) {
   return {texts, texts + count};
 }
 
-// A style that the manager does not own may be long gone, so it is compared before it is followed.
+// A style that is not in the set may be long gone, so it is compared before it is followed.
 template <class Target>
-Target* ownedAs(const IStyleManager& manager, IStyleBase* style) {
-  const auto& owner = static_cast<const StyleManager&>(manager);
-  for (const StyleKind kind : {StyleKind::system, StyleKind::user, StyleKind::editable}) {
-    if (owner.styles(kind).contains(style)) return dynamic_cast<Target*>(style);
-  }
-  return nullptr;
+Target* listedAs(const IStyleManager& manager, StyleKind kind, IStyleBase* style) {
+  const StyleSequence& set = static_cast<const StyleManager&>(manager).styles(kind);
+  return set.contains(style) ? dynamic_cast<Target*>(style) : nullptr;
 }
 
 }  // namespace
@@ -88,19 +85,20 @@ KoStyleStyle* StyleManager_userStyle(KoStyleManager* manager, size_t index) {
 }
 
 bool StyleManager_hasSystemStyle(KoStyleManager* manager, KoStyleStyle* style) try {
-  return manager && manager->hasSystemStyle(ownedAs<ISystemStyle>(*manager, style));
+  return manager && manager->hasSystemStyle(listedAs<ISystemStyle>(*manager, StyleKind::system, style));
 } catch (...) {
   return false;
 }
 
 bool StyleManager_hasUserStyle(KoStyleManager* manager, KoStyleStyle* style) try {
-  return manager && manager->hasUserStyle(ownedAs<IUserStyle>(*manager, style));
+  return manager && manager->hasUserStyle(listedAs<IUserStyle>(*manager, StyleKind::user, style));
 } catch (...) {
   return false;
 }
 
 bool StyleManager_hasMutableStyle(KoStyleManager* manager, KoStyleStyle* style) try {
-  return manager && manager->hasMutableStyle(ownedAs<IMutableStyle>(*manager, style));
+  return manager &&
+         manager->hasMutableStyle(listedAs<IMutableStyle>(*manager, StyleKind::editable, style));
 } catch (...) {
   return false;
 }

@@ -29,7 +29,11 @@ class StyleManagerRegistry {
  private:
   StyleManagerRegistry() = default;
 
-  OwnedSequence<StyleManager, IStyleManager, ManagerAppIdOf> managers_;
+  struct AppIdOf {
+    TextView operator()(const StyleManager& manager) const noexcept { return manager.appID(); }
+  };
+
+  OwnedSequence<StyleManager, IStyleManager, AppIdOf> managers_;
   std::mutex lock_;
 };
 

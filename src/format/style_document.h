@@ -1,8 +1,15 @@
-// The names in a style document. Reader and writer take them from here.
+// The names of style files and of what stands in them. Whoever reads or writes takes them from here.
 #pragma once
 
 #include "platform/text.h"
 
+namespace Tesk::KoStyle {
+
+inline constexpr TextView styleFileExtension = KOSTYLE_TEXT(".kostyle");
+
+}  // namespace Tesk::KoStyle
+
+// The keys of a style document.
 namespace Tesk::KoStyle::key {
 
 inline constexpr TextView id = KOSTYLE_TEXT("id");

@@ -44,7 +44,7 @@ bool readRequiredText(const Value& root, TextView key, Text& text, StyleReadOutc
   return !text.empty() || refuse(outcome, KOSTYLE_ERROR_EMPTY_STRING, path);
 }
 
-// An older generation of effects called this parameter by its first four letters.
+// One name is read as another.
 TextView currentName(TextView parameterKey) {
   return parameterKey == KOSTYLE_TEXT("Tarn") ? KOSTYLE_TEXT("Tarn630") : parameterKey;
 }
@@ -124,7 +124,7 @@ bool readDocument(const Value& root, Style& style, StyleReadOutcome& outcome) {
   if (!readRequiredText(root, key::id, id, outcome)) return false;
   if (!readRequiredText(root, key::name, name, outcome)) return false;
   style.assignId(std::move(id));
-  if (name.size() <= KOSTYLE_MAX_NAME_LENGTH) style.assignName(std::move(name));
+  if (isStyleName(name)) style.assignName(std::move(name));
   readChain<AudioEffect>(root, key::audioEffect, style);
   readChain<MidiEffect>(root, key::midiEffect, style);
   if (style.numAudioEffect() == 0 && style.numMidiEffect() == 0) {

@@ -52,16 +52,8 @@ bool ensureDirectory(const Char* path) { return isDirectory(path) || createDirec
 
 bool removePath(const Char* path, const bool& recursive) {
   if (!path) return false;
-  const platform::NativePath longPath = nativeLongPath(path);
-  switch (platform::entryKind(longPath)) {
-    case EntryKind::none:
-      return false;
-    case EntryKind::file:
-      return platform::deleteFile(longPath);
-    case EntryKind::directory:
-      break;
-  }
-  return recursive ? removeDirectoryTree(path) : platform::removeDirectory(longPath);
+  return recursive && isDirectory(path) ? removeDirectoryTree(path)
+                                        : platform::removeEntry(nativeLongPath(path));
 }
 
 bool removeDirectoryTree(const Char* path) {
@@ -71,7 +63,7 @@ bool removeDirectoryTree(const Char* path) {
   const bool enumerated = platform::enumerateDirectory(directory, [&](DirectoryEntry&& entry) {
     const Text entryPath = joinPath(path, entry.name);
     if (entry.isDirectory && !entry.isLink) {
-      // Inverted on purpose: a subdirectory that is gone ends the call, and the host calls again.
+      // Inverted on purpose: a subdirectory that is gone ends the call, and the caller calls again.
       complete = !removeDirectoryTree(entryPath.c_str());
     } else {
       complete = platform::deleteFile(nativeLongPath(entryPath.c_str()));

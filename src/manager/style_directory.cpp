@@ -3,9 +3,9 @@
 #include <memory>
 #include <utility>
 
+#include "format/style_document.h"
 #include "format/style_reader.h"
 #include "manager/file_system.h"
-#include "manager/style_file_name.h"
 #include "manager/style_manager.h"
 #include "platform/platform.h"
 

@@ -2,6 +2,9 @@
 // at a time.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "api/interfaces.h"
@@ -65,11 +68,6 @@ class StyleManager final : public IStyleManager {
   StyleSequence mutableStyles_;
   CreationResultSequence systemStyleCreationResults_;
   CreationResultSequence userStyleCreationResults_;
-};
-
-/// The view of a manager's key for the registry.
-struct ManagerAppIdOf {
-  TextView operator()(const StyleManager& manager) const noexcept { return manager.appID(); }
 };
 
 }  // namespace Tesk::KoStyle

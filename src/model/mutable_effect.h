@@ -1,6 +1,8 @@
 // Effects of mutable styles.
 #pragma once
 
+#include <cstddef>
+
 #include "model/effect_base.h"
 
 namespace Tesk::KoStyle {

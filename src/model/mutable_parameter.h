@@ -1,6 +1,8 @@
 // MutableParameter: a parameter of a mutable style's effect.
 #pragma once
 
+#include <cstdint>
+
 #include "model/parameter_base.h"
 
 namespace Tesk::KoStyle {

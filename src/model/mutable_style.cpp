@@ -21,7 +21,7 @@ IMutableMidiEffect* MutableStyle::midiEffect(const std::size_t& index) const {
 
 bool MutableStyle::setName(const Char* name) {
   const TextView text = name ? TextView(name) : TextView();
-  if (text.empty() || text.size() > KOSTYLE_MAX_NAME_LENGTH) return false;
+  if (!isStyleName(text)) return false;
   assignName(Text(text));
   return true;
 }

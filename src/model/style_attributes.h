@@ -8,6 +8,11 @@
 
 namespace Tesk::KoStyle {
 
+/// Whether a style may be given this name.
+inline bool isStyleName(TextView name) {
+  return !name.empty() && name.size() <= KOSTYLE_MAX_NAME_LENGTH;
+}
+
 struct StyleAttributes {
   SortedSet<int> languages;
   SortedSet<Text> singerGroups;

@@ -57,6 +57,13 @@ bool removeDirectory(const NativePath& path) noexcept;
 
 bool deleteFile(const NativePath& path) noexcept;
 
+/// Removes a file or an empty directory; false when nothing stands there or the system refuses.
+inline bool removeEntry(const NativePath& path) noexcept {
+  const EntryKind kind = entryKind(path);
+  if (kind == EntryKind::directory) return removeDirectory(path);
+  return kind == EntryKind::file && deleteFile(path);
+}
+
 /// Renames a file. A file that has the new name already is in the way on some systems only.
 bool renameFile(const NativePath& from, const NativePath& to) noexcept;
 

@@ -21,17 +21,22 @@ using Directory = std::unique_ptr<DIR, DirectoryCloser>;
 
 bool isDirectory(const struct stat& status) { return S_ISDIR(status.st_mode); }
 
-// Opens regular files only: a pipe would block, a device would answer without end. O_NONBLOCK keeps
-// the opening itself from waiting for a pipe's other end.
-File openRegular(const NativePath& path, int flags, const char* mode) noexcept {
-  constexpr mode_t readWriteForAll = 0666;
-  const int descriptor = open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, readWriteForAll);
+// No terminal becomes ours, and a pipe that took a file's place just now keeps nobody waiting.
+constexpr int quietly = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+
+bool isRegularFile(const NativePath& path) noexcept {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+// A stream over a descriptor of a regular file; otherwise null, and the descriptor is closed.
+File streamOver(int descriptor, const char* mode) noexcept {
   if (descriptor < 0) return nullptr;
   struct stat status {};
-  std::FILE* file = nullptr;
-  if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)) file = fdopen(descriptor, mode);
-  if (!file) close(descriptor);
-  return File(file);
+  std::FILE* stream = nullptr;
+  if (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)) stream = fdopen(descriptor, mode);
+  if (!stream) close(descriptor);
+  return File(stream);
 }
 
 // A link counts as what it leads to.
@@ -84,10 +89,22 @@ bool renameFile(const NativePath& from, const NativePath& to) noexcept {
   return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
-File openForReading(const NativePath& path) noexcept { return openRegular(path, O_RDONLY, "rb"); }
+// Regular files only: opening a pipe or a device has effects of its own.
+File openForReading(const NativePath& path) noexcept {
+  return isRegularFile(path) ? streamOver(open(path.c_str(), O_RDONLY | quietly), "rb") : nullptr;
+}
 
+// The file is emptied last, and goes again if it came with this call, so that a failure changes
+// nothing.
 File openForWriting(const NativePath& path) noexcept {
-  return openRegular(path, O_WRONLY | O_CREAT | O_TRUNC, "wb");
+  constexpr mode_t readWriteForAll = 0666;
+  int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | quietly, readWriteForAll);
+  const bool created = descriptor >= 0;
+  if (!created && isRegularFile(path)) descriptor = open(path.c_str(), O_WRONLY | quietly);
+  File file = streamOver(descriptor, "wb");
+  if (file && ftruncate(descriptor, 0) == 0) return file;
+  if (created) unlink(path.c_str());
+  return nullptr;
 }
 
 Text makeUuid() {

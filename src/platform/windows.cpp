@@ -6,6 +6,7 @@
 #include <memory>
 #include <new>
 #include <type_traits>
+#include <utility>
 
 #include "platform/platform.h"
 
@@ -74,9 +75,12 @@ File openForWriting(const NativePath& path) noexcept { return File(_wfopen(path.
 
 Text makeUuid() {
   UUID uuid{};
-  UuidCreate(&uuid);
+  const RPC_STATUS created = UuidCreate(&uuid);
   RPC_WSTR digits = nullptr;
-  if (UuidToStringW(&uuid, &digits) != RPC_S_OK) throw std::bad_alloc();
+  if ((created != RPC_S_OK && created != RPC_S_UUID_LOCAL_ONLY) ||
+      UuidToStringW(&uuid, &digits) != RPC_S_OK) {
+    throw std::bad_alloc();
+  }
   struct Release {
     void operator()(unsigned short* text) const noexcept { RpcStringFreeW(&text); }
   };

@@ -7,11 +7,6 @@
 #include "writer/style_serializer.h"
 
 namespace Tesk::KoStyle {
-namespace {
-
-bool isName(const Text& name) { return !name.empty() && name.size() <= KOSTYLE_MAX_NAME_LENGTH; }
-
-}  // namespace
 
 bool PropertyEditor::setStyleName(const Char* name) {
   if (!name || *name == 0) return false;
@@ -29,7 +24,7 @@ bool PropertyEditor::addColor(const Char* color) {
 
 // Writes in place and always indented, whatever the argument.
 bool PropertyEditor::save(const bool&) {
-  if (!isName(pending_.name)) return false;
+  if (!isStyleName(pending_.name)) return false;
   Properties properties = pending_;
   const platform::NativePath path = platform::nativePath(style_.path());
   exchange(properties);  // the style has the new properties, `properties` the old ones
@@ -46,7 +41,7 @@ bool PropertyEditor::save(const bool&) {
   if (file && writeStyleFile(*document, true, file.get()) == KOSTYLE_OK) return true;
   exchange(properties);
   // A style without a name of its own, which a file with too long a name gives, keeps the new one.
-  if (!isName(style_.wholeName())) style_.assignName(std::move(properties.name));
+  if (!isStyleName(style_.wholeName())) style_.assignName(std::move(properties.name));
   return false;
 }
 

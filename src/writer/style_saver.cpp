@@ -3,8 +3,8 @@
 #include <memory>
 #include <utility>
 
+#include "format/style_document.h"
 #include "manager/file_system.h"
-#include "manager/style_file_name.h"
 #include "manager/style_manager.h"
 #include "model/user_style.h"
 #include "platform/platform.h"
@@ -14,7 +14,6 @@
 namespace Tesk::KoStyle {
 namespace {
 
-using platform::EntryKind;
 using platform::NativePath;
 
 // A file that a save writes or replaces. Its paths are made ahead, so that nothing here throws.
@@ -26,17 +25,7 @@ class TargetFile {
   // Opening and renaming take the path as it is, testing and deleting the long-path form.
   platform::File open() const noexcept { return platform::openForWriting(path_); }
   void renameTo(const TargetFile& target) const noexcept { platform::renameFile(path_, target.path_); }
-  bool remove() const noexcept {
-    switch (platform::entryKind(longPath_)) {
-      case EntryKind::none:
-        return false;
-      case EntryKind::file:
-        return platform::deleteFile(longPath_);
-      case EntryKind::directory:
-        break;
-    }
-    return platform::removeDirectory(longPath_);
-  }
+  bool remove() const noexcept { return platform::removeEntry(longPath_); }
 
  private:
   NativePath path_;

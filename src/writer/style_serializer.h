@@ -26,7 +26,6 @@ class StyleDocument {
   /// KOSTYLE_OK, or why the style cannot be written: KOSTYLE_ERROR_NO_EFFECT or KOSTYLE_ERROR_WRITE_*.
   std::uint32_t code() const { return code_; }
 
-  json::Document& json() { return json_; }
   const json::Document& json() const { return json_; }
 
  private:
@@ -37,7 +36,7 @@ class StyleDocument {
 /// Writes a document as UTF-8 without a mark to an open file, and returns its code. A document with
 /// another code than KOSTYLE_OK is not written. What goes wrong during the writing itself (a text with
 /// a lone surrogate, an infinite number, a full disk) deliberately goes unreported: the file then holds
-/// what came before.
+/// the blocks of the output's buffer that were written before.
 std::uint32_t writeStyleFile(const StyleDocument& document, bool pretty, std::FILE* file) noexcept;
 
 // The builders. Each adds what it names to `target` and returns a code.
