@@ -2,6 +2,8 @@
 
 #include <kostyle/codes.h>
 
+#include "format/countable_numbers.h"
+
 namespace Tesk::KoStyle {
 namespace {
 
@@ -48,7 +50,7 @@ rapidjson::ParseResult parseStyleDocument(std::FILE* file, json::Document& docum
 
   char buffer[256];
   ByteStream bytes(file, buffer, sizeof buffer);
-  rapidjson::AutoUTFInputStream<unsigned, ByteStream> characters(bytes);
+  CountableNumbers<rapidjson::AutoUTFInputStream<unsigned, ByteStream>> characters(bytes);
   rapidjson::GenericReader<AnyEncoding, json::Encoding, json::ThrowingAllocator> reader;
   rapidjson::ParseResult result;
   auto parse = [&](json::Document& target) {

@@ -44,7 +44,7 @@ class StoredStyleSteps : public MutableStyleSteps {
     const StyleValue value = style->value();
     users().files[name] = FileModel::of(id, value);
     users().styles.push_back({saved, name, id, {}, asStored(value), std::nullopt});
-    forget(*style);
+    forgetConsumed(*style);
     noteFilesChanged();
   }
 
@@ -66,8 +66,13 @@ class StoredStyleSteps : public MutableStyleSteps {
     const StyleValue value = style->value();
     users().files[target->fileName] = FileModel::of(target->id, value);
     target->value = asStored(value);
-    forget(*style);
+    forgetConsumed(*style);
     noteFilesChanged();
+  }
+
+  void forgetConsumed(const MutableModel& style) {
+    EXPECT_FALSE(StyleManager_hasMutableStyle(manager(), style.handle));
+    forget(style);
   }
 
   int expectedOverwrite(const MutableModel& style, const StoredModel* target, bool nullID) {

@@ -1,0 +1,118 @@
+// Texts that the library returned, passed back to change the object that returned them.
+#include <gmock/gmock.h>
+#include <kostyle/kostyle.h>
+
+#include <string>
+
+#include "support/host.h"
+#include "support/style_value.h"
+
+namespace {
+
+using test::text;
+using test::TextList;
+using test::utf8;
+
+class AliasedText : public testing::Test {
+ protected:
+  // Longer than what a string holds in itself, so that a text that is gone is memory that is gone.
+  const test::Text longText = text("a text of more than sixteen units");
+  test::Host host;
+  KoStyleStyle* style = host.createMutableStyle("a name of more than sixteen units");
+  KoStyleEffect* effect = MutableStyle_audioEffect(style, 0);
+  KoStyleParameter* parameter = MutableEffect_parameter(effect, 0);
+};
+
+TEST_F(AliasedText, DeletesFromItsOwnList) {
+  for (const TextList& list : test::textLists()) {
+    SCOPED_TRACE(list.name);
+    const test::Text word(16, KoStyleChar('x'));
+    ASSERT_TRUE(list.add(style, word.c_str()));
+    EXPECT_FALSE(list.add(style, list.at(style, 0)));
+    EXPECT_TRUE(list.remove(style, list.at(style, 0)));
+    EXPECT_EQ(list.count(style), 0u);
+  }
+}
+
+TEST_F(AliasedText, MovesFromListToList) {
+  MutableStyle_addGenre(style, longText.c_str());
+  EXPECT_TRUE(MutableStyle_addSubGenre(style, Style_genre(style, 0)));
+  EXPECT_TRUE(MutableStyle_addColor(style, Style_subGenre(style, 0)));
+  EXPECT_TRUE(MutableStyle_deleteGenre(style, Style_color(style, 0)));
+  EXPECT_EQ(Style_color(style, 0), longText);
+}
+
+TEST_F(AliasedText, IsTheNameAgain) {
+  EXPECT_TRUE(MutableStyle_setName(style, Style_name(style)));
+  EXPECT_EQ(utf8(Style_name(style)), "a name of more than sixteen units");
+  EXPECT_TRUE(MutableStyle_setName(style, Style_name(style) + 7));
+  EXPECT_EQ(utf8(Style_name(style)), "of more than sixteen units");
+}
+
+TEST_F(AliasedText, IsTheParametersNameAgain) {
+  ASSERT_TRUE(MutableParameter_setName(parameter, longText.c_str()));
+  EXPECT_TRUE(MutableParameter_setName(parameter, Parameter_name(parameter)));
+  EXPECT_EQ(Parameter_name(parameter), longText);
+  EXPECT_TRUE(MutableParameter_setName(parameter, Parameter_name(parameter) + 2));
+  EXPECT_EQ(Parameter_name(parameter), longText.substr(2));
+  EXPECT_EQ(MutableEffect_addParameter(effect, Parameter_name(parameter)), nullptr);
+}
+
+TEST_F(AliasedText, IsTheParametersValueAgain) {
+  MutableParameter_setValueString(parameter, longText.c_str());
+  MutableParameter_setValueString(parameter, Parameter_valueString(parameter));
+  EXPECT_EQ(Parameter_valueString(parameter), longText);
+  MutableParameter_setValueString(parameter, Parameter_valueString(parameter) + 2);
+  EXPECT_EQ(Parameter_valueString(parameter), longText.substr(2));
+  MutableParameter_setValueString(parameter, Parameter_name(parameter));
+  EXPECT_EQ(utf8(Parameter_valueString(parameter)), "p");
+  EXPECT_TRUE(MutableParameter_setName(parameter, Parameter_valueString(parameter)));
+}
+
+TEST_F(AliasedText, NamesAnEffectAfterAnother) {
+  EXPECT_EQ(MutableStyle_insertAudioEffect(style, 0, Effect_id(effect)), nullptr);
+  KoStyleEffect* midi = MutableStyle_insertMidiEffect(style, 0, Effect_id(effect));
+  ASSERT_NE(midi, nullptr);
+  EXPECT_EQ(utf8(Effect_id(midi)), "E");
+}
+
+TEST_F(AliasedText, NamesTheStyleToOverwrite) {
+  KoStyleStyle* user = host.addUserStyle("an identifier of more than sixteen units");
+  int error = -1;
+  ASSERT_EQ(MutableStyle_overwrite(style, Style_id(user), true, &error), user);
+  EXPECT_EQ(error, KOSTYLE_OK);
+  EXPECT_EQ(utf8(Style_id(user)), "an identifier of more than sixteen units");
+  EXPECT_EQ(utf8(Style_name(user)), "a name of more than sixteen units");
+  EXPECT_EQ(StyleManager_readUserStyles(host.manager), KOSTYLE_OK);
+  EXPECT_NE(host.userStyle("an identifier of more than sixteen units"), nullptr);
+}
+
+TEST_F(AliasedText, KeepsThePropertiesOfTheEditedStyle) {
+  const std::string id = "an identifier of more than sixteen units";
+  KoStyleStyle* user =
+      host.addUserStyle(id, R"({"id":")" + id + R"(","name":"a name of more than sixteen units",
+             "filter":{"subGenres":["a sub-genre of more than sixteen units"],
+                       "colors":["a colour of more than sixteen units"]},
+             "audioEffect":{"E":{"parameter":{"p":1}}}})");
+  const test::StyleValue before = test::valueOf(user);
+  KoStylePropertyEditor* editor = UserStyle_createPropertyEditor(user);
+  EXPECT_TRUE(PropertyEditor_setStyleName(editor, Style_name(user)));
+  EXPECT_TRUE(PropertyEditor_addSubGenre(editor, Style_subGenre(user, 0)));
+  EXPECT_TRUE(PropertyEditor_addColor(editor, Style_color(user, 0)));
+  EXPECT_TRUE(PropertyEditor_save(editor, false));
+  EXPECT_EQ(test::valueOf(user), before);
+  EXPECT_TRUE(PropertyEditor_setStyleName(editor, Style_name(user) + 2));
+  EXPECT_TRUE(PropertyEditor_save(editor, false));
+  EXPECT_EQ(utf8(Style_name(user)), "name of more than sixteen units");
+}
+
+TEST_F(AliasedText, NamesAManagerThatExists) {
+  int error = -1;
+  KoStyleManager* manager = host.manager;
+  EXPECT_EQ(CreateStyleManager(StyleManager_appID(manager), StyleManager_systemStyleDirPath(manager),
+                               StyleManager_userStyleDirPath(manager), nullptr, 0, nullptr, 0, &error),
+            manager);
+  EXPECT_EQ(error, KOSTYLE_OK);
+}
+
+}  // namespace

@@ -1,0 +1,225 @@
+// Which files of the style directories become styles, and in which order.
+#include <gmock/gmock.h>
+#include <kostyle/kostyle.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "support/host.h"
+
+namespace {
+
+using test::document;
+using test::utf8;
+using test::writeFile;
+using test::fs::path;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+std::vector<std::string> ids(KoStyleManager* manager,
+                             KoStyleStyle* (*at)(KoStyleManager*, std::size_t)) {
+  std::vector<std::string> result;
+  for (std::size_t i = 0; KoStyleStyle* style = at(manager, i); ++i)
+    result.push_back(utf8(Style_id(style)));
+  return result;
+}
+
+/// Identifier and code of each record.
+std::vector<std::string> records(KoStyleManager* manager,
+                                 KoStyleCreationResult* (*at)(KoStyleManager*, std::size_t)) {
+  std::vector<std::string> result;
+  for (std::size_t i = 0; KoStyleCreationResult* record = at(manager, i); ++i) {
+    result.push_back(utf8(StyleCreationResult_id(record)) + ":" +
+                     std::to_string(StyleCreationResult_error(record)));
+  }
+  return result;
+}
+
+class DirectoryScan : public testing::Test {
+ protected:
+  void put(const path& relative, const std::string& id) const {
+    writeFile(directory / relative, document(id, id));
+  }
+  void make(const std::vector<path>& furtherSystem, const std::vector<path>& furtherUser) {
+    manager = std::make_unique<test::Manager>(system, user, furtherSystem, furtherUser);
+  }
+  int readSystem() { return StyleManager_readSystemStyles(*manager); }
+  int readUser() { return StyleManager_readUserStyles(*manager); }
+  std::vector<std::string> systemIDs() { return ids(*manager, StyleManager_systemStyle); }
+  std::vector<std::string> userIDs() { return ids(*manager, StyleManager_userStyle); }
+  std::vector<std::string> systemRecords() {
+    return records(*manager, StyleManager_systemStyleCreationResult);
+  }
+  std::vector<std::string> userRecords() {
+    return records(*manager, StyleManager_userStyleCreationResult);
+  }
+
+  test::TemporaryDirectory directory;
+  path system = directory.folder("system");
+  path user = directory.folder("user");
+  std::unique_ptr<test::Manager> manager = std::make_unique<test::Manager>(system, user);
+};
+
+TEST_F(DirectoryScan, OfAnEmptyDirectorySucceeds) {
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_EQ(readUser(), KOSTYLE_OK);
+  EXPECT_THAT(systemRecords(), IsEmpty());
+  EXPECT_THAT(userRecords(), IsEmpty());
+}
+
+TEST_F(DirectoryScan, TakesOnlyFilesOfTheExtensionDirectlyInside) {
+  put("system/a.kostyle", "a");
+  put("system/b.txt", "b");
+  directory.folder("system/sub");
+  put("system/sub/c.kostyle", "c");
+  directory.folder("system/d.kostyle");
+  put("system/d.kostyle/e.kostyle", "e");
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemIDs(), ElementsAre("a"));
+  EXPECT_THAT(systemRecords(), ElementsAre("a:0"));
+}
+
+TEST_F(DirectoryScan, TakesTheExtensionExactlyAndFromTheLastDot) {
+  for (const char* name : {"A.KOSTYLE", "b.Kostyle", "c.kostyle.old", "d", "kostyle", "e.kostyl",
+                           "f.kostyles", "g.kostyle ~", "h_kostyle"}) {
+    put(path("system") / name, name);
+  }
+  put("system/my.styles.kostyle", "dots");
+  put("system/.kostyle", "bare");
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemIDs(), UnorderedElementsAre("dots", "bare"));
+}
+
+TEST_F(DirectoryScan, LooksForTheLastDotInTheWholePath) {
+  const path dotted = directory.folder("x.kostyle");
+  writeFile(dotted / "noextension", document("a", "a"));
+  make({dotted}, {});
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemRecords(), IsEmpty());
+}
+
+TEST_F(DirectoryScan, KeepsTheFirstOfTwoFilesWithOneIdentifier) {
+  put("system/one.kostyle", "same");
+  put("system/two.kostyle", "same");
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  ASSERT_THAT(systemRecords(), ElementsAre("same:0", "same:22"));
+  ASSERT_THAT(systemIDs(), ElementsAre("same"));
+  EXPECT_EQ(utf8(Style_path(StyleManager_systemStyle(*manager, 0))),
+            utf8(StyleCreationResult_filePath(StyleManager_systemStyleCreationResult(*manager, 0))));
+}
+
+TEST_F(DirectoryScan, RefusesAUserStyleWithASystemStylesIdentifier) {
+  put("system/s.kostyle", "same");
+  put("user/u.kostyle", "same");
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  ASSERT_EQ(readUser(), KOSTYLE_OK);
+  EXPECT_THAT(systemIDs(), ElementsAre("same"));
+  EXPECT_THAT(userIDs(), IsEmpty());
+  EXPECT_THAT(userRecords(), ElementsAre("same:22"));
+}
+
+TEST_F(DirectoryScan, RefusesASystemStyleWithTheIdentifierOfAUserStyleReadBefore) {
+  put("system/s.kostyle", "same");
+  put("user/u.kostyle", "same");
+  ASSERT_EQ(readUser(), KOSTYLE_OK);
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(userIDs(), ElementsAre("same"));
+  EXPECT_THAT(systemIDs(), IsEmpty());
+  EXPECT_THAT(systemRecords(), ElementsAre("same:22"));
+}
+
+TEST_F(DirectoryScan, DoesNotCountTheStylesOfTheSetThatItReplaces) {
+  put("system/s.kostyle", "same");
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemRecords(), ElementsAre("same:0"));
+}
+
+TEST_F(DirectoryScan, GoesOnToTheFurtherDirectoriesInTheirOrder) {
+  directory.folder("second");
+  directory.folder("first");
+  put("system/z.kostyle", "own");
+  put("second/a.kostyle", "second");
+  put("first/b.kostyle", "first");
+  put("user/z.kostyle", "user");
+  make({directory / "second", directory / "first"}, {directory / "first", directory / "second"});
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemIDs(), ElementsAre("own", "second", "first"));
+  make({}, {directory / "first", directory / "second"});
+  EXPECT_EQ(readUser(), KOSTYLE_OK);
+  EXPECT_THAT(userIDs(), ElementsAre("user", "first", "second"));
+  EXPECT_EQ(Style_type(StyleManager_userStyle(*manager, 2)), KOSTYLE_KIND_USER);
+}
+
+TEST_F(DirectoryScan, PassesOverFurtherDirectoriesThatAreNone) {
+  directory.folder("good/sub");
+  directory.folder("empty");
+  put("good/g.kostyle", "g");
+  put("good/sub/s.kostyle", "s");
+  put("file.kostyle", "file");
+  make({directory / "missing", directory / "file.kostyle", path(), directory / "empty",
+        directory / "good"},
+       {});
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemRecords(), ElementsAre("g:0"));
+}
+
+TEST_F(DirectoryScan, ReadsADirectoryThatIsGivenTwiceTwice) {
+  directory.folder("more");
+  put("more/a.kostyle", "a");
+  writeFile(directory / "more" / "bad.kostyle", "{");
+  make({directory / "more", directory / "more"}, {});
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemIDs(), ElementsAre("a"));
+  EXPECT_THAT(systemRecords(), UnorderedElementsAre("a:0", ":17", "a:22", ":17"));
+}
+
+TEST_F(DirectoryScan, LooksForFurtherDirectoriesAnewOnEachRead) {
+  make({directory / "later"}, {});
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemRecords(), IsEmpty());
+  directory.folder("later");
+  put("later/a.kostyle", "a");
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemIDs(), ElementsAre("a"));
+}
+
+TEST_F(DirectoryScan, ReadsFurtherDirectoriesOnlyBesideTheMainOne) {
+  directory.folder("more");
+  put("more/a.kostyle", "a");
+  make({directory / "more"}, {});
+  test::fs::remove_all(system);
+  EXPECT_EQ(readSystem(), 7);
+  EXPECT_THAT(systemRecords(), IsEmpty());
+}
+
+TEST_F(DirectoryScan, KeepsTheOrderOfTheFileSystem) {
+  for (int i = 0; i < 100; ++i)
+    put("user/" + std::to_string(i * 37 % 100) + ".kostyle", std::to_string(i));
+  std::vector<std::string> expected;
+  for (const auto& entry : test::fs::directory_iterator(user))
+    expected.push_back(utf8(test::pathText(entry.path())));
+  ASSERT_EQ(readUser(), KOSTYLE_OK);
+  std::vector<std::string> paths;
+  for (std::size_t i = 0; KoStyleStyle* style = StyleManager_userStyle(*manager, i); ++i)
+    paths.push_back(utf8(Style_path(style)));
+  EXPECT_EQ(paths, expected);
+}
+
+TEST_F(DirectoryScan, ReadsNamesFromEveryPlane) {
+  const std::string names[] = {u8"é", u8"日本", u8"𝄞"};
+  for (const std::string& name : names)
+    writeFile(user / test::fs::u8path(name + ".kostyle"), document(name, name));
+  ASSERT_EQ(readUser(), KOSTYLE_OK);
+  ASSERT_EQ(StyleManager_numUserStyle(*manager), 3u);
+  for (std::size_t i = 0; i < 3; ++i) {
+    KoStyleStyle* style = StyleManager_userStyle(*manager, i);
+    const test::Text expected =
+        test::pathText(user / test::fs::u8path(utf8(Style_id(style)) + ".kostyle"));
+    EXPECT_EQ(Style_path(style), expected);
+  }
+}
+
+}  // namespace

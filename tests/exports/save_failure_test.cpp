@@ -1,0 +1,237 @@
+// The codes of saving and overwriting, in the order in which the steps can fail. A style that fails a
+// step would fail the later ones as well.
+#include <gmock/gmock.h>
+#include <kostyle/kostyle.h>
+
+#include <memory>
+#include <string>
+
+#include "support/host.h"
+#include "support/style_value.h"
+
+#if !defined(_WIN32)
+#include <unistd.h>
+#endif
+
+namespace {
+
+using test::document;
+using test::writeFile;
+using test::fs::path;
+
+class SaveFailure : public testing::Test {
+ protected:
+  void SetUp() override {
+    writeFile(user / "u.kostyle", document("u", "old"));
+    writeFile(system / "s.kostyle", document("s", "old"));
+    ASSERT_EQ(StyleManager_readSystemStyles(manager), KOSTYLE_OK);
+    ASSERT_EQ(StyleManager_readUserStyles(manager), KOSTYLE_OK);
+    target = StyleManager_userStyle(manager, 0);
+  }
+
+  void giveName() { ASSERT_TRUE(MutableStyle_setName(style, KOSTYLE_TEXT("N"))); }
+  void giveEffect() { ASSERT_NE(MutableStyle_insertAudioEffect(style, 0, KOSTYLE_TEXT("E")), nullptr); }
+
+  /// Neither the directory nor its parent can be made: a file is in the parent's place.
+  void makeUserDirectoryNotCreatable() {
+    test::fs::remove_all(parent);
+    writeFile(parent, "in the way");
+  }
+  /// The directory seems to be there, but no file can be made in it.
+  void putFileInUserDirectorysPlace() {
+    test::fs::remove_all(user);
+    writeFile(user, "in the way");
+  }
+
+  // Each expects a code, and that nothing has changed.
+  void expectSave(int code) {
+    int error = -1;
+    const Untouched untouched(*this);
+    EXPECT_EQ(MutableStyle_save(style, true, &error), nullptr);
+    EXPECT_EQ(error, code);
+  }
+  void expectOverwrite(const KoStyleChar* id, int code) {
+    int error = -1;
+    const Untouched untouched(*this);
+    EXPECT_EQ(MutableStyle_overwrite(style, id, true, &error), nullptr);
+    EXPECT_EQ(error, code);
+  }
+
+  struct Untouched {
+    explicit Untouched(const SaveFailure& failing) : test(failing) {}
+    ~Untouched() {
+      EXPECT_TRUE(StyleManager_hasMutableStyle(test.manager, test.style));
+      EXPECT_EQ(test::valueOf(test.style), style);
+      EXPECT_EQ(test::valueOf(test.target), target);
+      EXPECT_EQ(StyleManager_numUserStyle(test.manager), 1u);
+      EXPECT_EQ(test.userEntries(), entries);
+    }
+    const SaveFailure& test;
+    test::StyleValue style = test::valueOf(test.style);
+    test::StyleValue target = test::valueOf(test.target);
+    std::vector<std::string> entries = test.userEntries();
+  };
+  std::vector<std::string> userEntries() const {
+    return is_directory(user) ? test::entryNames(user) : std::vector<std::string>{"no directory"};
+  }
+
+  test::TemporaryDirectory directory;
+  path system = directory.folder("system");
+  path parent = directory / "parent";
+  path user = directory.folder(path("parent") / "user");
+  test::Manager manager{system, user};
+  KoStyleStyle* style = StyleManager_createMutableStyle(manager);
+  KoStyleStyle* target = nullptr;
+};
+
+TEST_F(SaveFailure, OfSavingIs1WithoutAName) {
+  expectSave(1);
+  makeUserDirectoryNotCreatable();
+  expectSave(1);
+}
+
+TEST_F(SaveFailure, OfSavingIs16WhenTheUserDirectoryCannotBeMade) {
+  giveName();
+  makeUserDirectoryNotCreatable();
+  expectSave(16);
+}
+
+TEST_F(SaveFailure, OfSavingIs8WhenTheFileCannotBeOpened) {
+  giveName();
+  putFileInUserDirectorysPlace();
+  expectSave(8);
+}
+
+TEST_F(SaveFailure, OfSavingIs23WithoutAnEffect) {
+  giveName();
+  expectSave(23);
+}
+
+TEST_F(SaveFailure, OfSavingDoesNotKeepTheStyleFromBeingSavedLater) {
+  giveName();
+  expectSave(23);
+  giveEffect();
+  test::Host::save(style);
+  EXPECT_EQ(StyleManager_numUserStyle(manager), 2u);
+  EXPECT_EQ(userEntries().size(), 2u);
+}
+
+TEST_F(SaveFailure, OfOverwritingIs1WithoutAnIdentifier) {
+  makeUserDirectoryNotCreatable();
+  expectOverwrite(nullptr, 1);
+}
+
+TEST_F(SaveFailure, OfOverwritingIs5WhenNoUserStyleHasTheIdentifier) {
+  giveName();
+  giveEffect();
+  for (const KoStyleChar* id : {KOSTYLE_TEXT("x"), KOSTYLE_TEXT(""), KOSTYLE_TEXT("U"),
+                                KOSTYLE_TEXT("u "), KOSTYLE_TEXT("s")}) {
+    expectOverwrite(id, 5);
+  }
+  makeUserDirectoryNotCreatable();
+  expectOverwrite(KOSTYLE_TEXT("x"), 5);
+}
+
+TEST_F(SaveFailure, OfOverwritingIs16WhenTheUserDirectoryCannotBeMade) {
+  makeUserDirectoryNotCreatable();
+  expectOverwrite(KOSTYLE_TEXT("u"), 16);
+}
+
+TEST_F(SaveFailure, OfOverwritingIs8WhenTheTemporaryFileCannotBeOpened) {
+  putFileInUserDirectorysPlace();
+  expectOverwrite(KOSTYLE_TEXT("u"), 8);
+}
+
+TEST_F(SaveFailure, OfOverwritingIs25WithoutAName) {
+  test::fs::remove(user / "u.kostyle");
+  expectOverwrite(KOSTYLE_TEXT("u"), 25);
+}
+
+TEST_F(SaveFailure, OfOverwritingIs23WithoutAnEffect) {
+  giveName();
+  test::fs::remove(user / "u.kostyle");
+  expectOverwrite(KOSTYLE_TEXT("u"), 23);
+}
+
+TEST_F(SaveFailure, OfOverwritingIs10WhenTheTargetIsGone) {
+  giveName();
+  giveEffect();
+  test::fs::remove(user / "u.kostyle");
+  expectOverwrite(KOSTYLE_TEXT("u"), 10);
+  EXPECT_TRUE(userEntries().empty());
+}
+
+TEST_F(SaveFailure, OfOverwritingIs10WhenTheTargetIsADirectoryThatIsNotEmpty) {
+  giveName();
+  giveEffect();
+  test::fs::remove(user / "u.kostyle");
+  test::fs::create_directories(user / "u.kostyle" / "inside");
+  expectOverwrite(KOSTYLE_TEXT("u"), 10);
+}
+
+TEST_F(SaveFailure, OfOverwritingIs10WhenTheUserDirectoryHadToBeMade) {
+  giveName();
+  giveEffect();
+  test::fs::remove_all(parent);
+  int error = -1;
+  EXPECT_EQ(MutableStyle_overwrite(style, KOSTYLE_TEXT("u"), true, &error), nullptr);
+  EXPECT_EQ(error, 10);
+  EXPECT_TRUE(userEntries().empty());
+}
+
+TEST_F(SaveFailure, OfOverwritingDoesNothingWithoutAnErrorPointer) {
+  giveName();
+  giveEffect();
+  const std::string before = test::readFile(user / "u.kostyle");
+  const Untouched untouched(*this);
+  EXPECT_EQ(MutableStyle_overwrite(style, KOSTYLE_TEXT("u"), true, nullptr), nullptr);
+  EXPECT_EQ(test::readFile(user / "u.kostyle"), before);
+}
+
+#if defined(_WIN32)
+
+TEST_F(SaveFailure, OfOverwritingAndRemovingShowsWhenTheFileIsHeldOpen) {
+  giveName();
+  giveEffect();
+  const std::ifstream held(user / "u.kostyle");
+  expectOverwrite(KOSTYLE_TEXT("u"), 10);
+  EXPECT_EQ(UserStyle_remove(target), 9);
+}
+
+TEST_F(SaveFailure, OfOverwritingAndRemovingShowsWhenTheFileIsReadOnly) {
+  giveName();
+  giveEffect();
+  permissions(user / "u.kostyle", test::fs::perms::owner_read);
+  expectOverwrite(KOSTYLE_TEXT("u"), 10);
+  EXPECT_EQ(UserStyle_remove(target), 9);
+  permissions(user / "u.kostyle", test::fs::perms::owner_all);
+  EXPECT_EQ(UserStyle_remove(target), 0);
+}
+
+#else
+
+TEST_F(SaveFailure, OfEveryKindShowsInAReadOnlyDirectory) {
+  if (geteuid() == 0) GTEST_SKIP() << "the superuser may write to a read-only directory";
+  giveName();
+  giveEffect();
+  permissions(user, test::fs::perms::owner_read | test::fs::perms::owner_exec);
+  expectSave(8);
+  expectOverwrite(KOSTYLE_TEXT("u"), 8);
+  EXPECT_EQ(UserStyle_remove(target), 9);
+  int error = -1;
+  const test::Manager below(system, user / "below");
+  EXPECT_EQ(below.error(), 16);
+  permissions(user, test::fs::perms::owner_all);
+  EXPECT_NE(MutableStyle_overwrite(style, KOSTYLE_TEXT("u"), true, &error), nullptr);
+}
+
+TEST_F(SaveFailure, OfReadingShowsNoTraceOfAFileThatCannotBeOpened) {
+  if (geteuid() == 0) GTEST_SKIP() << "the superuser may read any file";
+  permissions(user / "u.kostyle", test::fs::perms::none);
+  EXPECT_EQ(StyleManager_readUserStyles(manager), KOSTYLE_OK);
+  EXPECT_EQ(StyleManager_numUserStyleCreationResult(manager), 0u);
+}
+
+#endif
+
+}  // namespace
