@@ -1,0 +1,38 @@
+#include "tool/tool.h"
+
+namespace {
+
+using test::expectFailure;
+using test::expectSuccess;
+using test::Outcome;
+using test::runTool;
+using testing::HasSubstr;
+using testing::MatchesRegex;
+
+TEST(CommandLine, PrintsVersion) {
+  const Outcome outcome = runTool({"--version"});
+  expectSuccess(outcome);
+  EXPECT_EQ(outcome.out, "kostyle " KOSTYLE_VERSION "\n");
+}
+
+TEST(CommandLine, HelpShowsEveryCommandWithExamples) {
+  const Outcome outcome = runTool({"--help"});
+  expectSuccess(outcome);
+  EXPECT_THAT(outcome.out, HasSubstr("Examples:\n  kostyle list "));
+  for (const std::string command : {"list", "show", "new", "set", "remove"}) {
+    EXPECT_THAT(outcome.out, HasSubstr("\n  " + command + " "));
+    const Outcome help = runTool({command, "--help"});
+    expectSuccess(help);
+    EXPECT_THAT(help.out, HasSubstr("Usage: kostyle " + command));
+    EXPECT_THAT(help.out, HasSubstr(":\n  kostyle " + command + " "));
+  }
+}
+
+TEST(CommandLine, RefusesWrongUse) {
+  expectFailure(runTool({}), 2, "a command is required");
+  expectFailure(runTool({"frob"}), 2, "frob");
+  expectFailure(runTool({"--frob"}), 2, "--frob");
+  expectFailure(runTool({"two\nlines"}), 2, "two\\u000alines");
+}
+
+}  // namespace

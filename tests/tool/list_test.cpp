@@ -1,0 +1,215 @@
+#include "tool/tool.h"
+
+namespace {
+
+using test::argument;
+using test::expectFailure;
+using test::expectSuccess;
+using test::Outcome;
+using test::parseJson;
+using test::printed;
+using test::runTool;
+using test::styleText;
+using test::writeFile;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class List : public testing::Test {
+ protected:
+  const test::TemporaryDirectory directory_;
+  const test::fs::path system_ = directory_.folder("system");
+  const test::fs::path user_ = directory_.folder("user");
+};
+
+TEST_F(List, AlignsColumnsByDisplay) {
+  writeFile(system_ / "a.kostyle",
+            R"({"id":"night","name":"港の夜","filter":{"languages":[4,1],"singerGroups":["Duo","Choir"],
+                "singerIDs":["0123456789abcdef"],"genres":["演歌"],"subGenres":["Bálade"],"colors":["red"]},
+                "audioEffect":{"A":{"parameter":{}}},"midiEffect":{"M":{"parameter":{}}}})");
+  writeFile(user_ / "b.kostyle", styleText("p", "Plain"));
+  const Outcome outcome = runTool({"list", "--system", argument(system_), "--user", argument(user_)});
+  expectSuccess(outcome);
+  EXPECT_EQ(outcome.out,
+            "KIND    NAME    ID     LANGUAGES  SINGER GROUPS  GENRES  SUB-GENRES  COLORS  EFFECTS\n"
+            "system  港の夜  night  1, 4       Choir, Duo     演歌    Bálade      red     2\n"
+            "user    Plain   p                                                            1\n");
+}
+
+TEST_F(List, KeepsControlCharactersFromTheTerminal) {
+  writeFile(system_ / "a.kostyle", styleText("a\\u001b[2J", "two\\nlines"));
+  const Outcome outcome = runTool({"list", "--system", argument(system_)});
+  EXPECT_THAT(outcome.out, HasSubstr("system  two\\u000alines  a\\u001b[2J"));
+}
+
+TEST_F(List, SaysWhatWasRefusedAndWhy) {
+  writeFile(system_ / "good.kostyle", styleText("s", "Good"));
+  writeFile(user_ / "comma.kostyle", R"({"id":"x",})");
+  writeFile(user_ / "nameless.kostyle", R"({"id":"x"})");
+  writeFile(user_ / "same.kostyle", styleText("s", "Same"));
+  const Outcome outcome = runTool({"list", "--system", argument(system_), "--user", argument(user_)});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.err, "");
+  EXPECT_THAT(outcome.out, HasSubstr("\n\nRefused:\n"));
+  const auto line = [&](const char* file, const std::string& reason) {
+    return HasSubstr('\n' + printed(user_ / file) + ": " + reason + '\n');
+  };
+  EXPECT_THAT(outcome.out,
+              line("comma.kostyle", "not valid JSON: an object member has no name, byte offset 11"));
+  EXPECT_THAT(outcome.out, line("nameless.kostyle", "required member is missing at /name"));
+  EXPECT_THAT(outcome.out, line("same.kostyle", "another style has the same identifier: s"));
+}
+
+TEST_F(List, PrintsEverythingAsJson) {
+  writeFile(system_ / "a.kostyle",
+            R"({"id":"n","name":"N\"","vendor":"V","filter":{"languages":[4,1],"singerGroups":["g"],
+                "singerIDs":["0123456789abcdef"],"genres":["b","a"],"subGenres":["s"],"colors":["c"]},
+                "audioEffect":{"EQ":{"parameter":{"gain":1.5,"band":3,"mode":"warm"}}},
+                "midiEffect":{"M":{"parameter":{}}}})");
+  const Outcome outcome = runTool({"list", "--system", argument(system_), "--json"});
+  expectSuccess(outcome);
+  const auto document = parseJson(outcome.out);
+  ASSERT_EQ(document["styles"].Size(), 1u);
+  const auto& style = document["styles"][0];
+  EXPECT_STREQ(style["kind"].GetString(), "system");
+  EXPECT_STREQ(style["id"].GetString(), "n");
+  EXPECT_STREQ(style["name"].GetString(), "N\"");
+  EXPECT_EQ(style["path"].GetString(), printed(system_ / "a.kostyle"));
+  EXPECT_STREQ(style["vendor"].GetString(), "V");
+  ASSERT_EQ(style["languages"].Size(), 2u);
+  EXPECT_EQ(style["languages"][0].GetInt(), 1);
+  EXPECT_EQ(style["languages"][1].GetInt(), 4);
+  EXPECT_THAT(test::texts(style["singerGroups"]), ElementsAre("g"));
+  EXPECT_THAT(test::texts(style["singerIDs"]), ElementsAre("0123456789abcdef"));
+  EXPECT_THAT(test::texts(style["genres"]), ElementsAre("a", "b"));
+  EXPECT_THAT(test::texts(style["subGenres"]), ElementsAre("s"));
+  EXPECT_THAT(test::texts(style["colors"]), ElementsAre("c"));
+  EXPECT_THAT(test::effects(style["audioEffects"]), ElementsAre("EQ(band int,gain float,mode text)"));
+  EXPECT_THAT(test::effects(style["midiEffects"]), ElementsAre("M()"));
+  EXPECT_EQ(document["refused"].Size(), 0u);
+  EXPECT_EQ(document["unopened"].Size(), 0u);
+}
+
+TEST_F(List, PrintsRefusalsAsJson) {
+  writeFile(user_ / "bad.kostyle", "\xEF\xBB\xBF[1,");
+  const Outcome syntax =
+      runTool({"list", "--system", argument(system_), "--user", argument(user_), "--json"});
+  EXPECT_EQ(syntax.exitCode, 1);
+  const auto document = parseJson(syntax.out);
+  ASSERT_EQ(document["refused"].Size(), 1u);
+  const auto& refused = document["refused"][0];
+  EXPECT_STREQ(refused["kind"].GetString(), "user");
+  EXPECT_EQ(refused["path"].GetString(), printed(user_ / "bad.kostyle"));
+  EXPECT_EQ(refused["code"].GetInt(), 17);
+  EXPECT_STREQ(refused["text"].GetString(), "not valid JSON");
+  EXPECT_EQ(refused["parseError"]["code"].GetInt(), 3);
+  EXPECT_STREQ(refused["parseError"]["text"].GetString(), "not a value");
+  EXPECT_EQ(refused["parseError"]["offset"].GetInt(), 6);
+
+  writeFile(user_ / "bad.kostyle", R"({"id":7})");
+  const auto wrongType = parseJson(
+      runTool({"list", "--system", argument(system_), "--user", argument(user_), "--json"}).out);
+  EXPECT_EQ(wrongType["refused"][0]["code"].GetInt(), 20);
+  EXPECT_STREQ(wrongType["refused"][0]["jsonPath"].GetString(), "/id");
+  EXPECT_FALSE(wrongType["refused"][0].HasMember("parseError"));
+}
+
+TEST_F(List, ReadsFurtherDirectories) {
+  writeFile(system_ / "a.kostyle", styleText("a", "A"));
+  writeFile(directory_.folder("s1") / "b.kostyle", styleText("b", "B"));
+  writeFile(directory_.folder("s2") / "c.kostyle", styleText("c", "C"));
+  writeFile(user_ / "d.kostyle", styleText("d", "D"));
+  writeFile(directory_.folder("u1") / "e.kostyle", styleText("e", "E"));
+  const Outcome outcome =
+      runTool({"list", "--json", "--system", argument(system_), "--system-extra",
+               argument(directory_ / "s1"), "--system-extra", argument(directory_ / "s2"), "--user",
+               argument(user_), "--user-extra", argument(directory_ / "u1")});
+  expectSuccess(outcome);
+  const auto document = parseJson(outcome.out);
+  std::vector<std::string> ids;
+  for (const auto& style : document["styles"].GetArray())
+    ids.push_back(std::string(style["kind"].GetString()) + ' ' + style["id"].GetString());
+  EXPECT_THAT(ids, ElementsAre("system a", "system b", "system c", "user d", "user e"));
+}
+
+TEST_F(List, TakesRelativePathsWithForwardSlashes) {
+  const auto relative = test::fs::relative(test::exampleStyles() / "system").generic_u8string();
+  ASSERT_FALSE(test::fs::u8path(relative).is_absolute());
+  const Outcome outcome = runTool({"list", "--system", relative + "/../system/"});
+  expectSuccess(outcome);
+  EXPECT_THAT(outcome.out, HasSubstr("morning-light"));
+}
+
+TEST_F(List, LeavesDirectoriesAsTheyAre) {
+  writeFile(system_ / "a.kostyle", styleText("a", "A"));
+  const auto before = test::contents(directory_.path());
+  expectSuccess(runTool({"list", "--system", argument(system_)}));
+  expectSuccess(runTool({"list", "--system", argument(system_), "--user", argument(user_)}));
+  EXPECT_EQ(test::contents(directory_.path()), before);
+}
+
+TEST_F(List, AcceptsAnEmptyDirectory) {
+  const Outcome outcome = runTool({"list", "--system", argument(system_)});
+  expectSuccess(outcome);
+  EXPECT_THAT(outcome.out, StartsWith("KIND"));
+}
+
+TEST_F(List, RefusesWrongUse) {
+  const std::string system = argument(system_);
+  const std::string missing = argument(directory_ / "missing");
+  expectFailure(runTool({"list"}), 2, "--system is required");
+  expectFailure(runTool({"list", "--system"}), 2, "--system");
+  expectFailure(runTool({"list", "--system", system, "--frob"}), 2, "--frob");
+  expectFailure(runTool({"list", "--system", system, "more"}), 2, "more");
+  expectFailure(runTool({"list", "--system", ""}), 2, "empty");
+  expectFailure(runTool({"list", "--system", missing}), 2, "missing: no such directory");
+  expectFailure(runTool({"list", "--system", system, "--user", missing}), 2, "no such directory");
+  expectFailure(runTool({"list", "--system", system, "--system-extra", missing}), 2,
+                "no such directory");
+  expectFailure(
+      runTool({"list", "--system", system, "--user", argument(user_), "--user-extra", missing}), 2,
+      "no such directory");
+  expectFailure(runTool({"list", "--system", system, "--user-extra", argument(user_)}), 2, "--user");
+  EXPECT_FALSE(test::fs::exists(directory_ / "missing"));
+}
+
+#if defined(_WIN32)
+TEST_F(List, ReportsFilesThatCannotBeOpened) {
+  const auto path = system_ / "locked.kostyle";
+  const HANDLE lock = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+  ASSERT_NE(lock, INVALID_HANDLE_VALUE);
+  const Outcome outcome = runTool({"list", "--system", argument(system_)});
+  CloseHandle(lock);
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.out, HasSubstr(printed(path) + ": cannot be opened\n"));
+}
+#else
+TEST_F(List, ReportsFilesThatCannotBeOpened) {
+  test::fs::create_symlink("nowhere", system_ / "lost.kostyle");
+  const Outcome outcome = runTool({"list", "--system", argument(system_)});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.out, HasSubstr(printed(system_ / "lost.kostyle") + ": cannot be opened\n"));
+  const auto document = parseJson(runTool({"list", "--system", argument(system_), "--json"}).out);
+  EXPECT_THAT(test::texts(document["unopened"]), ElementsAre(printed(system_ / "lost.kostyle")));
+}
+
+TEST_F(List, WritesStrayBytesOfPathsAsTheyAre) {
+  const auto folder = directory_.folder("ca\xE9");
+  writeFile(folder / "\xFF.kostyle", "{");
+  const Outcome outcome = runTool({"list", "--system", argument(folder)});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.out, HasSubstr("/ca\xE9/\xFF.kostyle: not valid JSON"));
+  const auto document = parseJson(runTool({"list", "--system", argument(folder), "--json"}).out);
+  EXPECT_THAT(document["refused"][0]["path"].GetString(), HasSubstr("/ca\uFFFD/\uFFFD.kostyle"));
+}
+
+TEST_F(List, ReportsOutputThatCannotBeWritten) {
+  writeFile(system_ / "a.kostyle", styleText("a", "A"));
+  EXPECT_EQ(test::runTo("/dev/full", directory_ / "err", KOSTYLE_TOOL,
+                        {"list", "--system", argument(system_)}),
+            1);
+  EXPECT_THAT(test::readFile(directory_ / "err"), HasSubstr("cannot be written"));
+}
+#endif
+
+}  // namespace

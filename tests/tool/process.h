@@ -1,0 +1,117 @@
+// Runs a program to its end and keeps what it printed.
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "support/temporary_directory.h"
+
+#if defined(_WIN32)
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+
+extern char** environ;
+#endif
+
+namespace test {
+
+struct Outcome {
+  int exitCode;
+  std::string out;
+  std::string err;
+};
+
+#if defined(_WIN32)
+
+/// An argument as the C runtime takes it apart again.
+inline std::wstring quotedArgument(const std::wstring& argument) {
+  std::wstring quoted = L"\"";
+  std::size_t backslashes = 0;
+  for (const wchar_t unit : argument) {
+    if (unit == L'"') quoted.append(backslashes + 1, L'\\');
+    backslashes = unit == L'\\' ? backslashes + 1 : 0;
+    quoted += unit;
+  }
+  return quoted.append(backslashes, L'\\') + L'"';
+}
+
+inline HANDLE createInherited(const fs::path& path) {
+  SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+  const DWORD attributes = FILE_ATTRIBUTE_NORMAL;
+  const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited,
+                                  CREATE_ALWAYS, attributes, nullptr);
+  if (file == INVALID_HANDLE_VALUE) throw std::runtime_error("cannot create " + path.string());
+  return file;
+}
+
+inline int runTo(const fs::path& out, const fs::path& err, const std::string& program,
+                 const std::vector<std::string>& arguments) {
+  const std::wstring application = fs::absolute(fs::u8path(program)).make_preferred().native();
+  std::wstring commandLine = quotedArgument(application);
+  for (const auto& argument : arguments) commandLine += L' ' + quotedArgument(text(argument));
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdOutput = createInherited(out);
+  startup.hStdError = createInherited(err);
+  PROCESS_INFORMATION process{};
+  const bool started = CreateProcessW(application.c_str(), commandLine.data(), nullptr, nullptr, TRUE,
+                                      0, nullptr, nullptr, &startup, &process);
+  DWORD exitCode = 0;
+  if (started) {
+    WaitForSingleObject(process.hProcess, INFINITE);
+    GetExitCodeProcess(process.hProcess, &exitCode);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+  }
+  CloseHandle(startup.hStdOutput);
+  CloseHandle(startup.hStdError);
+  if (!started) throw std::runtime_error("cannot start " + program);
+  return static_cast<int>(exitCode);
+}
+
+#else
+
+inline int runTo(const fs::path& out, const fs::path& err, const std::string& program,
+                 const std::vector<std::string>& arguments) {
+  std::vector<std::string> all{program};
+  all.insert(all.end(), arguments.begin(), arguments.end());
+  std::vector<char*> pointers;
+  for (std::string& argument : all) pointers.push_back(argument.data());
+  pointers.push_back(nullptr);
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  constexpr int flags = O_WRONLY | O_CREAT | O_TRUNC;
+  posix_spawn_file_actions_addopen(&actions, 1, out.c_str(), flags, 0600);
+  posix_spawn_file_actions_addopen(&actions, 2, err.c_str(), flags, 0600);
+  pid_t process = 0;
+  const int error = posix_spawn(&process, program.c_str(), &actions, nullptr, pointers.data(), environ);
+  posix_spawn_file_actions_destroy(&actions);
+  if (error != 0) throw std::runtime_error("cannot start " + program);
+  int status = 0;
+  waitpid(process, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+#endif
+
+/// Printed lines end in \n on every system.
+inline std::string readPrinted(const fs::path& path) {
+  std::string text = readFile(path);
+  for (std::size_t end = text.find("\r\n"); end != text.npos; end = text.find("\r\n", end))
+    text.erase(end, 1);
+  return text;
+}
+
+inline Outcome run(const std::string& program, const std::vector<std::string>& arguments) {
+  const TemporaryDirectory directory;
+  const int exitCode = runTo(directory / "out", directory / "err", program, arguments);
+  return {exitCode, readPrinted(directory / "out"), readPrinted(directory / "err")};
+}
+
+}  // namespace test

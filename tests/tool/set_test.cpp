@@ -1,0 +1,254 @@
+#include "tool/tool.h"
+
+namespace {
+
+using test::argument;
+using test::Arguments;
+using test::expectFailure;
+using test::expectSuccess;
+using test::Outcome;
+using test::parseJson;
+using test::printed;
+using test::runTool;
+using test::styleText;
+using test::writeFile;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using test::operator+;
+
+class Set : public testing::Test {
+ protected:
+  Outcome change(const Arguments& arguments) const {
+    return runTool(Arguments{"set", "S", "--user", argument(user_)} + arguments);
+  }
+  rapidjson::Document show() const {
+    return parseJson(runTool({"show", argument(file_), "--json"}).out);
+  }
+
+  const test::TemporaryDirectory directory_;
+  const test::fs::path user_ = directory_.folder("user");
+  const test::fs::path file_ = user_ / "mine.kostyle";
+};
+
+constexpr const char* wholeStyle = R"({"id":"S","name":"Whole",
+  "filter":{"languages":[0,2],"singerGroups":["Choir","Duo"],"singerIDs":["0123456789abcdef"],
+            "genres":["Pop","Folk"],"subGenres":["Waltz"],"colors":["red"]},
+  "audioEffect":{"EQ":{"parameter":{"gain":0.1,"band":-3,"mode":"warm","note":""}},
+                 "Reverb":{"parameter":{"mix":0.5}}},
+  "midiEffect":{"Arp":{"parameter":{"rate":2.0}}}})";
+
+TEST_F(Set, KeepsWhatIsNotChanged) {
+  writeFile(file_, wholeStyle);
+  auto before = show();
+  const Outcome outcome = change({"--name", "Renamed"});
+  expectSuccess(outcome);
+  EXPECT_EQ(outcome.out, "S\t" + printed(file_) + "\n");
+  EXPECT_THAT(test::entryNames(user_), ElementsAre("mine.kostyle"));
+  before["name"] = "Renamed";
+  EXPECT_EQ(show(), before);
+}
+
+TEST_F(Set, ChangesEverything) {
+  writeFile(file_, wholeStyle);
+  expectSuccess(change({"--add-language",
+                        "4",
+                        "--delete-language",
+                        "0",
+                        "--add-singer-group",
+                        "Solo",
+                        "--delete-singer-group",
+                        "Duo",
+                        "--add-singer-id",
+                        "fedcba9876543210",
+                        "--delete-singer-id",
+                        "0123456789abcdef",
+                        "--add-genre",
+                        "Rock",
+                        "--delete-genre",
+                        "Pop",
+                        "--add-sub-genre",
+                        "Polka",
+                        "--delete-sub-genre",
+                        "Waltz",
+                        "--add-color",
+                        "blue",
+                        "--delete-color",
+                        "red",
+                        "--audio-effect",
+                        "Delay",
+                        "--delete-audio-effect",
+                        "Reverb",
+                        "--midi-effect",
+                        "Swing",
+                        "--delete-midi-effect",
+                        "Arp",
+                        "--param",
+                        "EQ.band=0.5",
+                        "--param",
+                        "Delay.time=3",
+                        "--param",
+                        "Swing.amount=0.1",
+                        "--delete-param",
+                        "EQ.mode",
+                        "--delete-param",
+                        "audio:EQ.note"}));
+  const auto style = show();
+  EXPECT_STREQ(style["name"].GetString(), "Whole");
+  EXPECT_EQ(style["languages"][0].GetInt(), 2);
+  EXPECT_EQ(style["languages"][1].GetInt(), 4);
+  EXPECT_THAT(test::texts(style["singerGroups"]), ElementsAre("Choir", "Solo"));
+  EXPECT_THAT(test::texts(style["singerIDs"]), ElementsAre("fedcba9876543210"));
+  EXPECT_THAT(test::texts(style["genres"]), ElementsAre("Folk", "Rock"));
+  EXPECT_THAT(test::texts(style["subGenres"]), ElementsAre("Polka"));
+  EXPECT_THAT(test::texts(style["colors"]), ElementsAre("blue"));
+  EXPECT_THAT(test::effects(style["audioEffects"]),
+              ElementsAre("EQ(band float,gain float)", "Delay(time int)"));
+  EXPECT_THAT(test::effects(style["midiEffects"]), ElementsAre("Swing(amount float)"));
+}
+
+TEST_F(Set, DeletesBeforeItAdds) {
+  writeFile(file_, wholeStyle);
+  expectSuccess(change({"--add-genre", "Pop", "--delete-genre", "Pop", "--audio-effect", "EQ",
+                        "--delete-audio-effect", "EQ", "--param", "EQ.new=1"}));
+  const auto style = show();
+  EXPECT_THAT(test::texts(style["genres"]), ElementsAre("Folk", "Pop"));
+  EXPECT_THAT(test::effects(style["audioEffects"]), ElementsAre("Reverb(mix float)", "EQ(new int)"));
+}
+
+TEST_F(Set, ChangesTheLayout) {
+  writeFile(file_, styleText("S", "N"));
+  expectSuccess(change({"--pretty"}));
+  EXPECT_EQ(test::readFile(file_).substr(0, 16), "{\n    \"id\": \"S\",");
+}
+
+TEST_F(Set, SaysThatTheVendorTextIsLost) {
+  writeFile(file_,
+            R"({"id":"S","name":"N","vendor":"Ours","audioEffect":{"E":{"parameter":{"p":1}}}})");
+  const Outcome outcome = change({"--add-genre", "Pop"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.err, "kostyle: notice: the vendor text is lost: \"Ours\"\n");
+  EXPECT_STREQ(show()["vendor"].GetString(), "");
+}
+
+TEST_F(Set, SaysThatEffectsWithoutParametersAreLost) {
+  writeFile(
+      file_,
+      R"({"id":"S","name":"N","audioEffect":{"Bare":{"parameter":{}},"E":{"parameter":{"p":1}}}})");
+  const Outcome outcome = change({"--add-genre", "Pop"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_THAT(outcome.err, HasSubstr("notice: effects without parameters"));
+  EXPECT_THAT(test::effects(show()["audioEffects"]), ElementsAre("E(p int)"));
+}
+
+TEST_F(Set, RefusalLeavesTheFile) {
+  struct Case {
+    Arguments arguments;
+    int exitCode;
+    const char* why;
+  };
+  const Case cases[] = {
+      {{}, 2, "nothing is to be changed"},
+      {{"--name", ""}, 1, "name \"\" is refused"},
+      {{"--name", std::string(101, 'n')}, 1, "not 1 to 100 UTF-16 units long"},
+      {{"--add-language", "1", "--add-language", "3", "--add-language", "4", "--add-language", "5"},
+       1,
+       "language 5 is refused"},
+      {{"--delete-language", "1"}, 1, "language 1 is not there"},
+      {{"--add-genre", "Pop"}, 1, "genre \"Pop\" is refused: empty, or there already"},
+      {{"--delete-genre", "Rock"}, 1, "genre \"Rock\" is not there"},
+      {{"--delete-color", ""}, 1, "color \"\" is not there"},
+      {{"--add-singer-id", "short"}, 1, "not 16 UTF-16 units long"},
+      {{"--audio-effect", "EQ"}, 1, "audio-effect \"EQ\" is refused"},
+      {{"--delete-audio-effect", "Arp"}, 1, "audio-effect \"Arp\" is not there"},
+      {{"--delete-midi-effect", "EQ"}, 1, "midi-effect \"EQ\" is not there"},
+      {{"--delete-param", "EQ.missing"}, 1, "the effect has no such parameter"},
+      {{"--delete-param", "Gone.x"}, 1, "the style has no such effect"},
+      {{"--delete-param", "EQ"}, 2, "EFFECT.NAME"},
+      {{"--param", "Gone.x=1"}, 1, "the style has no such effect"},
+      {{"--param", "EQ.gain=1", "--param", "EQ.gain=2"}, 2, "given twice"},
+      {{"--delete-audio-effect", "EQ", "--delete-audio-effect", "Reverb", "--delete-midi-effect",
+        "Arp"},
+       1,
+       "the style has no effect"},
+      {{"--delete-audio-effect", "EQ", "--delete-midi-effect", "Arp", "--delete-param", "Reverb.mix"},
+       1,
+       "no effect has a parameter"},
+      {{"--genre", "Rock"}, 2, "--genre"},
+  };
+  writeFile(file_, wholeStyle);
+  const auto before = test::contents(directory_.path());
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.why);
+    expectFailure(change(each.arguments), each.exitCode, each.why);
+    EXPECT_EQ(test::contents(directory_.path()), before);
+  }
+}
+
+TEST_F(Set, RefusesWhatCannotBeWritten) {
+  const auto refused = [&](const std::string& text, const char* why) {
+    writeFile(file_, text);
+    expectFailure(change({"--add-genre", "Pop"}), 1, why);
+    EXPECT_EQ(test::readFile(file_), text);
+  };
+  refused(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p":1e39}}}})", "infinite");
+  const std::string good = R"("audioEffect":{"E":{"parameter":{"p":1}}})";
+  refused(R"({"id":"S","name":"a\udc41",)" + good + "}", "lone surrogate");
+  refused(R"({"id":"S","name":"N","filter":{"colors":["a\udc41"]},)" + good + "}", "lone surrogate");
+  refused(R"({"id":"S","name":"N","audioEffect":{"E\udc41":{"parameter":{"p":1}}}})", "lone surrogate");
+  refused(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p\udc41":1}}}})", "lone surrogate");
+  refused(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p":"\udc41"}}}})",
+          "lone surrogate");
+  expectSuccess(change({"--param", "E.p=1"}));
+}
+
+TEST_F(Set, StyleWhoseNameWasTooLongNeedsANewOne) {
+  writeFile(file_, styleText("S", std::string(101, 'n')));
+  expectFailure(change({"--add-genre", "Pop"}), 1, "the name is empty");
+  expectSuccess(change({"--add-genre", "Pop", "--name", "Short"}));
+  EXPECT_STREQ(show()["name"].GetString(), "Short");
+}
+
+TEST_F(Set, ChangesUserStylesOnly) {
+  const auto system = directory_.folder("system");
+  writeFile(system / "s.kostyle", styleText("S", "System"));
+  writeFile(file_, styleText("S", "User"));
+  const auto before = test::contents(directory_.path());
+  expectFailure(change({"--name", "X", "--system", argument(system)}), 1,
+                "S: a system style is never changed");
+  expectFailure(runTool({"set", "T", "--user", argument(user_), "--name", "X"}), 1,
+                "T: no style has this identifier");
+  EXPECT_EQ(test::contents(directory_.path()), before);
+}
+
+TEST_F(Set, ChangesStylesOfFurtherDirectoriesInPlace) {
+  const auto more = directory_.folder("more");
+  writeFile(more / "far.kostyle", styleText("far", "Far"));
+  const Outcome outcome = runTool(
+      {"set", "far", "--user", argument(user_), "--user-extra", argument(more), "--name", "Near"});
+  expectSuccess(outcome);
+  EXPECT_EQ(outcome.out, "far\t" + printed(more / "far.kostyle") + "\n");
+  EXPECT_THAT(test::readFile(more / "far.kostyle"), HasSubstr("\"name\":\"Near\""));
+  EXPECT_TRUE(test::fs::is_empty(user_));
+}
+
+TEST_F(Set, RefusesWrongUse) {
+  expectFailure(runTool({"set", "--user", argument(user_), "--name", "X"}), 2, "ID is required");
+  expectFailure(runTool({"set", "S", "--name", "X"}), 2, "--user is required");
+  expectFailure(runTool({"set", "S", "--user", argument(directory_ / "no"), "--name", "X"}), 2,
+                "no such directory");
+  EXPECT_FALSE(test::fs::exists(directory_ / "no"));
+}
+
+#if !defined(_WIN32)
+TEST_F(Set, KeepsTheFileOnAFullDisk) {
+  writeFile(file_, wholeStyle);
+  const auto before = test::contents(directory_.path());
+  const Outcome outcome = test::runToolOnFullDisk(
+      1, {"set", "S", "--user", argument(user_), "--add-genre", std::string(2000, 'g')});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.out, HasSubstr("not valid JSON: a string has no closing quotation mark"));
+  EXPECT_EQ(test::contents(directory_.path()), before);
+}
+#endif
+
+}  // namespace

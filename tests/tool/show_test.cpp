@@ -1,0 +1,187 @@
+#include "tool/tool.h"
+
+#include <cstdlib>
+
+namespace {
+
+using test::argument;
+using test::expectFailure;
+using test::expectSuccess;
+using test::Outcome;
+using test::parseJson;
+using test::printed;
+using test::runTool;
+using test::styleText;
+using test::writeFile;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using test::operator+;
+
+class Show : public testing::Test {
+ protected:
+  const test::TemporaryDirectory directory_;
+  const test::fs::path system_ = directory_.folder("system");
+  const test::fs::path user_ = directory_.folder("user");
+};
+
+constexpr const char* wholeStyle = R"({"id":"S1","name":"Whole","vendor":"Ours",
+  "filter":{"languages":[0,2],"singerGroups":["Choir","Duo"],"singerIDs":["0123456789abcdef"],
+            "genres":["Pop"],"colors":["red"]},
+  "audioEffect":{"EQ":{"parameter":{"gain":0.1,"band":-3,"mode":"say \"hi\"\n"}},"Dry":{"parameter":{}}},
+  "midiEffect":{"Arp":{"parameter":{"rate":2.0}}}})";
+
+TEST_F(Show, PrintsStyleAsTree) {
+  writeFile(system_ / "one.kostyle", wholeStyle);
+  const Outcome outcome = runTool({"show", "S1", "--system", argument(system_)});
+  expectSuccess(outcome);
+  EXPECT_EQ(outcome.out,
+            "Whole\n"
+            "├─ id: S1\n"
+            "├─ kind: system\n"
+            "├─ path: " +
+                printed(system_ / "one.kostyle") +
+                "\n"
+                "├─ vendor: Ours\n"
+                "├─ languages: 0, 2\n"
+                "├─ singer groups: Choir, Duo\n"
+                "├─ singer ids: 0123456789abcdef\n"
+                "├─ genres: Pop\n"
+                "├─ sub-genres: none\n"
+                "├─ colors: red\n"
+                "├─ audio effects: 2\n"
+                "│  ├─ EQ\n"
+                "│  │  ├─ band: int -3\n"
+                "│  │  ├─ gain: float 0.1\n"
+                "│  │  └─ mode: text \"say \\\"hi\\\"\\u000a\"\n"
+                "│  └─ Dry\n"
+                "└─ MIDI effects: 1\n"
+                "   └─ Arp\n"
+                "      └─ rate: float 2.0\n");
+}
+
+TEST_F(Show, PrintsStyleAsJson) {
+  writeFile(user_ / "one.kostyle", wholeStyle);
+  const Outcome outcome = runTool({"show", "S1", "--user", argument(user_), "--json"});
+  expectSuccess(outcome);
+  const auto style = parseJson(outcome.out);
+  EXPECT_STREQ(style["kind"].GetString(), "user");
+  EXPECT_STREQ(style["name"].GetString(), "Whole");
+  EXPECT_STREQ(style["vendor"].GetString(), "Ours");
+  EXPECT_EQ(style["path"].GetString(), printed(user_ / "one.kostyle"));
+  EXPECT_THAT(test::effects(style["audioEffects"]),
+              ElementsAre("EQ(band int,gain float,mode text)", "Dry()"));
+  EXPECT_THAT(test::effects(style["midiEffects"]), ElementsAre("Arp(rate float)"));
+  EXPECT_EQ(test::parameter(style, "band")["value"].GetInt(), -3);
+  EXPECT_STREQ(test::parameter(style, "mode")["value"].GetString(), "say \"hi\"\n");
+}
+
+TEST_F(Show, PrintsFloatsThatReadBackAsTheSame) {
+  const std::vector<std::string> numbers{
+      "0.1",          "3.0", "-2.5e-3", "16777217.0", "1e20", "1e-40", "0.30000001192092896",
+      "3.4028235e38", "-0.0"};
+  std::string members;
+  for (std::size_t i = 0; i < numbers.size(); ++i)
+    members += (i ? "," : "") + ("\"p" + std::to_string(i)) + "\":" + numbers[i];
+  const auto path = directory_ / "floats.kostyle";
+  writeFile(path, R"({"id":"f","name":"F","audioEffect":{"E":{"parameter":{)" + members + "}}}}");
+  const auto style = parseJson(runTool({"show", argument(path), "--json"}).out);
+  const std::string tree = runTool({"show", argument(path)}).out;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    const std::string name = "p" + std::to_string(i);
+    const float expected = static_cast<float>(std::strtod(numbers[i].c_str(), nullptr));
+    EXPECT_EQ(static_cast<float>(test::parameter(style, name)["value"].GetDouble()), expected);
+    const std::string label = "─ " + name + ": float ";
+    const std::size_t at = tree.find(label);
+    ASSERT_NE(at, tree.npos);
+    EXPECT_EQ(std::strtof(tree.c_str() + at + label.size(), nullptr), expected);
+  }
+  EXPECT_THAT(tree, HasSubstr("p0: float 0.1\n"));
+  EXPECT_THAT(tree, HasSubstr("p1: float 3.0\n"));
+  EXPECT_THAT(tree, HasSubstr("p6: float 0.3\n"));
+}
+
+TEST_F(Show, PrintsInfiniteFloats) {
+  writeFile(directory_ / "inf",
+            R"({"id":"i","name":"I","audioEffect":{"E":{"parameter":{"p":-1e300}}}})");
+  EXPECT_THAT(runTool({"show", argument(directory_ / "inf")}).out, HasSubstr("p: float -inf\n"));
+  const auto style = parseJson(runTool({"show", argument(directory_ / "inf"), "--json"}).out);
+  EXPECT_STREQ(test::parameter(style, "p")["value"].GetString(), "-inf");
+}
+
+TEST_F(Show, ReadsAFileByItself) {
+  writeFile(system_ / "one.kostyle", styleText("same", "One"));
+  writeFile(system_ / "two.kostyle", styleText("same", "Two"));
+  for (const auto& [file, name] : {std::pair{"one.kostyle", "One"}, std::pair{"two.kostyle", "Two"}}) {
+    const Outcome outcome = runTool({"show", argument(system_ / file), "--system", argument(system_)});
+    expectSuccess(outcome);
+    EXPECT_THAT(outcome.out,
+                testing::StartsWith(std::string(name) + "\n├─ id: same\n├─ kind: file\n├─ path: " +
+                                    argument(system_ / file) + "\n"));
+  }
+  EXPECT_EQ(test::entryNames(system_), (std::vector<std::string>{"one.kostyle", "two.kostyle"}));
+}
+
+TEST_F(Show, ReadsAFileOfAnyName) {
+  const auto path = directory_ / test::fs::u8path("夜.json");
+  writeFile(path, styleText("n", "Night"));
+  const auto style = parseJson(runTool({"show", argument(path), "--json"}).out);
+  EXPECT_STREQ(style["id"].GetString(), "n");
+  EXPECT_STREQ(style["kind"].GetString(), "file");
+  EXPECT_EQ(style["path"].GetString(), argument(path));
+}
+
+TEST_F(Show, FindsIdentifiersInFurtherDirectories) {
+  writeFile(directory_.folder("s1") / "a.kostyle", styleText("Ж 1", "A"));
+  writeFile(directory_.folder("u1") / "b.kostyle", styleText("u/1", "B"));
+  const test::Arguments directories{
+      "--system", argument(system_), "--system-extra", argument(directory_ / "s1"),
+      "--user",   argument(user_),   "--user-extra",   argument(directory_ / "u1")};
+  EXPECT_THAT(runTool(test::Arguments{"show", "Ж 1"} + directories).out, HasSubstr("kind: system"));
+  EXPECT_THAT(runTool(test::Arguments{"show", "u/1"} + directories).out, HasSubstr("kind: user"));
+}
+
+TEST_F(Show, SaysWhyAFileIsRefused) {
+  const auto path = directory_ / "bad.kostyle";
+  writeFile(path, R"({"id":"x","name":""})");
+  const std::string why = argument(path) + ": required string is empty at /name";
+  expectFailure(runTool({"show", argument(path)}), 1, why);
+  expectFailure(runTool({"show", argument(path), "--json"}), 1, why);
+  writeFile(path, "");
+  expectFailure(runTool({"show", argument(path)}), 1, "the file holds no value, byte offset 0");
+}
+
+TEST_F(Show, RefusesUnknownStyles) {
+  writeFile(system_ / "a.kostyle", styleText("a", "A"));
+  expectFailure(runTool({"show", "A", "--system", argument(system_)}), 1,
+                "A: no style has this identifier");
+  expectFailure(runTool({"show", "", "--system", argument(system_)}), 1,
+                "no style has this identifier");
+  expectFailure(runTool({"show", argument(system_), "--user", argument(user_)}), 1,
+                "no style has this identifier");
+}
+
+TEST_F(Show, RefusesWrongUse) {
+  expectFailure(runTool({"show"}), 2, "STYLE is required");
+  expectFailure(runTool({"show", "a"}), 2, "a: no such file");
+  expectFailure(runTool({"show", "a", "b"}), 2, "b");
+  expectFailure(runTool({"show", "a", "--system", argument(directory_ / "no")}), 2,
+                "no such directory");
+  expectFailure(runTool({"show", "a", "--user", argument(directory_ / "no")}), 2, "no such directory");
+  EXPECT_FALSE(test::fs::exists(directory_ / "no"));
+}
+
+#if !defined(_WIN32)
+TEST_F(Show, DoesNotWaitForAPipe) {
+  ASSERT_EQ(mkfifo((directory_ / "pipe.kostyle").c_str(), 0600), 0);
+  expectFailure(runTool({"show", argument(directory_ / "pipe.kostyle")}), 2, "no such file");
+}
+
+TEST_F(Show, TakesPathsWithStrayBytes) {
+  writeFile(directory_ / "\xFF.kostyle", styleText("s", "Stray"));
+  const Outcome outcome = runTool({"show", argument(directory_ / "\xFF.kostyle")});
+  expectSuccess(outcome);
+  EXPECT_THAT(outcome.out, HasSubstr("/\xFF.kostyle\n"));
+}
+#endif
+
+}  // namespace

@@ -1,0 +1,109 @@
+// The tool as a user runs it, and what its tests share.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <rapidjson/document.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "tool/process.h"
+
+namespace test {
+
+using Arguments = std::vector<std::string>;
+
+inline Outcome runTool(const Arguments& arguments) { return run(KOSTYLE_TOOL, arguments); }
+
+inline Arguments operator+(Arguments arguments, const Arguments& more) {
+  arguments.insert(arguments.end(), more.begin(), more.end());
+  return arguments;
+}
+
+#if !defined(_WIN32)
+/// As on a full disk: the tool may not make a file longer than so many kilobytes. All is in `out`.
+inline Outcome runToolOnFullDisk(int kilobytes, const Arguments& arguments) {
+  const std::string script = "set -o pipefail; (trap '' XFSZ; ulimit -f " + std::to_string(kilobytes) +
+                             "; exec \"$0\" \"$@\" 2>&1) | cat";
+  return run("/bin/bash", Arguments{"-c", script, KOSTYLE_TOOL} + arguments);
+}
+#endif
+
+/// A path as an argument.
+inline std::string argument(const fs::path& path) { return path.u8string(); }
+
+/// A path as the tool prints it when it was given as argument().
+inline std::string printed(fs::path path) {
+#if defined(_WIN32)
+  path.make_preferred();
+#endif
+  return path.u8string();
+}
+
+inline fs::path exampleStyles() { return fs::u8path(KOSTYLE_EXAMPLE_STYLES); }
+
+/// Every file below a directory with its bytes.
+inline std::map<fs::path, std::string> contents(const fs::path& directory) {
+  std::map<fs::path, std::string> files;
+  for (const auto& entry : fs::recursive_directory_iterator(directory))
+    files[entry.path()] = entry.is_regular_file() ? readFile(entry.path()) : "not a file";
+  return files;
+}
+
+/// Ends the test with a failure when the text is not JSON.
+inline rapidjson::Document parseJson(const std::string& text) {
+  rapidjson::Document document;
+  document.Parse(text.data(), text.size());
+  if (document.HasParseError()) throw std::runtime_error("not JSON: " + text);
+  return document;
+}
+
+inline std::vector<std::string> texts(const rapidjson::Value& array) {
+  std::vector<std::string> result;
+  for (const auto& element : array.GetArray()) result.emplace_back(element.GetString());
+  return result;
+}
+
+/// The effects of a chain as "EQ(gain float,mode text)".
+inline std::vector<std::string> effects(const rapidjson::Value& chain) {
+  std::vector<std::string> result;
+  for (const auto& effect : chain.GetArray()) {
+    std::string parameters;
+    for (const auto& parameter : effect["parameters"].GetArray()) {
+      if (!parameters.empty()) parameters += ',';
+      parameters += std::string(parameter["name"].GetString()) + ' ' + parameter["type"].GetString();
+    }
+    result.push_back(std::string(effect["id"].GetString()) + '(' + parameters + ')');
+  }
+  return result;
+}
+
+/// The one parameter of a style's only audio effect that has the name.
+inline const rapidjson::Value& parameter(const rapidjson::Document& style, const std::string& name) {
+  for (const auto& candidate : style["audioEffects"][0]["parameters"].GetArray())
+    if (candidate["name"].GetString() == name) return candidate;
+  throw std::runtime_error("no parameter " + name);
+}
+
+/// One line on stderr that says why, nothing on stdout.
+inline void expectFailure(const Outcome& outcome, int exitCode, const std::string& why) {
+  EXPECT_EQ(outcome.exitCode, exitCode);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_THAT(outcome.err, testing::StartsWith("kostyle: "));
+  EXPECT_THAT(outcome.err, testing::HasSubstr(why));
+  EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1);
+}
+
+inline void expectSuccess(const Outcome& outcome) {
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_EQ(outcome.err, "");
+}
+
+/// A style with one audio effect.
+inline std::string styleText(const std::string& id, const std::string& name) {
+  return R"({"id":")" + id + R"(","name":")" + name +
+         R"(","audioEffect":{"Reverb":{"parameter":{"mix":0.5}}}})";
+}
+
+}  // namespace test

@@ -1,0 +1,20 @@
+// What ends a command before its work is done. The message is one line for the user.
+#pragma once
+
+#include <stdexcept>
+
+namespace tool {
+
+enum ExitCode { exitOk = 0, exitRefused = 1, exitWrongUse = 2 };
+
+/// The library, a file or a style stands against what was asked for.
+struct Refused : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+/// The command line is wrong, whatever the styles are.
+struct WrongUse : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
+}  // namespace tool

@@ -1,0 +1,60 @@
+#include <CLI/CLI.hpp>
+#include <memory>
+#include <string>
+
+#include "commands.h"
+#include "failure.h"
+#include "manager.h"
+#include "notices.h"
+#include "saving.h"
+#include "style_edits.h"
+#include "text.h"
+#include "workspace.h"
+
+namespace tool {
+namespace {
+
+struct Options {
+  std::string id;
+  StyleDirectories directories;
+  StyleEdits edits;
+};
+
+int change(const Options& options) {
+  if (changesNothing(options.edits)) throw WrongUse("nothing is to be changed");
+  requireExisting(options.directories);
+  const Manager manager(options.directories);
+  KoStyleStyle* style = manager.userStyle(fromUtf8(options.id));
+  const std::string vendor = toUtf8(Style_vendor(style));
+  Workspace workspace(manager);
+  workspace.copy(style);
+  workspace.apply(options.edits);
+  const bool effectsLost = losesEffects(workspace);
+  saveOver(workspace, style, options.edits.pretty);
+  printWritten(style);
+  if (!vendor.empty()) noticeLostVendor(vendor);
+  if (effectsLost) noticeLostEffects();
+  return exitOk;
+}
+
+}  // namespace
+
+void addSetCommand(CLI::App& app, Command& chosen) {
+  const auto options = std::make_shared<Options>();
+  CLI::App* command = app.add_subcommand("set", "Changes a user style");
+  command->add_option("ID", options->id, "Identifier of the style")->required();
+  addDirectoryOptions(*command, options->directories);
+  command->get_option("--user")->required();
+  addChangeOptions(*command, options->edits);
+  command->footer(
+      R"(Prints the identifier and the path of the file. What is deleted is deleted before anything is added.
+The file loses its vendor text, if it has one, and whatever else no style can hold.
+
+Examples:
+  kostyle set 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --name "Late drive"
+  kostyle set 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --delete-genre Pop
+    --add-genre Rock --delete-audio-effect Delay --param Reverb.mix=0.5 --delete-param Reverb.decay)");
+  command->callback([options, &chosen] { chosen = [options] { return change(*options); }; });
+}
+
+}  // namespace tool
