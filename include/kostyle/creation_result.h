@@ -49,7 +49,7 @@ KOSTYLE_API const KoStyleChar* StyleCreationResult_jsonPath(KoStyleCreationResul
 KOSTYLE_API int StyleCreationResult_parseError(KoStyleCreationResult* result);
 
 /**
- * After KOSTYLE_ERROR_JSON_SYNTAX, the number of bytes of the file that the parser had consumed when
+ * After KOSTYLE_ERROR_JSON_SYNTAX, the number of bytes of the file that the parser had taken when
  * it found the error, a byte-order mark included; otherwise 0. SIZE_MAX for a null handle.
  */
 KOSTYLE_API size_t StyleCreationResult_parseErrorOffset(KoStyleCreationResult* result);

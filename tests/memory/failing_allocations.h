@@ -1,5 +1,5 @@
 // Memory that runs out on demand: the nth allocation of a thread's trial fails with std::bad_alloc.
-// One source file of the program includes replace_operator_new.h.
+// The program is linked with replace_operator_new.cpp.
 #pragma once
 
 #include <cstddef>

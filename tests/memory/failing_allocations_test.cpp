@@ -7,8 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "memory/replace_operator_new.h"
-
 namespace {
 
 using test::failEachAllocation;

@@ -1,5 +1,7 @@
-// Makes a program allocate through failing_allocations.h. Belongs into exactly one of its source files.
-#pragma once
+// Makes a program allocate through failing_allocations.h. Compiled by itself, so that no compiler
+// inlines one half of a pair.
+#include <cstdlib>
+#include <new>
 
 #include "memory/failing_allocations.h"
 
