@@ -37,8 +37,8 @@ static inline void printText(FILE* stream, const KoStyleChar* text) {
 }
 
 /*
- * pathFromArgument() makes a path of an argument: true, or false when it does not fit. On Windows the
- * path becomes absolute, as the library needs it.
+ * pathFromArgument() makes a path of an argument, of valid UTF-8 outside Windows: true, or false when
+ * it does not fit. On Windows the path becomes absolute, as the library needs it.
  */
 #if defined(_WIN32)
 

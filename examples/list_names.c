@@ -10,7 +10,7 @@ int EXAMPLE_MAIN(int argc, ExampleArgument* argv[]) {
   int error;
   KoStyleManager* manager =
       CreateStyleManager(KOSTYLE_TEXT("list-names"), directory, directory, NULL, 0, NULL, 0, &error);
-  if (!manager) return 1;
+  if (!manager) return fprintf(stderr, "no manager: code %d\n", error), 1;
   StyleManager_readSystemStyles(manager);
 
   KoStyleStyle* style = StyleManager_systemStyle(manager, 0);

@@ -3,7 +3,7 @@
 usage: count_tests.py STEPS BUILD...
 
 STEPS holds a file NAME.step for each check that is one test case, with "pass" or "fail". Each BUILD holds
-test-results/ctest.xml and, for each CTest test that is a GoogleTest program, test-results/NAME.xml.
+test-results/ctest.xml and, for each name in test-programs.txt, test-results/NAME.xml with its cases.
 """
 import pathlib
 import sys
@@ -37,17 +37,19 @@ def count_cases(path):
     return counts
 
 
-def count_program(results, program):
-    """The cases of one CTest test. A program that failed as a whole has one failure at least."""
+def count_test(results, program, has_cases):
+    """The cases of one CTest test. One that failed as a whole, or left no report, has one failure at least."""
     counts = Counts()
     if program.get("status") == "disabled":
         counts.skipped = 1
         return counts
     succeeded = program.get("status") == "run"
-    cases = results / f"{program.get('name')}.xml"
-    try:
-        counts = count_cases(cases)
-    except (OSError, ElementTree.ParseError):
+    if has_cases:
+        try:
+            counts = count_cases(results / f"{program.get('name')}.xml")
+        except (OSError, ElementTree.ParseError):
+            succeeded = False
+    else:
         counts.passed = int(succeeded)
     if not succeeded and counts.failed == 0:
         counts.failed = 1
@@ -61,8 +63,9 @@ def count_build(build):
         programs = ElementTree.parse(results / "ctest.xml").getroot().iter("testcase")
     except OSError:
         return counts  # not built, which the step of its build says
+    with_cases = (build / "test-programs.txt").read_text().split()
     for program in programs:
-        counts.add(count_program(results, program))
+        counts.add(count_test(results, program, program.get("name") in with_cases))
     print(f"{build.name}: {counts}")
     return counts
 

@@ -223,8 +223,4 @@ TEST_F(Factory, GivesAnIdentifierAgainAfterItsManagerIsGone) {
   StyleManager_destroy(manager);
 }
 
-TEST_F(Factory, LeavesManagersThatAreNotDestroyedToTheLibrary) {
-  EXPECT_NE(create(appID.c_str(), system, user), nullptr);
-}
-
 }  // namespace

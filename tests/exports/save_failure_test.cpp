@@ -9,10 +9,6 @@
 #include "support/host.h"
 #include "support/style_value.h"
 
-#if !defined(_WIN32)
-#include <unistd.h>
-#endif
-
 namespace {
 
 using test::document;
@@ -206,30 +202,6 @@ TEST_F(SaveFailure, OfOverwritingAndRemovingShowsWhenTheFileIsReadOnly) {
   EXPECT_EQ(UserStyle_remove(target), 9);
   permissions(user / "u.kostyle", test::fs::perms::owner_all);
   EXPECT_EQ(UserStyle_remove(target), 0);
-}
-
-#else
-
-TEST_F(SaveFailure, OfEveryKindShowsInAReadOnlyDirectory) {
-  if (geteuid() == 0) GTEST_SKIP() << "the superuser may write to a read-only directory";
-  giveName();
-  giveEffect();
-  permissions(user, test::fs::perms::owner_read | test::fs::perms::owner_exec);
-  expectSave(8);
-  expectOverwrite(KOSTYLE_TEXT("u"), 8);
-  EXPECT_EQ(UserStyle_remove(target), 9);
-  int error = -1;
-  const test::Manager below(system, user / "below");
-  EXPECT_EQ(below.error(), 16);
-  permissions(user, test::fs::perms::owner_all);
-  EXPECT_NE(MutableStyle_overwrite(style, KOSTYLE_TEXT("u"), true, &error), nullptr);
-}
-
-TEST_F(SaveFailure, OfReadingShowsNoTraceOfAFileThatCannotBeOpened) {
-  if (geteuid() == 0) GTEST_SKIP() << "the superuser may read any file";
-  permissions(user / "u.kostyle", test::fs::perms::none);
-  EXPECT_EQ(StyleManager_readUserStyles(manager), KOSTYLE_OK);
-  EXPECT_EQ(StyleManager_numUserStyleCreationResult(manager), 0u);
 }
 
 #endif

@@ -95,6 +95,7 @@ TEST_F(Save, MakesTheUserDirectoryAgain) {
   MutableStyle_insertMidiEffect(style, 0, KOSTYLE_TEXT("M"));
   test::Host::save(style);
   EXPECT_EQ(test::entryNames(host.directory / "a" / "b" / "user").size(), 1u);
+  EXPECT_EQ(StyleManager_numUserStyle(deep), 1u);
 }
 
 TEST_F(Save, LeavesStylesWhoseDirectoryIsGoneListed) {

@@ -122,9 +122,10 @@ TEST_F(StoredStyleList, OnlyAUserStyleIsRemovedThroughItsHandle) {
 
 TEST_F(StoredStyleList, ASecondPropertyEditorTakesTheFirstOnesPlace) {
   UserStyle& style = addUserStyle("a");
-  EXPECT_NE(style.createPropertyEditor(), nullptr);
+  IPropertyEditor* const first = style.createPropertyEditor();
   IPropertyEditor* const second = style.createPropertyEditor();
   ASSERT_NE(second, nullptr);
+  EXPECT_NE(second, first);
   EXPECT_TRUE(second->setStyleName(KOSTYLE_TEXT("n")));
   style.destroyPropertyEditor();
   style.destroyPropertyEditor();

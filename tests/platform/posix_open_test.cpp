@@ -66,7 +66,7 @@ TEST_F(PosixOpen, OldContentIsGoneOnceTheFileIsOpen) {
   EXPECT_EQ(test::readFile(directory / "old"), "");
 }
 
-// Whoever waits for a pipe's other end goes on waiting.
+// Whoever waits for a pipe's other end goes on waiting. The pauses give a fault time to show.
 TEST_F(PosixOpen, PipeIsNotOpenedAtAll) {
   ASSERT_EQ(mkfifo((directory / "pipe").c_str(), 0600), 0);
   std::atomic<bool> released{false};

@@ -41,7 +41,7 @@ inline std::string readFile(const fs::path& path) {
 inline std::vector<std::string> entryNames(const fs::path& folder) {
   std::vector<std::string> names;
   for (const auto& entry : fs::directory_iterator(folder))
-    names.push_back(entry.path().filename().string());
+    names.push_back(entry.path().filename().u8string());
   std::sort(names.begin(), names.end());
   return names;
 }

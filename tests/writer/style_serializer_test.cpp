@@ -92,6 +92,9 @@ TEST_F(Serializer, EmptyIdentifierIsReportedBeforeTheEmptyName) {
 TEST_F(Serializer, DocumentWithACodeIsNotWritten) {
   EXPECT_EQ(write(), "");
   EXPECT_EQ(code, std::uint32_t{KOSTYLE_ERROR_WRITE_EMPTY_NAME});
+  style.setName(KOSTYLE_TEXT("N"));
+  EXPECT_EQ(write(), "");
+  EXPECT_EQ(code, std::uint32_t{KOSTYLE_ERROR_NO_EFFECT});
 }
 
 TEST_F(Serializer, LanguagesOutsideTheRangeAreDropped) {
