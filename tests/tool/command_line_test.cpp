@@ -1,13 +1,7 @@
 #include "tool/tool.h"
 
+namespace test {
 namespace {
-
-using test::expectFailure;
-using test::expectSuccess;
-using test::Outcome;
-using test::runTool;
-using testing::HasSubstr;
-using testing::MatchesRegex;
 
 TEST(CommandLine, PrintsVersion) {
   const Outcome outcome = runTool({"--version"});
@@ -33,6 +27,16 @@ TEST(CommandLine, RefusesWrongUse) {
   expectFailure(runTool({"frob"}), 2, "frob");
   expectFailure(runTool({"--frob"}), 2, "--frob");
   expectFailure(runTool({"two\nlines"}), 2, "two\\u000alines");
+  expectFailure(runTool({"list", "--system", "a", "--json=5"}), 2, "json was given a disallowed");
 }
 
+#if !defined(_WIN32)
+TEST(CommandLine, ReportsHelpThatCannotBeWritten) {
+  const TemporaryDirectory directory;
+  EXPECT_EQ(runToolWithoutOutput(directory / "err", {"--help"}), 1);
+  EXPECT_THAT(readFile(directory / "err"), HasSubstr("the output cannot be written"));
+}
+#endif
+
 }  // namespace
+}  // namespace test

@@ -3,16 +3,10 @@
 
 #include "tool/tool.h"
 
+namespace test {
 namespace {
 
-using test::argument;
-using test::exampleStyles;
-using test::expectSuccess;
-using test::Outcome;
-using test::parseJson;
-using test::runTool;
-
-std::size_t countFiles(const char* folder) { return test::entryNames(exampleStyles() / folder).size(); }
+std::size_t countFiles(const char* folder) { return entryNames(exampleStyles() / folder).size(); }
 
 TEST(Examples, AreAllRead) {
   const Outcome outcome = runTool({"list", "--json", "--system", argument(exampleStyles() / "system"),
@@ -28,8 +22,8 @@ TEST(Examples, AreAllRead) {
 }
 
 // The shortest text that tells the encoding: the mark, or the first bytes.
-std::string encodingOf(const test::fs::path& path) {
-  const std::string start = test::readFile(path).substr(0, 4);
+std::string encodingOf(const fs::path& path) {
+  const std::string start = readFile(path).substr(0, 4);
   using namespace std::string_literals;
   if (start == "\xFF\xFE\0\0"s) return "UTF-32LE with mark";
   if (start.substr(0, 3) == "\xEF\xBB\xBF") return "UTF-8 with mark";
@@ -41,7 +35,7 @@ std::string encodingOf(const test::fs::path& path) {
 TEST(Examples, StandInEveryEncoding) {
   std::set<std::string> encodings;
   for (const char* folder : {"system", "user"})
-    for (const auto& entry : test::fs::directory_iterator(exampleStyles() / folder))
+    for (const auto& entry : fs::directory_iterator(exampleStyles() / folder))
       encodings.insert(encodingOf(entry.path()));
   EXPECT_THAT(encodings, testing::UnorderedElementsAre("UTF-8", "UTF-8 with mark", "UTF-16LE",
                                                        "UTF-16LE with mark", "UTF-16BE with mark",
@@ -52,7 +46,7 @@ TEST(Examples, InUtf16ShowTheirText) {
   const auto style = parseJson(
       runTool({"show", argument(exampleStyles() / "system" / "harbour_night.kostyle"), "--json"}).out);
   EXPECT_STREQ(style["name"].GetString(), "港の夜");
-  EXPECT_THAT(test::texts(style["genres"]), testing::ElementsAre("歌謡曲", "演歌"));
+  EXPECT_THAT(texts(style["genres"]), ElementsAre("歌謡曲", "演歌"));
 }
 
 TEST(Examples, ThatAreBrokenAreRefusedForDifferentReasons) {
@@ -76,3 +70,4 @@ TEST(Examples, ThatAreBrokenAreRefusedForDifferentReasons) {
 }
 
 }  // namespace
+}  // namespace test

@@ -1,25 +1,13 @@
 #include "tool/tool.h"
 
+namespace test {
 namespace {
-
-using test::argument;
-using test::expectFailure;
-using test::expectSuccess;
-using test::Outcome;
-using test::parseJson;
-using test::printed;
-using test::runTool;
-using test::styleText;
-using test::writeFile;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 class List : public testing::Test {
  protected:
-  const test::TemporaryDirectory directory_;
-  const test::fs::path system_ = directory_.folder("system");
-  const test::fs::path user_ = directory_.folder("user");
+  const TemporaryDirectory directory_;
+  const fs::path system_ = directory_.folder("system");
+  const fs::path user_ = directory_.folder("user");
 };
 
 TEST_F(List, AlignsColumnsByDisplay) {
@@ -79,13 +67,13 @@ TEST_F(List, PrintsEverythingAsJson) {
   ASSERT_EQ(style["languages"].Size(), 2u);
   EXPECT_EQ(style["languages"][0].GetInt(), 1);
   EXPECT_EQ(style["languages"][1].GetInt(), 4);
-  EXPECT_THAT(test::texts(style["singerGroups"]), ElementsAre("g"));
-  EXPECT_THAT(test::texts(style["singerIDs"]), ElementsAre("0123456789abcdef"));
-  EXPECT_THAT(test::texts(style["genres"]), ElementsAre("a", "b"));
-  EXPECT_THAT(test::texts(style["subGenres"]), ElementsAre("s"));
-  EXPECT_THAT(test::texts(style["colors"]), ElementsAre("c"));
-  EXPECT_THAT(test::effects(style["audioEffects"]), ElementsAre("EQ(band int,gain float,mode text)"));
-  EXPECT_THAT(test::effects(style["midiEffects"]), ElementsAre("M()"));
+  EXPECT_THAT(texts(style["singerGroups"]), ElementsAre("g"));
+  EXPECT_THAT(texts(style["singerIDs"]), ElementsAre("0123456789abcdef"));
+  EXPECT_THAT(texts(style["genres"]), ElementsAre("a", "b"));
+  EXPECT_THAT(texts(style["subGenres"]), ElementsAre("s"));
+  EXPECT_THAT(texts(style["colors"]), ElementsAre("c"));
+  EXPECT_THAT(effects(style["audioEffects"]), ElementsAre("EQ(band int,gain float,mode text)"));
+  EXPECT_THAT(effects(style["midiEffects"]), ElementsAre("M()"));
   EXPECT_EQ(document["refused"].Size(), 0u);
   EXPECT_EQ(document["unopened"].Size(), 0u);
 }
@@ -133,8 +121,8 @@ TEST_F(List, ReadsFurtherDirectories) {
 }
 
 TEST_F(List, TakesRelativePathsWithForwardSlashes) {
-  const auto relative = test::fs::relative(test::exampleStyles() / "system").generic_u8string();
-  ASSERT_FALSE(test::fs::u8path(relative).is_absolute());
+  const auto relative = fs::relative(exampleStyles() / "system").generic_u8string();
+  ASSERT_FALSE(fs::u8path(relative).is_absolute());
   const Outcome outcome = runTool({"list", "--system", relative + "/../system/"});
   expectSuccess(outcome);
   EXPECT_THAT(outcome.out, HasSubstr("morning-light"));
@@ -142,10 +130,10 @@ TEST_F(List, TakesRelativePathsWithForwardSlashes) {
 
 TEST_F(List, LeavesDirectoriesAsTheyAre) {
   writeFile(system_ / "a.kostyle", styleText("a", "A"));
-  const auto before = test::contents(directory_.path());
+  const auto before = contents(directory_.path());
   expectSuccess(runTool({"list", "--system", argument(system_)}));
   expectSuccess(runTool({"list", "--system", argument(system_), "--user", argument(user_)}));
-  EXPECT_EQ(test::contents(directory_.path()), before);
+  EXPECT_EQ(contents(directory_.path()), before);
 }
 
 TEST_F(List, AcceptsAnEmptyDirectory) {
@@ -170,7 +158,7 @@ TEST_F(List, RefusesWrongUse) {
       runTool({"list", "--system", system, "--user", argument(user_), "--user-extra", missing}), 2,
       "no such directory");
   expectFailure(runTool({"list", "--system", system, "--user-extra", argument(user_)}), 2, "--user");
-  EXPECT_FALSE(test::fs::exists(directory_ / "missing"));
+  EXPECT_FALSE(fs::exists(directory_ / "missing"));
 }
 
 #if defined(_WIN32)
@@ -185,12 +173,33 @@ TEST_F(List, ReportsFilesThatCannotBeOpened) {
 }
 #else
 TEST_F(List, ReportsFilesThatCannotBeOpened) {
-  test::fs::create_symlink("nowhere", system_ / "lost.kostyle");
+  fs::create_symlink("nowhere", system_ / "lost.kostyle");
   const Outcome outcome = runTool({"list", "--system", argument(system_)});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.out, HasSubstr(printed(system_ / "lost.kostyle") + ": cannot be opened\n"));
   const auto document = parseJson(runTool({"list", "--system", argument(system_), "--json"}).out);
-  EXPECT_THAT(test::texts(document["unopened"]), ElementsAre(printed(system_ / "lost.kostyle")));
+  EXPECT_THAT(texts(document["unopened"]), ElementsAre(printed(system_ / "lost.kostyle")));
+}
+
+// Without the privileges by which root reads everything.
+constexpr const char* unprivileged = R"(unreadable="${@: -1}"
+chmod 0 "$unreadable"
+if test $(id -u) = 0; then
+  setpriv --bounding-set=-dac_override,-dac_read_search "$0" "$@"
+else
+  "$0" "$@"
+fi
+code=$?
+chmod 700 "$unreadable"
+exit $code)";
+
+TEST_F(List, ReportsDirectoriesThatCannotBeRead) {
+  if (std::system("command -v setpriv > /dev/null") != 0) GTEST_SKIP() << "setpriv is missing";
+  writeFile(user_ / "a.kostyle", styleText("a", "A"));
+  const Outcome outcome =
+      runToolInScript(unprivileged, {"list", "--system", argument(system_), "--user", argument(user_)});
+  EXPECT_EQ(outcome.exitCode, 1) << outcome.err;
+  EXPECT_THAT(outcome.out, HasSubstr("\n\nRefused:\n" + printed(user_) + ": cannot be opened\n"));
 }
 
 TEST_F(List, WritesStrayBytesOfPathsAsTheyAre) {
@@ -205,11 +214,10 @@ TEST_F(List, WritesStrayBytesOfPathsAsTheyAre) {
 
 TEST_F(List, ReportsOutputThatCannotBeWritten) {
   writeFile(system_ / "a.kostyle", styleText("a", "A"));
-  EXPECT_EQ(test::runTo("/dev/full", directory_ / "err", KOSTYLE_TOOL,
-                        {"list", "--system", argument(system_)}),
-            1);
-  EXPECT_THAT(test::readFile(directory_ / "err"), HasSubstr("cannot be written"));
+  EXPECT_EQ(runToolWithoutOutput(directory_ / "err", {"list", "--system", argument(system_)}), 1);
+  EXPECT_THAT(readFile(directory_ / "err"), HasSubstr("cannot be written"));
 }
 #endif
 
 }  // namespace
+}  // namespace test

@@ -2,20 +2,8 @@
 
 #include "tool/tool.h"
 
+namespace test {
 namespace {
-
-using test::argument;
-using test::Arguments;
-using test::expectFailure;
-using test::expectSuccess;
-using test::Outcome;
-using test::parseJson;
-using test::printed;
-using test::runTool;
-using test::utf8;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using test::operator+;
 
 class New : public testing::Test {
  protected:
@@ -34,8 +22,8 @@ class New : public testing::Test {
     return style;
   }
 
-  const test::TemporaryDirectory directory_;
-  const test::fs::path user_ = directory_ / "made" / test::fs::u8path("ユーザー");
+  const TemporaryDirectory directory_;
+  const fs::path user_ = directory_ / "made" / fs::u8path("ユーザー");
 };
 
 const Arguments effect{"--audio-effect", "E", "--param", "E.p=1"};
@@ -58,9 +46,8 @@ TEST_F(New, WritesAStyleThatTheLibraryReads) {
                                   "--param",        "Arp.mode=up down"});
   expectSuccess(outcome);
   int error = -1;
-  KoStyleManager* manager =
-      CreateStyleManager(KOSTYLE_TEXT("new"), test::pathText(user_).c_str(),
-                         test::pathText(user_).c_str(), nullptr, 0, nullptr, 0, &error);
+  KoStyleManager* manager = CreateStyleManager(KOSTYLE_TEXT("new"), pathText(user_).c_str(),
+                                               pathText(user_).c_str(), nullptr, 0, nullptr, 0, &error);
   ASSERT_NE(manager, nullptr);
   StyleManager_readUserStyles(manager);
   ASSERT_EQ(StyleManager_numUserStyle(manager), 1u);
@@ -85,11 +72,11 @@ TEST_F(New, WritesAStyleThatTheLibraryReads) {
 TEST_F(New, WritesCompactOrPretty) {
   const Outcome compact = create(Arguments{"--name", "N"} + effect);
   const std::string id = compact.out.substr(0, compact.out.find('\t'));
-  EXPECT_EQ(test::readFile(user_ / (id + ".kostyle")),
+  EXPECT_EQ(readFile(user_ / (id + ".kostyle")),
             R"({"id":")" + id + R"(","name":"N","audioEffect":{"E":{"parameter":{"p":1}}}})");
   const Outcome pretty = create(Arguments{"--name", "N", "--pretty"} + effect);
   const std::string other = pretty.out.substr(0, pretty.out.find('\t'));
-  EXPECT_THAT(test::readFile(user_ / (other + ".kostyle")), HasSubstr("\",\n    \"name\": \"N\",\n"));
+  EXPECT_THAT(readFile(user_ / (other + ".kostyle")), HasSubstr("\",\n    \"name\": \"N\",\n"));
 }
 
 TEST_F(New, TypeFollowsFormOfValue) {
@@ -108,29 +95,28 @@ TEST_F(New, TypeFollowsFormOfValue) {
   const auto style = written();
   number = 100;
   for (const Case& each : cases)
-    EXPECT_STREQ(test::parameter(style, "p" + std::to_string(number++))["type"].GetString(), each.type)
+    EXPECT_STREQ(parameter(style, "p" + std::to_string(number++))["type"].GetString(), each.type)
         << each.value;
-  EXPECT_EQ(test::parameter(style, "p102")["value"].GetInt(), 7);
-  EXPECT_EQ(test::parameter(style, "p105")["value"].GetDouble(), -2000.0);
-  EXPECT_STREQ(test::parameter(style, "p114")["value"].GetString(), "=");
+  EXPECT_EQ(parameter(style, "p102")["value"].GetInt(), 7);
+  EXPECT_EQ(parameter(style, "p105")["value"].GetDouble(), -2000.0);
+  EXPECT_STREQ(parameter(style, "p114")["value"].GetString(), "=");
 }
 
 TEST_F(New, TypeCanBeForced) {
   expectSuccess(create({"--name", "N", "--audio-effect", "E", "--param", "E.a:int=3", "--param",
                         "E.b:float=3", "--param", "E.c:text=3", "--param", "E.d:int:text=4"}));
   const auto style = written();
-  EXPECT_EQ(test::parameter(style, "a")["value"].GetInt(), 3);
-  EXPECT_STREQ(test::parameter(style, "b")["type"].GetString(), "float");
-  EXPECT_STREQ(test::parameter(style, "c")["value"].GetString(), "3");
-  EXPECT_STREQ(test::parameter(style, "d:int")["value"].GetString(), "4");
+  EXPECT_EQ(parameter(style, "a")["value"].GetInt(), 3);
+  EXPECT_STREQ(parameter(style, "b")["type"].GetString(), "float");
+  EXPECT_STREQ(parameter(style, "c")["value"].GetString(), "3");
+  EXPECT_STREQ(parameter(style, "d:int")["value"].GetString(), "4");
 }
 
 TEST_F(New, LongestEffectIdWins) {
   expectSuccess(create({"--name", "N", "--audio-effect", "a", "--audio-effect", "a.b", "--audio-effect",
                         "a.b=c", "--param", "a.b.x=1", "--param", "a.c.x=2", "--param", "a.b=c.x=3"}));
   const auto style = written();
-  EXPECT_THAT(test::effects(style["audioEffects"]),
-              ElementsAre("a(c.x int)", "a.b(x int)", "a.b=c(x int)"));
+  EXPECT_THAT(effects(style["audioEffects"]), ElementsAre("a(c.x int)", "a.b(x int)", "a.b=c(x int)"));
 }
 
 TEST_F(New, ChainTellsEffectsOfOneIdApart) {
@@ -138,8 +124,24 @@ TEST_F(New, ChainTellsEffectsOfOneIdApart) {
                         "M", "--param", "audio:E.a=1", "--param", "midi:E.m=1", "--param", "midi:M.x=1",
                         "--param", "M.y=1"}));
   const auto style = written();
-  EXPECT_THAT(test::effects(style["audioEffects"]), ElementsAre("E(a int)"));
-  EXPECT_THAT(test::effects(style["midiEffects"]), ElementsAre("E(m int)", "M(x int,y int)"));
+  EXPECT_THAT(effects(style["audioEffects"]), ElementsAre("E(a int)"));
+  EXPECT_THAT(effects(style["midiEffects"]), ElementsAre("E(m int)", "M(x int,y int)"));
+}
+
+TEST_F(New, ChainWinsOverAnIdentifierThatStartsSo) {
+  expectSuccess(create({"--name", "N", "--audio-effect", "E", "--midi-effect", "audio:E", "--param",
+                        "audio:E.a=1", "--param", "midi:audio:E.m=1"}));
+  const auto style = written();
+  EXPECT_THAT(effects(style["audioEffects"]), ElementsAre("E(a int)"));
+  EXPECT_THAT(effects(style["midiEffects"]), ElementsAre("audio:E(m int)"));
+}
+
+TEST_F(New, SaysThatParametersAreLost) {
+  const Outcome outcome =
+      create({"--name", "N", "--audio-effect", "E", "--param", "E.Tarn=1", "--param", "E.Tarn630=2"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_THAT(outcome.err, HasSubstr("notice: effects or parameters are lost"));
+  EXPECT_EQ(written()["audioEffects"][0]["parameters"].Size(), 1u);
 }
 
 TEST_F(New, TakesTextsAsTheyAre) {
@@ -148,7 +150,7 @@ TEST_F(New, TakesTextsAsTheyAre) {
                        effect));
   const auto style = written();
   EXPECT_STREQ(style["name"].GetString(), "--");
-  EXPECT_THAT(test::texts(style["genres"]),
+  EXPECT_THAT(texts(style["genres"]),
               testing::UnorderedElementsAre("[a,b]", "{}", "%%", "a\"b\\", "-x"));
 }
 
@@ -179,12 +181,16 @@ TEST_F(New, RefusalWritesNothing) {
       {Arguments{"--name", ""} + effect, 1, "name \"\" is refused"},
       {Arguments{"--name", std::string(101, 'n')} + effect, 1, "not 1 to 100 UTF-16 units long"},
       {good + Arguments{"--name", "M"}, 2, "--name"},
-      {named, 1, "the style has no effect"},
+      {named, 1, "ユーザー: the style has no effect"},
       {named + Arguments{"--audio-effect", "E"}, 1, "no effect has a parameter"},
       {good + Arguments{"--language", "5"}, 1, "language 5 is refused"},
       {good + Arguments{"--language", "-1"}, 1, "language -1 is refused"},
       {good + Arguments{"--language", "1", "--language", "1"}, 1, "there already"},
-      {good + Arguments{"--language", "en"}, 2, "--language"},
+      {good + Arguments{"--language", "en"}, 2, "--language en: not a value of type int"},
+      {good + Arguments{"--language", ""}, 2, "not a value of type int"},
+      {good + Arguments{"--language", "0x3"}, 2, "not a value of type int"},
+      {good + Arguments{"--language", " 1"}, 2, "not a value of type int"},
+      {good + Arguments{"--language", "+1"}, 2, "not a value of type int"},
       {good + Arguments{"--genre", "a", "--genre", "a"}, 1, "genre \"a\" is refused"},
       {good + Arguments{"--singer-group", ""}, 1, "singer-group \"\" is refused"},
       {good + Arguments{"--sub-genre", ""}, 1, "sub-genre \"\" is refused"},
@@ -194,7 +200,8 @@ TEST_F(New, RefusalWritesNothing) {
       {good + Arguments{"--midi-effect", ""}, 1, "midi-effect \"\" is refused"},
       {good + Arguments{"--param", "F.x=1"}, 1, "F.x=1: the style has no such effect"},
       {good + Arguments{"--param", "midi:E.x=1"}, 1, "the style has no such effect"},
-      {good + Arguments{"--midi-effect", "E", "--param", "E.x=1"}, 1, "both chains have the effect"},
+      {good + Arguments{"--midi-effect", "E", "--param", "E.x=1"}, 1,
+       "E.p=1 names more than one effect"},
       {good + Arguments{"--param", "E.=1"}, 1, "the parameter's name is empty"},
       {good + Arguments{"--param", "E.p=2"}, 2, "the parameter is given twice"},
       {good + Arguments{"--param", "x=1"}, 2, "EFFECT.NAME"},
@@ -211,19 +218,19 @@ TEST_F(New, RefusalWritesNothing) {
   for (const Case& each : cases) {
     SCOPED_TRACE(each.why);
     expectFailure(create(each.arguments), each.exitCode, each.why);
-    EXPECT_TRUE(test::fs::is_empty(directory_.path()));
+    EXPECT_TRUE(fs::is_empty(directory_.path()));
   }
 }
 
 TEST_F(New, RefusalLeavesDirectoriesThatWereThere) {
-  test::fs::create_directories(user_);
+  fs::create_directories(user_);
   expectFailure(create({"--name", "N"}), 1, "the style has no effect");
-  EXPECT_TRUE(test::fs::is_empty(user_));
+  EXPECT_TRUE(fs::is_empty(user_));
 }
 
 TEST_F(New, RefusesUserDirectoriesThatCannotBe) {
   const auto file = directory_ / "file";
-  test::writeFile(file, "x");
+  writeFile(file, "x");
   expectFailure(runTool(Arguments{"new", "--user", argument(file), "--name", "N"} + effect), 2,
                 "no such directory");
   expectFailure(runTool(Arguments{"new", "--user", argument(file / "below"), "--name", "N"} + effect),
@@ -240,16 +247,42 @@ TEST_F(New, RefusesTextThatIsNoUtf8) {
         2, "not valid UTF-8");
   expectFailure(create(Arguments{"--name", "N", "--param", "E.x=\xED\xA0\x80"} + effect), 2,
                 "not valid UTF-8");
-  EXPECT_TRUE(test::fs::is_empty(directory_.path()));
+  EXPECT_TRUE(fs::is_empty(directory_.path()));
 }
 
 TEST_F(New, LeavesNothingOnAFullDisk) {
   const Outcome outcome =
-      test::runToolOnFullDisk(0, Arguments{"new", "--user", argument(user_), "--name", "N"} + effect);
+      runToolOnFullDisk(0, Arguments{"new", "--user", argument(user_), "--name", "N"} + effect);
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.out, HasSubstr("not valid JSON: the file holds no value"));
-  EXPECT_TRUE(test::fs::is_empty(directory_.path()));
+  EXPECT_TRUE(fs::is_empty(directory_.path()));
+}
+
+TEST_F(New, LeavesNothingWhenItCannotPrint) {
+  const TemporaryDirectory other;
+  EXPECT_EQ(runToolWithoutOutput(other / "err",
+                                 Arguments{"new", "--user", argument(user_), "--name", "N"} + effect),
+            1);
+  EXPECT_THAT(readFile(other / "err"), HasSubstr("the output cannot be written"));
+  EXPECT_TRUE(fs::is_empty(directory_.path()));
+}
+
+TEST_F(New, NeedsATemporaryDirectory) {
+  expectFailure(runToolInScript(R"(TMPDIR=/nowhere exec "$0" "$@")",
+                                Arguments{"new", "--user", argument(user_), "--name", "N"} + effect),
+                1, "no temporary directory: ");
+  EXPECT_TRUE(fs::is_empty(directory_.path()));
+}
+
+TEST_F(New, NeedsAWorkingDirectoryForARelativePath) {
+  const auto gone = directory_.folder("gone");
+  expectFailure(runToolInScript(R"(cd "${@: -1}" && rmdir "${@: -1}" && exec "$0" "${@:1:$#-1}")",
+                                Arguments{"new", "--user", "here", "--name", "N"} + effect +
+                                    Arguments{argument(gone)}),
+                1, "here: no working directory: ");
+  EXPECT_TRUE(fs::is_empty(directory_.path()));
 }
 #endif
 
 }  // namespace
+}  // namespace test

@@ -1,6 +1,9 @@
 // Runs a program to its end and keeps what it printed.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
@@ -100,6 +103,26 @@ inline int runTo(const fs::path& out, const fs::path& err, const std::string& pr
 
 #endif
 
+/// While the object lives, temporary files are made in another directory.
+class OtherTemporaryPath {
+ public:
+  explicit OtherTemporaryPath(const fs::path& path) : before_(fs::temp_directory_path()) { set(path); }
+  OtherTemporaryPath(const OtherTemporaryPath&) = delete;
+  OtherTemporaryPath& operator=(const OtherTemporaryPath&) = delete;
+  ~OtherTemporaryPath() { set(before_); }
+
+ private:
+  static void set(const fs::path& path) {
+#if defined(_WIN32)
+    SetEnvironmentVariableW(L"TMP", path.c_str());
+#else
+    setenv("TMPDIR", path.c_str(), 1);
+#endif
+  }
+
+  fs::path before_;
+};
+
 /// Printed lines end in \n on every system.
 inline std::string readPrinted(const fs::path& path) {
   std::string text = readFile(path);
@@ -108,9 +131,13 @@ inline std::string readPrinted(const fs::path& path) {
   return text;
 }
 
+/// Expects that the program leaves no temporary file.
 inline Outcome run(const std::string& program, const std::vector<std::string>& arguments) {
   const TemporaryDirectory directory;
+  const fs::path temporary = directory.folder("temporary");
+  const OtherTemporaryPath other(temporary);
   const int exitCode = runTo(directory / "out", directory / "err", program, arguments);
+  EXPECT_TRUE(fs::is_empty(temporary));
   return {exitCode, readPrinted(directory / "out"), readPrinted(directory / "err")};
 }
 

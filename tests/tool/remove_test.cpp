@@ -1,20 +1,12 @@
 #include "tool/tool.h"
 
+namespace test {
 namespace {
-
-using test::argument;
-using test::expectFailure;
-using test::expectSuccess;
-using test::Outcome;
-using test::runTool;
-using test::styleText;
-using test::writeFile;
-using testing::ElementsAre;
 
 class Remove : public testing::Test {
  protected:
-  const test::TemporaryDirectory directory_;
-  const test::fs::path user_ = directory_.folder("user");
+  const TemporaryDirectory directory_;
+  const fs::path user_ = directory_.folder("user");
 };
 
 TEST_F(Remove, DeletesTheFileOfTheStyle) {
@@ -23,28 +15,28 @@ TEST_F(Remove, DeletesTheFileOfTheStyle) {
   const Outcome outcome = runTool({"remove", "A", "--user", argument(user_)});
   expectSuccess(outcome);
   EXPECT_EQ(outcome.out, "");
-  EXPECT_THAT(test::entryNames(user_), ElementsAre("b.kostyle"));
+  EXPECT_THAT(entryNames(user_), ElementsAre("b.kostyle"));
 }
 
 TEST_F(Remove, FindsStylesOfFurtherDirectories) {
   writeFile(directory_.folder("more") / "a.kostyle", styleText("A", "A"));
   expectSuccess(runTool(
       {"remove", "A", "--user", argument(user_), "--user-extra", argument(directory_ / "more")}));
-  EXPECT_TRUE(test::fs::is_empty(directory_ / "more"));
+  EXPECT_TRUE(fs::is_empty(directory_ / "more"));
 }
 
 TEST_F(Remove, RefusesWhatIsNoUserStyle) {
   const auto system = directory_.folder("system");
   writeFile(system / "s.kostyle", styleText("S", "S"));
   writeFile(user_ / "a.kostyle", styleText("A", "A"));
-  const auto before = test::contents(directory_.path());
+  const auto before = contents(directory_.path());
   expectFailure(runTool({"remove", "S", "--user", argument(user_), "--system", argument(system)}), 1,
                 "S: a system style is never changed");
   expectFailure(runTool({"remove", "S", "--user", argument(user_)}), 1,
                 "S: no style has this identifier");
   expectFailure(runTool({"remove", "a", "--user", argument(user_)}), 1,
                 "a: no style has this identifier");
-  EXPECT_EQ(test::contents(directory_.path()), before);
+  EXPECT_EQ(contents(directory_.path()), before);
 }
 
 TEST_F(Remove, RefusesWrongUse) {
@@ -53,7 +45,8 @@ TEST_F(Remove, RefusesWrongUse) {
   expectFailure(runTool({"remove", "A", "B", "--user", argument(user_)}), 2, "B");
   expectFailure(runTool({"remove", "A", "--user", argument(directory_ / "no")}), 2,
                 "no such directory");
-  EXPECT_FALSE(test::fs::exists(directory_ / "no"));
+  EXPECT_FALSE(fs::exists(directory_ / "no"));
 }
 
 }  // namespace
+}  // namespace test

@@ -1,20 +1,7 @@
 #include "tool/tool.h"
 
+namespace test {
 namespace {
-
-using test::argument;
-using test::Arguments;
-using test::expectFailure;
-using test::expectSuccess;
-using test::Outcome;
-using test::parseJson;
-using test::printed;
-using test::runTool;
-using test::styleText;
-using test::writeFile;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using test::operator+;
 
 class Set : public testing::Test {
  protected:
@@ -25,9 +12,9 @@ class Set : public testing::Test {
     return parseJson(runTool({"show", argument(file_), "--json"}).out);
   }
 
-  const test::TemporaryDirectory directory_;
-  const test::fs::path user_ = directory_.folder("user");
-  const test::fs::path file_ = user_ / "mine.kostyle";
+  const TemporaryDirectory directory_;
+  const fs::path user_ = directory_.folder("user");
+  const fs::path file_ = user_ / "mine.kostyle";
 };
 
 constexpr const char* wholeStyle = R"({"id":"S","name":"Whole",
@@ -43,7 +30,7 @@ TEST_F(Set, KeepsWhatIsNotChanged) {
   const Outcome outcome = change({"--name", "Renamed"});
   expectSuccess(outcome);
   EXPECT_EQ(outcome.out, "S\t" + printed(file_) + "\n");
-  EXPECT_THAT(test::entryNames(user_), ElementsAre("mine.kostyle"));
+  EXPECT_THAT(entryNames(user_), ElementsAre("mine.kostyle"));
   before["name"] = "Renamed";
   EXPECT_EQ(show(), before);
 }
@@ -96,14 +83,14 @@ TEST_F(Set, ChangesEverything) {
   EXPECT_STREQ(style["name"].GetString(), "Whole");
   EXPECT_EQ(style["languages"][0].GetInt(), 2);
   EXPECT_EQ(style["languages"][1].GetInt(), 4);
-  EXPECT_THAT(test::texts(style["singerGroups"]), ElementsAre("Choir", "Solo"));
-  EXPECT_THAT(test::texts(style["singerIDs"]), ElementsAre("fedcba9876543210"));
-  EXPECT_THAT(test::texts(style["genres"]), ElementsAre("Folk", "Rock"));
-  EXPECT_THAT(test::texts(style["subGenres"]), ElementsAre("Polka"));
-  EXPECT_THAT(test::texts(style["colors"]), ElementsAre("blue"));
-  EXPECT_THAT(test::effects(style["audioEffects"]),
+  EXPECT_THAT(texts(style["singerGroups"]), ElementsAre("Choir", "Solo"));
+  EXPECT_THAT(texts(style["singerIDs"]), ElementsAre("fedcba9876543210"));
+  EXPECT_THAT(texts(style["genres"]), ElementsAre("Folk", "Rock"));
+  EXPECT_THAT(texts(style["subGenres"]), ElementsAre("Polka"));
+  EXPECT_THAT(texts(style["colors"]), ElementsAre("blue"));
+  EXPECT_THAT(effects(style["audioEffects"]),
               ElementsAre("EQ(band float,gain float)", "Delay(time int)"));
-  EXPECT_THAT(test::effects(style["midiEffects"]), ElementsAre("Swing(amount float)"));
+  EXPECT_THAT(effects(style["midiEffects"]), ElementsAre("Swing(amount float)"));
 }
 
 TEST_F(Set, DeletesBeforeItAdds) {
@@ -111,14 +98,14 @@ TEST_F(Set, DeletesBeforeItAdds) {
   expectSuccess(change({"--add-genre", "Pop", "--delete-genre", "Pop", "--audio-effect", "EQ",
                         "--delete-audio-effect", "EQ", "--param", "EQ.new=1"}));
   const auto style = show();
-  EXPECT_THAT(test::texts(style["genres"]), ElementsAre("Folk", "Pop"));
-  EXPECT_THAT(test::effects(style["audioEffects"]), ElementsAre("Reverb(mix float)", "EQ(new int)"));
+  EXPECT_THAT(texts(style["genres"]), ElementsAre("Folk", "Pop"));
+  EXPECT_THAT(effects(style["audioEffects"]), ElementsAre("Reverb(mix float)", "EQ(new int)"));
 }
 
 TEST_F(Set, ChangesTheLayout) {
   writeFile(file_, styleText("S", "N"));
   expectSuccess(change({"--pretty"}));
-  EXPECT_EQ(test::readFile(file_).substr(0, 16), "{\n    \"id\": \"S\",");
+  EXPECT_EQ(readFile(file_).substr(0, 16), "{\n    \"id\": \"S\",");
 }
 
 TEST_F(Set, SaysThatTheVendorTextIsLost) {
@@ -137,7 +124,7 @@ TEST_F(Set, SaysThatEffectsWithoutParametersAreLost) {
   const Outcome outcome = change({"--add-genre", "Pop"});
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_THAT(outcome.err, HasSubstr("notice: effects without parameters"));
-  EXPECT_THAT(test::effects(show()["audioEffects"]), ElementsAre("E(p int)"));
+  EXPECT_THAT(effects(show()["audioEffects"]), ElementsAre("E(p int)"));
 }
 
 TEST_F(Set, RefusalLeavesTheFile) {
@@ -176,11 +163,11 @@ TEST_F(Set, RefusalLeavesTheFile) {
       {{"--genre", "Rock"}, 2, "--genre"},
   };
   writeFile(file_, wholeStyle);
-  const auto before = test::contents(directory_.path());
+  const auto before = contents(directory_.path());
   for (const Case& each : cases) {
     SCOPED_TRACE(each.why);
     expectFailure(change(each.arguments), each.exitCode, each.why);
-    EXPECT_EQ(test::contents(directory_.path()), before);
+    EXPECT_EQ(contents(directory_.path()), before);
   }
 }
 
@@ -188,7 +175,7 @@ TEST_F(Set, RefusesWhatCannotBeWritten) {
   const auto refused = [&](const std::string& text, const char* why) {
     writeFile(file_, text);
     expectFailure(change({"--add-genre", "Pop"}), 1, why);
-    EXPECT_EQ(test::readFile(file_), text);
+    EXPECT_EQ(readFile(file_), text);
   };
   refused(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p":1e39}}}})", "infinite");
   const std::string good = R"("audioEffect":{"E":{"parameter":{"p":1}}})";
@@ -199,6 +186,13 @@ TEST_F(Set, RefusesWhatCannotBeWritten) {
   refused(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p":"\udc41"}}}})",
           "lone surrogate");
   expectSuccess(change({"--param", "E.p=1"}));
+}
+
+TEST_F(Set, SaysThatTextsCannotBeCopied) {
+  const std::string good = R"("audioEffect":{"E":{"parameter":{"p":1}}}})";
+  writeFile(file_, R"({"id":"S","name":"N","filter":{"genres":["Pop\u0000a","Pop\u0000b"]},)" + good);
+  expectFailure(change({"--add-color", "red"}), 1,
+                "genre \"Pop\" of the stored style cannot be copied");
 }
 
 TEST_F(Set, StyleWhoseNameWasTooLongNeedsANewOne) {
@@ -212,12 +206,12 @@ TEST_F(Set, ChangesUserStylesOnly) {
   const auto system = directory_.folder("system");
   writeFile(system / "s.kostyle", styleText("S", "System"));
   writeFile(file_, styleText("S", "User"));
-  const auto before = test::contents(directory_.path());
+  const auto before = contents(directory_.path());
   expectFailure(change({"--name", "X", "--system", argument(system)}), 1,
                 "S: a system style is never changed");
   expectFailure(runTool({"set", "T", "--user", argument(user_), "--name", "X"}), 1,
                 "T: no style has this identifier");
-  EXPECT_EQ(test::contents(directory_.path()), before);
+  EXPECT_EQ(contents(directory_.path()), before);
 }
 
 TEST_F(Set, ChangesStylesOfFurtherDirectoriesInPlace) {
@@ -227,8 +221,8 @@ TEST_F(Set, ChangesStylesOfFurtherDirectoriesInPlace) {
       {"set", "far", "--user", argument(user_), "--user-extra", argument(more), "--name", "Near"});
   expectSuccess(outcome);
   EXPECT_EQ(outcome.out, "far\t" + printed(more / "far.kostyle") + "\n");
-  EXPECT_THAT(test::readFile(more / "far.kostyle"), HasSubstr("\"name\":\"Near\""));
-  EXPECT_TRUE(test::fs::is_empty(user_));
+  EXPECT_THAT(readFile(more / "far.kostyle"), HasSubstr("\"name\":\"Near\""));
+  EXPECT_TRUE(fs::is_empty(user_));
 }
 
 TEST_F(Set, RefusesWrongUse) {
@@ -236,19 +230,55 @@ TEST_F(Set, RefusesWrongUse) {
   expectFailure(runTool({"set", "S", "--name", "X"}), 2, "--user is required");
   expectFailure(runTool({"set", "S", "--user", argument(directory_ / "no"), "--name", "X"}), 2,
                 "no such directory");
-  EXPECT_FALSE(test::fs::exists(directory_ / "no"));
+  EXPECT_FALSE(fs::exists(directory_ / "no"));
 }
 
 #if !defined(_WIN32)
 TEST_F(Set, KeepsTheFileOnAFullDisk) {
   writeFile(file_, wholeStyle);
-  const auto before = test::contents(directory_.path());
-  const Outcome outcome = test::runToolOnFullDisk(
+  const auto before = contents(directory_.path());
+  const Outcome outcome = runToolOnFullDisk(
       1, {"set", "S", "--user", argument(user_), "--add-genre", std::string(2000, 'g')});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.out, HasSubstr("not valid JSON: a string has no closing quotation mark"));
-  EXPECT_EQ(test::contents(directory_.path()), before);
+  EXPECT_EQ(contents(directory_.path()), before);
+}
+
+TEST_F(Set, KeepsAFileThatWouldNotFitTwice) {
+  std::string large = wholeStyle;
+  large.insert(large.find("\"Pop\""), '"' + std::string(5000, 'g') + "\",");
+  writeFile(file_, large);
+  const auto before = contents(directory_.path());
+  const Outcome outcome =
+      runToolOnFullDisk(1, {"set", "S", "--user", argument(user_), "--name", "Other"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_THAT(outcome.out, HasSubstr("not valid JSON: a string has no closing quotation mark"));
+  EXPECT_EQ(contents(directory_.path()), before);
+}
+
+TEST_F(Set, KeepsTheFileWhenItCannotPrint) {
+  writeFile(file_, wholeStyle);
+  const TemporaryDirectory other;
+  const auto before = contents(directory_.path());
+  EXPECT_EQ(runToolWithoutOutput(other / "err", {"set", "S", "--user", argument(user_), "--name", "X"}),
+            1);
+  EXPECT_THAT(readFile(other / "err"), HasSubstr("the output cannot be written"));
+  EXPECT_EQ(contents(directory_.path()), before);
+}
+
+TEST_F(Set, ChangesStylesOnOtherVolumes) {
+  const fs::path memory = "/dev/shm";
+  if (!fs::is_directory(memory)) GTEST_SKIP() << "there is no other volume";
+  const OtherTemporaryPath otherPath(memory);
+  const TemporaryDirectory other;
+  writeFile(other / "far.kostyle", styleText("far", "Far"));
+  expectSuccess(runTool({"set", "far", "--user", argument(user_), "--user-extra",
+                         argument(other.path()), "--name", "Near"}));
+  EXPECT_THAT(readFile(other / "far.kostyle"), HasSubstr("\"name\":\"Near\""));
+  EXPECT_THAT(entryNames(other.path()), ElementsAre("far.kostyle"));
+  EXPECT_TRUE(fs::is_empty(user_));
 }
 #endif
 
 }  // namespace
+}  // namespace test

@@ -2,26 +2,14 @@
 
 #include <cstdlib>
 
+namespace test {
 namespace {
-
-using test::argument;
-using test::expectFailure;
-using test::expectSuccess;
-using test::Outcome;
-using test::parseJson;
-using test::printed;
-using test::runTool;
-using test::styleText;
-using test::writeFile;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using test::operator+;
 
 class Show : public testing::Test {
  protected:
-  const test::TemporaryDirectory directory_;
-  const test::fs::path system_ = directory_.folder("system");
-  const test::fs::path user_ = directory_.folder("user");
+  const TemporaryDirectory directory_;
+  const fs::path system_ = directory_.folder("system");
+  const fs::path user_ = directory_.folder("user");
 };
 
 constexpr const char* wholeStyle = R"({"id":"S1","name":"Whole","vendor":"Ours",
@@ -68,11 +56,11 @@ TEST_F(Show, PrintsStyleAsJson) {
   EXPECT_STREQ(style["name"].GetString(), "Whole");
   EXPECT_STREQ(style["vendor"].GetString(), "Ours");
   EXPECT_EQ(style["path"].GetString(), printed(user_ / "one.kostyle"));
-  EXPECT_THAT(test::effects(style["audioEffects"]),
+  EXPECT_THAT(effects(style["audioEffects"]),
               ElementsAre("EQ(band int,gain float,mode text)", "Dry()"));
-  EXPECT_THAT(test::effects(style["midiEffects"]), ElementsAre("Arp(rate float)"));
-  EXPECT_EQ(test::parameter(style, "band")["value"].GetInt(), -3);
-  EXPECT_STREQ(test::parameter(style, "mode")["value"].GetString(), "say \"hi\"\n");
+  EXPECT_THAT(effects(style["midiEffects"]), ElementsAre("Arp(rate float)"));
+  EXPECT_EQ(parameter(style, "band")["value"].GetInt(), -3);
+  EXPECT_STREQ(parameter(style, "mode")["value"].GetString(), "say \"hi\"\n");
 }
 
 TEST_F(Show, PrintsFloatsThatReadBackAsTheSame) {
@@ -89,7 +77,7 @@ TEST_F(Show, PrintsFloatsThatReadBackAsTheSame) {
   for (std::size_t i = 0; i < numbers.size(); ++i) {
     const std::string name = "p" + std::to_string(i);
     const float expected = static_cast<float>(std::strtod(numbers[i].c_str(), nullptr));
-    EXPECT_EQ(static_cast<float>(test::parameter(style, name)["value"].GetDouble()), expected);
+    EXPECT_EQ(static_cast<float>(parameter(style, name)["value"].GetDouble()), expected);
     const std::string label = "─ " + name + ": float ";
     const std::size_t at = tree.find(label);
     ASSERT_NE(at, tree.npos);
@@ -105,7 +93,7 @@ TEST_F(Show, PrintsInfiniteFloats) {
             R"({"id":"i","name":"I","audioEffect":{"E":{"parameter":{"p":-1e300}}}})");
   EXPECT_THAT(runTool({"show", argument(directory_ / "inf")}).out, HasSubstr("p: float -inf\n"));
   const auto style = parseJson(runTool({"show", argument(directory_ / "inf"), "--json"}).out);
-  EXPECT_STREQ(test::parameter(style, "p")["value"].GetString(), "-inf");
+  EXPECT_STREQ(parameter(style, "p")["value"].GetString(), "-inf");
 }
 
 TEST_F(Show, ReadsAFileByItself) {
@@ -114,15 +102,14 @@ TEST_F(Show, ReadsAFileByItself) {
   for (const auto& [file, name] : {std::pair{"one.kostyle", "One"}, std::pair{"two.kostyle", "Two"}}) {
     const Outcome outcome = runTool({"show", argument(system_ / file), "--system", argument(system_)});
     expectSuccess(outcome);
-    EXPECT_THAT(outcome.out,
-                testing::StartsWith(std::string(name) + "\n├─ id: same\n├─ kind: file\n├─ path: " +
-                                    argument(system_ / file) + "\n"));
+    EXPECT_THAT(outcome.out, StartsWith(std::string(name) + "\n├─ id: same\n├─ kind: file\n├─ path: " +
+                                        argument(system_ / file) + "\n"));
   }
-  EXPECT_EQ(test::entryNames(system_), (std::vector<std::string>{"one.kostyle", "two.kostyle"}));
+  EXPECT_EQ(entryNames(system_), (std::vector<std::string>{"one.kostyle", "two.kostyle"}));
 }
 
 TEST_F(Show, ReadsAFileOfAnyName) {
-  const auto path = directory_ / test::fs::u8path("夜.json");
+  const auto path = directory_ / fs::u8path("夜.json");
   writeFile(path, styleText("n", "Night"));
   const auto style = parseJson(runTool({"show", argument(path), "--json"}).out);
   EXPECT_STREQ(style["id"].GetString(), "n");
@@ -133,11 +120,11 @@ TEST_F(Show, ReadsAFileOfAnyName) {
 TEST_F(Show, FindsIdentifiersInFurtherDirectories) {
   writeFile(directory_.folder("s1") / "a.kostyle", styleText("Ж 1", "A"));
   writeFile(directory_.folder("u1") / "b.kostyle", styleText("u/1", "B"));
-  const test::Arguments directories{
+  const Arguments directories{
       "--system", argument(system_), "--system-extra", argument(directory_ / "s1"),
       "--user",   argument(user_),   "--user-extra",   argument(directory_ / "u1")};
-  EXPECT_THAT(runTool(test::Arguments{"show", "Ж 1"} + directories).out, HasSubstr("kind: system"));
-  EXPECT_THAT(runTool(test::Arguments{"show", "u/1"} + directories).out, HasSubstr("kind: user"));
+  EXPECT_THAT(runTool(Arguments{"show", "Ж 1"} + directories).out, HasSubstr("kind: system"));
+  EXPECT_THAT(runTool(Arguments{"show", "u/1"} + directories).out, HasSubstr("kind: user"));
 }
 
 TEST_F(Show, SaysWhyAFileIsRefused) {
@@ -167,7 +154,7 @@ TEST_F(Show, RefusesWrongUse) {
   expectFailure(runTool({"show", "a", "--system", argument(directory_ / "no")}), 2,
                 "no such directory");
   expectFailure(runTool({"show", "a", "--user", argument(directory_ / "no")}), 2, "no such directory");
-  EXPECT_FALSE(test::fs::exists(directory_ / "no"));
+  EXPECT_FALSE(fs::exists(directory_ / "no"));
 }
 
 #if !defined(_WIN32)
@@ -185,3 +172,4 @@ TEST_F(Show, TakesPathsWithStrayBytes) {
 #endif
 
 }  // namespace
+}  // namespace test

@@ -12,6 +12,10 @@
 
 namespace test {
 
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
 using Arguments = std::vector<std::string>;
 
 inline Outcome runTool(const Arguments& arguments) { return run(KOSTYLE_TOOL, arguments); }
@@ -22,11 +26,21 @@ inline Arguments operator+(Arguments arguments, const Arguments& more) {
 }
 
 #if !defined(_WIN32)
+/// The script runs the tool as "$0" "$@".
+inline Outcome runToolInScript(const std::string& script, const Arguments& arguments) {
+  return run("/bin/bash", Arguments{"-c", script, KOSTYLE_TOOL} + arguments);
+}
+
+/// The exit code when nothing can be printed; stderr goes to a file.
+inline int runToolWithoutOutput(const fs::path& err, const Arguments& arguments) {
+  return runTo("/dev/full", err, KOSTYLE_TOOL, arguments);
+}
+
 /// As on a full disk: the tool may not make a file longer than so many kilobytes. All is in `out`.
 inline Outcome runToolOnFullDisk(int kilobytes, const Arguments& arguments) {
   const std::string script = "set -o pipefail; (trap '' XFSZ; ulimit -f " + std::to_string(kilobytes) +
                              "; exec \"$0\" \"$@\" 2>&1) | cat";
-  return run("/bin/bash", Arguments{"-c", script, KOSTYLE_TOOL} + arguments);
+  return runToolInScript(script, arguments);
 }
 #endif
 
@@ -90,8 +104,8 @@ inline const rapidjson::Value& parameter(const rapidjson::Document& style, const
 inline void expectFailure(const Outcome& outcome, int exitCode, const std::string& why) {
   EXPECT_EQ(outcome.exitCode, exitCode);
   EXPECT_EQ(outcome.out, "");
-  EXPECT_THAT(outcome.err, testing::StartsWith("kostyle: "));
-  EXPECT_THAT(outcome.err, testing::HasSubstr(why));
+  EXPECT_THAT(outcome.err, StartsWith("kostyle: "));
+  EXPECT_THAT(outcome.err, HasSubstr(why));
   EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1);
 }
 

@@ -80,7 +80,8 @@ void addListCommand(CLI::App& app, Command& chosen) {
   CLI::App* command = app.add_subcommand("list", "Lists the styles of directories");
   addDirectoryOptions(*command, options->directories);
   command->get_option("--system")->required();
-  command->add_flag("--json", options->json, "Print JSON, with effects and parameters");
+  command->add_flag("--json", options->json, "Print JSON, with effects and parameters")
+      ->disable_flag_override();
   command->footer(
       R"(Files that were refused follow the styles, each with the reason; the exit code is 1 then.
 

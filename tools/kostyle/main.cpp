@@ -9,6 +9,7 @@
 
 #include "commands.h"
 #include "failure.h"
+#include "output.h"
 #include "text.h"
 
 namespace {
@@ -37,13 +38,15 @@ int run(std::vector<std::string> arguments) {
     std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the back
     app.parse(std::move(arguments));
   } catch (const CLI::Success& help) {
-    return app.exit(help);
+    const int exitCode = app.exit(help);
+    tool::flushOutput();
+    return exitCode;
   } catch (const CLI::ParseError& error) {
     throw tool::WrongUse(error.what());
   }
   if (!chosen) throw tool::WrongUse("a command is required: list, show, new, set or remove");
   const int exitCode = chosen();
-  if (std::fflush(stdout) != 0) throw tool::Refused("the output cannot be written");
+  tool::flushOutput();
   return exitCode;
 }
 

@@ -24,11 +24,9 @@ int create(const Options& options) {
   const Manager manager(options.directories);
   Workspace workspace(manager);
   workspace.apply(options.edits);
-  const bool effectsLost = losesEffects(workspace);
-  KoStyleStyle* style = saveNew(workspace, options.edits.pretty);
+  const Losses losses = saveNew(workspace, *options.directories.user, options.edits.pretty);
   made.keep();
-  printWritten(style);
-  if (effectsLost) noticeLostEffects();
+  noticeLosses(losses);
   return exitOk;
 }
 

@@ -6,8 +6,12 @@
 
 namespace tool {
 
-void noticeLostEffects() {
-  fmt::print(stderr, "kostyle: notice: effects without parameters will not be read from the file\n");
+void noticeLosses(const Losses& losses) {
+  if (losses.emptyEffects)
+    fmt::print(stderr, "kostyle: notice: effects without parameters will not be read from the file\n");
+  if (losses.sameNames)
+    fmt::print(stderr,
+               "kostyle: notice: effects or parameters are lost: readers take their names for one\n");
 }
 
 void noticeLostVendor(const std::string& vendor) {

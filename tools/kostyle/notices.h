@@ -3,9 +3,11 @@
 
 #include <string>
 
+#include "saving.h"
+
 namespace tool {
 
-void noticeLostEffects();
+void noticeLosses(const Losses& losses);
 void noticeLostVendor(const std::string& vendor);
 
 }  // namespace tool

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <string_view>
 #include <system_error>
+#include <tuple>
 
 #include "failure.h"
 #include "text.h"
@@ -50,35 +51,47 @@ Value valueOf(const std::string& text, const std::string& type) {
   throw WrongUse(fmt::format("{}: not a type; the types are int, float and text", type));
 }
 
-// The length of what names the effect in front of the argument, the dot included; 0 when nothing does.
-std::size_t matchLength(const std::string& argument, const NamedEffect& effect) {
+// What names the effect in front of the argument.
+struct Match {
+  std::size_t length;  // the dot included; 0 when nothing does
+  bool namesChain;
+
+  bool operator<(const Match& other) const {
+    return std::tie(length, namesChain) < std::tie(other.length, other.namesChain);
+  }
+};
+
+Match matchOf(const std::string& argument, const NamedEffect& effect) {
   const std::string plain = effect.id + '.';
   const std::string qualified = fmt::format("{}:{}", effect.chain->name, plain);
   const auto leads = [&](const std::string& prefix) {
     return argument.compare(0, prefix.size(), prefix) == 0;
   };
-  return leads(qualified) ? qualified.size() : leads(plain) ? plain.size() : 0;
+  if (leads(qualified)) return {qualified.size(), true};
+  return {leads(plain) ? plain.size() : 0, false};
 }
 
 }  // namespace
+
+int intOf(std::string_view text) { return numberOf<int>(text, "int"); }
 
 EffectReference findEffect(const std::string& argument, const std::vector<NamedEffect>& effects) {
   if (argument.find('.') == argument.npos)
     throw WrongUse(fmt::format("{}: a parameter is named EFFECT.NAME", argument));
   const NamedEffect* best = nullptr;
-  std::size_t bestLength = 0;
+  Match bestMatch{};
   bool ambiguous = false;
   for (const NamedEffect& effect : effects) {
-    const std::size_t length = matchLength(argument, effect);
-    if (length < bestLength || length == 0) continue;
-    ambiguous = length == bestLength;
+    const Match match = matchOf(argument, effect);
+    if (match.length == 0 || match < bestMatch) continue;
+    ambiguous = !(bestMatch < match);
     best = &effect;
-    bestLength = length;
+    bestMatch = match;
   }
   if (!best) throw Refused(fmt::format("{}: the style has no such effect", argument));
   if (ambiguous)
-    throw Refused(fmt::format("{0}: both chains have the effect; say audio:{0} or midi:{0}", argument));
-  return {best->handle, argument.substr(bestLength)};
+    throw Refused(fmt::format("{0} names more than one effect; say audio:{0} or midi:{0}", argument));
+  return {best->handle, argument.substr(bestMatch.length)};
 }
 
 Assignment parseAssignment(const std::string& text) {

@@ -4,6 +4,7 @@
 #include <kostyle/kostyle.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "attributes.h"
@@ -24,13 +25,17 @@ struct EffectReference {
 };
 
 /// The effect that the argument starts with. Identifiers may hold dots: the longest one wins. "audio:"
-/// or "midi:" in front names the chain, and has to when both chains have the effect.
+/// or "midi:" in front names the chain, wins over as long an identifier that starts so, and is needed
+/// when both chains have the effect.
 EffectReference findEffect(const std::string& argument, const std::vector<NamedEffect>& effects);
 
 struct Assignment {
   std::string name;
   Value value;
 };
+
+/// A whole decimal number and nothing else; throws WrongUse.
+int intOf(std::string_view text);
 
 /// NAME=VALUE, whose type follows the form of VALUE, or NAME:TYPE=VALUE. The first "=" ends NAME.
 Assignment parseAssignment(const std::string& text);

@@ -1,9 +1,25 @@
 #include "paths.h"
 
+#include <fmt/format.h>
+
 #include <random>
 #include <system_error>
 
+#include "failure.h"
+
 namespace tool {
+namespace {
+
+// Fails when the working directory was deleted.
+fs::path absolutePath(const fs::path& path) {
+  std::error_code error;
+  fs::path absolute = fs::absolute(path, error);
+  if (error)
+    throw Refused(fmt::format("{}: no working directory: {}", shownPath(path), error.message()));
+  return absolute;
+}
+
+}  // namespace
 
 fs::path pathOf(std::string_view argument) {
 #if defined(_WIN32)
@@ -49,16 +65,21 @@ bool isDirectory(const fs::path& path) {
 }
 
 fs::path existingPart(const fs::path& path) {
-  fs::path part = fs::absolute(path);
+  fs::path part = absolutePath(path);
   while (!isDirectory(part) && part != part.parent_path()) part = part.parent_path();
   return part;
 }
 
 TemporaryDirectory::TemporaryDirectory() {
   std::random_device random;
-  do {
-    path_ = fs::temp_directory_path() / ("kostyle-" + std::to_string(random()));
-  } while (!fs::create_directory(path_));
+  std::error_code error;
+  const fs::path parent = fs::temp_directory_path(error);
+  bool made = false;
+  while (!made && !error) {
+    path_ = parent / fmt::format("kostyle-{}", random());
+    made = fs::create_directory(path_, error);
+  }
+  if (!made) throw Refused(fmt::format("no temporary directory: {}", error.message()));
 }
 
 TemporaryDirectory::~TemporaryDirectory() {
@@ -67,7 +88,7 @@ TemporaryDirectory::~TemporaryDirectory() {
 }
 
 MissingDirectories::MissingDirectories(const fs::path& path) {
-  fs::path part = fs::absolute(path);
+  fs::path part = absolutePath(path);
   if (!part.has_filename()) part = part.parent_path();
   for (const fs::path existing = existingPart(part); part != existing; part = part.parent_path())
     deepestFirst_.push_back(part);

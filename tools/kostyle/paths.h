@@ -26,12 +26,14 @@ Text libraryPath(const fs::path& path);
 
 bool isDirectory(const fs::path& path);
 
-/// The deepest directory on the way to `path` that exists, `path` itself included.
+/// The deepest directory on the way to `path` that exists, `path` itself included. Throws Refused when
+/// there is no working directory that a relative path could start from.
 fs::path existingPart(const fs::path& path);
 
 /// An empty directory that is removed with all that was put into it.
 class TemporaryDirectory {
  public:
+  /// Throws Refused.
   TemporaryDirectory();
   TemporaryDirectory(const TemporaryDirectory&) = delete;
   TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;

@@ -3,25 +3,37 @@
 #include <fmt/format.h>
 
 #include <cmath>
+#include <exception>
 
+#include "backup.h"
 #include "code_texts.h"
 #include "failure.h"
+#include "output.h"
 #include "style_file.h"
 #include "text.h"
 
 namespace tool {
 namespace {
 
-std::size_t countEffects(KoStyleStyle* style) {
-  return Style_numAudioEffect(style) + Style_numMidiEffect(style);
-}
+// A mutable style is walked through `editable`, one that was read through `stored`.
+using EffectAt = KoStyleEffect* (*Chain::*)(KoStyleStyle*, std::size_t);
 
-std::size_t countEmptyEffects(KoStyleStyle* style) {
-  std::size_t count = 0;
+struct Counts {
+  std::size_t effects = 0;
+  std::size_t emptyEffects = 0;
+  std::size_t parameters = 0;
+};
+
+Counts countsOf(KoStyleStyle* style, EffectAt effectAt) {
+  Counts counts;
   for (const Chain& chain : chains())
-    for (std::size_t i = 0; i < chain.count(style); ++i)
-      if (Effect_numParameter(chain.editable(style, i)) == 0) ++count;
-  return count;
+    for (std::size_t i = 0; i < chain.count(style); ++i) {
+      const std::size_t parameters = Effect_numParameter((chain.*effectAt)(style, i));
+      ++counts.effects;
+      if (parameters == 0) ++counts.emptyEffects;
+      counts.parameters += parameters;
+    }
+  return counts;
 }
 
 void requireUnicode(const KoStyleChar* text) {
@@ -49,51 +61,66 @@ void requireWritable(KoStyleStyle* style) {
       for (std::size_t j = 0; j < Effect_numParameter(effect); ++j)
         requireWritable(MutableEffect_parameter(effect, j));
     }
-  const std::size_t effects = countEffects(style);
-  if (effects > 0 && countEmptyEffects(style) == effects)
+  const Counts counts = countsOf(style, &Chain::editable);
+  if (counts.effects > 0 && counts.emptyEffects == counts.effects)
     throw Refused("no effect has a parameter: the file could not be read again");
 }
 
 // A full disk is no error to the library either.
-void requireReadable(KoStyleStyle* style) { StyleFile(pathOf(TextView(Style_path(style)))); }
+Losses readAgain(KoStyleStyle* style, const Counts& written, const TemporaryDirectory& directory) {
+  const StyleFile file(pathOf(TextView(Style_path(style))), directory);
+  const Counts read = countsOf(file.style(), &Chain::stored);
+  const bool sameNames =
+      read.effects < written.effects - written.emptyEffects || read.parameters < written.parameters;
+  return {written.emptyEffects > 0, sameNames};
+}
+
+void printWritten(KoStyleStyle* style) {
+  fmt::print("{}\t{}\n", printable(toUtf8(Style_id(style))), printable(pathToUtf8(Style_path(style))));
+  flushOutput();
+}
+
+void check(int error, const fs::path& path) {
+  if (error != KOSTYLE_OK) throw Refused(fmt::format("{}: {}", shownPath(path), codeText(error)));
+}
 
 }  // namespace
 
-KoStyleStyle* saveNew(const Workspace& workspace, bool pretty) {
+Losses saveNew(const Workspace& workspace, const fs::path& directory, bool pretty) {
   requireWritable(workspace.handle());
+  const Counts counts = countsOf(workspace.handle(), &Chain::editable);
+  const TemporaryDirectory temporary;
   int error = KOSTYLE_OK;
   KoStyleStyle* style = MutableStyle_save(workspace.handle(), pretty, &error);
-  if (!style) throw Refused(codeText(error));
+  check(error, directory);
   try {
-    requireReadable(style);
+    const Losses losses = readAgain(style, counts, temporary);
+    printWritten(style);
+    return losses;
   } catch (...) {
     UserStyle_remove(style);
     throw;
   }
-  return style;
 }
 
-void saveOver(const Workspace& workspace, KoStyleStyle* target, bool pretty) {
+Losses saveOver(const Workspace& workspace, KoStyleStyle* target, bool pretty) {
   requireWritable(workspace.handle());
-  const TemporaryDirectory directory;
+  const Counts counts = countsOf(workspace.handle(), &Chain::editable);
+  const TemporaryDirectory temporary;
   const fs::path path = pathOf(TextView(Style_path(target)));
-  const fs::path before = directory.path() / "before";
-  fs::copy_file(path, before);
+  Backup backup(path);
   int error = KOSTYLE_OK;
-  if (!MutableStyle_overwrite(workspace.handle(), Style_id(target), pretty, &error))
-    throw Refused(codeText(error));
+  MutableStyle_overwrite(workspace.handle(), Style_id(target), pretty, &error);
+  check(error, path);
   try {
-    requireReadable(target);
-  } catch (...) {
-    fs::copy_file(before, path, fs::copy_options::overwrite_existing);
-    throw;
+    const Losses losses = readAgain(target, counts, temporary);
+    printWritten(target);
+    return losses;
+  } catch (const std::exception& failure) {
+    if (backup.restore()) throw;
+    throw Refused(
+        fmt::format("{}; the style as it was is kept in {}", failure.what(), shownPath(backup.path())));
   }
-}
-
-bool losesEffects(const Workspace& workspace) { return countEmptyEffects(workspace.handle()) > 0; }
-
-void printWritten(KoStyleStyle* style) {
-  fmt::print("{}\t{}\n", printable(toUtf8(Style_id(style))), printable(pathToUtf8(Style_path(style))));
 }
 
 }  // namespace tool

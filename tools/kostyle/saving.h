@@ -3,22 +3,22 @@
 
 #include <kostyle/kostyle.h>
 
-#include <string>
-
+#include "paths.h"
 #include "workspace.h"
 
 namespace tool {
 
-/// Writes a new user style, or nothing. Throws Refused.
-KoStyleStyle* saveNew(const Workspace& workspace, bool pretty);
+/// What was written but is not read from the file.
+struct Losses {
+  bool emptyEffects;
+  bool sameNames;  // effects or parameters whose names readers take for one
+};
 
-/// Writes over a user style, or leaves its file as it was. Throws Refused.
-void saveOver(const Workspace& workspace, KoStyleStyle* target, bool pretty);
+/// Writes a new user style to the manager's user directory, reads it again and prints its identifier
+/// and path, a tab between them; or leaves nothing. Throws Refused.
+Losses saveNew(const Workspace& workspace, const fs::path& directory, bool pretty);
 
-/// Whether an effect has no parameter: it will not be read from the file.
-bool losesEffects(const Workspace& workspace);
-
-/// Prints the identifier and the path of a user style, a tab between them.
-void printWritten(KoStyleStyle* style);
+/// Does the same over a user style of the user directory, or leaves its file as it was. Throws Refused.
+Losses saveOver(const Workspace& workspace, KoStyleStyle* target, bool pretty);
 
 }  // namespace tool

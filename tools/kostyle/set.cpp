@@ -20,20 +20,28 @@ struct Options {
   StyleEdits edits;
 };
 
+// The library writes to the user directory and then renames the file, which fails across volumes: the
+// directory that the style lies in is made the user directory.
+StyleDirectories besideStyle(const StyleDirectories& directories, const Text& id) {
+  const Manager manager(directories);
+  StyleDirectories own;
+  own.user = pathOf(TextView(Style_path(manager.userStyle(id)))).parent_path();
+  return own;
+}
+
 int change(const Options& options) {
   if (changesNothing(options.edits)) throw WrongUse("nothing is to be changed");
   requireExisting(options.directories);
-  const Manager manager(options.directories);
-  KoStyleStyle* style = manager.userStyle(fromUtf8(options.id));
+  const Text id = fromUtf8(options.id);
+  const Manager manager(besideStyle(options.directories, id));
+  KoStyleStyle* style = manager.userStyle(id);
   const std::string vendor = toUtf8(Style_vendor(style));
   Workspace workspace(manager);
   workspace.copy(style);
   workspace.apply(options.edits);
-  const bool effectsLost = losesEffects(workspace);
-  saveOver(workspace, style, options.edits.pretty);
-  printWritten(style);
+  const Losses losses = saveOver(workspace, style, options.edits.pretty);
   if (!vendor.empty()) noticeLostVendor(vendor);
-  if (effectsLost) noticeLostEffects();
+  noticeLosses(losses);
   return exitOk;
 }
 

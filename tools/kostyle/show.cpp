@@ -56,7 +56,7 @@ void addShowCommand(CLI::App& app, Command& chosen) {
   command->add_option("STYLE", options->style, "Path of a style file, or identifier of a style")
       ->required();
   addDirectoryOptions(*command, options->directories);
-  command->add_flag("--json", options->json, "Print JSON");
+  command->add_flag("--json", options->json, "Print JSON")->disable_flag_override();
   command->footer(
       R"(A file is shown by itself, whatever lies beside it. When no file has the name STYLE, it is the
 identifier of a style in the directories.

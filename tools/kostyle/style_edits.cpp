@@ -5,6 +5,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "failure.h"
+#include "parameter_argument.h"
+
 namespace tool {
 namespace {
 
@@ -14,10 +17,27 @@ bool allEmpty(const Lists& lists) {
 }
 
 // One value for each time that the option is given.
-template <typename Value>
-void addRepeated(CLI::App& command, const std::string& option, std::vector<Value>& values,
-                 const char* type, const std::string& description) {
+void addRepeated(CLI::App& command, const std::string& option, Texts& values, const char* type,
+                 const std::string& description) {
   command.add_option("--" + option, values, description)->allow_extra_args(false)->type_name(type);
+}
+
+int languageOf(const std::string& option, const std::string& argument) {
+  try {
+    return intOf(argument);
+  } catch (const WrongUse& error) {
+    throw WrongUse(fmt::format("{} {}", option, error.what()));
+  }
+}
+
+void addLanguages(CLI::App& command, const std::string& option, std::vector<int>& languages,
+                  const std::string& description) {
+  const auto take = [&languages, option](const Texts& arguments) {
+    for (const std::string& argument : arguments) languages.push_back(languageOf(option, argument));
+  };
+  command.add_option_function<Texts>(option, take, description)
+      ->allow_extra_args(false)
+      ->type_name("NUMBER");
 }
 
 void addCommonOptions(CLI::App& command, StyleEdits& edits) {
@@ -28,7 +48,7 @@ void addCommonOptions(CLI::App& command, StyleEdits& edits) {
   }
   addRepeated(command, "param", edits.parameters, "EFFECT.NAME[:TYPE]=VALUE",
               "Give an effect a parameter; TYPE is int, float or text");
-  command.add_flag("--pretty", edits.pretty, "Write one line for each member");
+  command.add_flag("--pretty", edits.pretty, "Write one line for each member")->disable_flag_override();
 }
 
 }  // namespace
@@ -42,7 +62,7 @@ bool changesNothing(const StyleEdits& edits) {
 
 void addCreationOptions(CLI::App& command, StyleEdits& edits) {
   command.add_option("--name", edits.name, "Name of the style")->required()->type_name("TEXT");
-  addRepeated(command, "language", edits.languages, "NUMBER", "Language, 0 to 4");
+  addLanguages(command, "--language", edits.languages, "Language, 0 to 4");
   for (std::size_t i = 0; i < textLists().size(); ++i)
     addRepeated(command, textLists()[i].option, edits.texts[i], "TEXT",
                 fmt::format("One of the {}", textLists()[i].title));
@@ -51,8 +71,8 @@ void addCreationOptions(CLI::App& command, StyleEdits& edits) {
 
 void addChangeOptions(CLI::App& command, StyleEdits& edits) {
   command.add_option("--name", edits.name, "New name of the style")->type_name("TEXT");
-  addRepeated(command, "add-language", edits.languages, "NUMBER", "Add a language, 0 to 4");
-  addRepeated(command, "delete-language", edits.deletedLanguages, "NUMBER", "Delete a language");
+  addLanguages(command, "--add-language", edits.languages, "Add a language, 0 to 4");
+  addLanguages(command, "--delete-language", edits.deletedLanguages, "Delete a language");
   for (std::size_t i = 0; i < textLists().size(); ++i) {
     const TextList& list = textLists()[i];
     addRepeated(command, fmt::format("add-{}", list.option), edits.texts[i], "TEXT",

@@ -10,8 +10,7 @@
 namespace tool {
 
 // A copy alone in a directory is read in place of the file.
-StyleFile::StyleFile(const fs::path& path) {
-  const TemporaryDirectory directory;
+StyleFile::StyleFile(const fs::path& path, const TemporaryDirectory& directory) {
   std::error_code error;
   fs::copy_file(path, directory.path() / "style.kostyle", error);
   if (error) throw Refused(fmt::format("{}: {}", shownPath(path), error.message()));

@@ -12,8 +12,8 @@ namespace tool {
 
 class StyleFile {
  public:
-  /// Throws Refused when the file cannot be read or holds no valid style.
-  explicit StyleFile(const fs::path& path);
+  /// Throws Refused when the file cannot be read or holds no valid style. The directory is empty.
+  explicit StyleFile(const fs::path& path, const TemporaryDirectory& directory = TemporaryDirectory());
 
   KoStyleStyle* style() const { return manager_->styles().front(); }
 

@@ -20,16 +20,24 @@ bool isStyleFile(const fs::directory_entry& entry) {
   return entry.is_regular_file(ignored) || !entry.exists(ignored);
 }
 
+// The style files of a directory; the directory itself when it cannot be read to its end.
+void addStyleFiles(std::set<fs::path>& files, const fs::path& directory) {
+  std::error_code error;
+  fs::directory_iterator entries(directory, error);
+  while (!error && entries != fs::directory_iterator()) {
+    if (isStyleFile(*entries)) files.insert(entries->path().lexically_normal());
+    entries.increment(error);
+  }
+  if (error) files.insert(directory);
+}
+
 std::set<fs::path> styleFiles(const StyleDirectories& directories) {
   std::vector<fs::path> all = directories.systemExtra;
   all.insert(all.end(), directories.userExtra.begin(), directories.userExtra.end());
   if (directories.system) all.push_back(*directories.system);
   if (directories.user) all.push_back(*directories.user);
   std::set<fs::path> files;
-  std::error_code ignored;
-  for (const fs::path& directory : all)
-    for (const auto& entry : fs::directory_iterator(pathOf(libraryPath(directory)), ignored))
-      if (isStyleFile(entry)) files.insert(entry.path().lexically_normal());
+  for (const fs::path& directory : all) addStyleFiles(files, pathOf(libraryPath(directory)));
   return files;
 }
 

@@ -26,12 +26,19 @@ KoStyleParameter* findParameter(KoStyleEffect* effect, TextView name) {
   return nullptr;
 }
 
+Refused notCopied(const char* what, const KoStyleChar* text) {
+  return Refused(
+      fmt::format("{} {} of the stored style cannot be copied: texts end at U+0000, and without the "
+                  "rest it is refused or there already",
+                  what, inQuotes(toUtf8(text))));
+}
+
 void copyParameters(KoStyleEffect* from, KoStyleEffect* to) {
   for (std::size_t i = 0; i < Effect_numParameter(from); ++i) {
     KoStyleParameter* parameter = Effect_parameter(from, i);
     const KoStyleChar* name = Parameter_name(parameter);
     KoStyleParameter* copy = MutableEffect_addParameter(to, name);
-    if (!copy) throw Refused(fmt::format("parameter {} cannot be copied", inQuotes(toUtf8(name))));
+    if (!copy) throw notCopied("parameter", name);
     setValue(copy, valueOf(parameter));
   }
 }
@@ -43,11 +50,14 @@ void Workspace::copy(KoStyleStyle* stored) {
   MutableStyle_setName(style_, Style_name(stored));
   for (const int language : languages(stored)) addLanguage(language);
   for (const TextList& list : textLists())
-    for (std::size_t i = 0; i < list.count(stored); ++i) addText(list, list.at(stored, i));
+    for (std::size_t i = 0; i < list.count(stored); ++i)
+      if (!list.add(style_, list.at(stored, i))) throw notCopied(list.option, list.at(stored, i));
   for (const Chain& chain : chains())
     for (std::size_t i = 0; i < chain.count(stored); ++i) {
       KoStyleEffect* effect = chain.stored(stored, i);
-      copyParameters(effect, appendEffect(chain, Effect_id(effect)));
+      KoStyleEffect* copy = chain.insert(style_, i, Effect_id(effect));
+      if (!copy) throw notCopied(chain.option, Effect_id(effect));
+      copyParameters(effect, copy);
     }
 }
 
