@@ -43,7 +43,10 @@ bool renameFile(const NativePath& from, const NativePath& to) noexcept {
   return !(current && current->refuseRenaming) && realRenameFile(from, to);
 }
 
-File openForReading(const NativePath& path) noexcept { return realOpenForReading(path); }
+File openForReading(const NativePath& path) noexcept {
+  if (current && ++current->readings == current->vanishingFile) realDeleteFile(path);
+  return realOpenForReading(path);
+}
 
 File openForWriting(const NativePath& path) noexcept {
   if (current && current->refuseOpening) return nullptr;

@@ -26,10 +26,14 @@ class Faults {
   bool refuseWriting = false;
   /// The deletion that is refused, counted from 1; 0 for none.
   int refusedDeletion = 0;
+  /// The file that is deleted by somebody else just before it is opened to be read, counted from 1; 0
+  /// for none.
+  int vanishingFile = 0;
   /// The UUIDs that are made before random ones.
   std::vector<Text> nextUuids;
 
   int deletions = 0;
+  int readings = 0;
 };
 
 }  // namespace test
