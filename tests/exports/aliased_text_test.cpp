@@ -13,17 +13,23 @@ using test::text;
 using test::TextList;
 using test::utf8;
 
-class AliasedText : public testing::Test {
+// Once with a text that a string holds in itself, once with a longer one, which when it is gone is
+// memory that is gone.
+class AliasedText : public testing::TestWithParam<const char*> {
  protected:
-  // Longer than what a string holds in itself, so that a text that is gone is memory that is gone.
-  const test::Text longText = text("a text of more than sixteen units");
+  const test::Text aText = text(GetParam());
+  const test::Text longText = text("another text of more than sixteen units");
   test::Host host;
   KoStyleStyle* style = host.createMutableStyle("a name of more than sixteen units");
   KoStyleEffect* effect = MutableStyle_audioEffect(style, 0);
   KoStyleParameter* parameter = MutableEffect_parameter(effect, 0);
 };
 
-TEST_F(AliasedText, DeletesFromItsOwnList) {
+INSTANTIATE_TEST_SUITE_P(OfEitherLength, AliasedText,
+                         testing::Values("x-y", "a text of more than sixteen units"),
+                         [](const auto& text) { return text.index == 0 ? "Short" : "Long"; });
+
+TEST_P(AliasedText, DeletesFromItsOwnList) {
   for (const TextList& list : test::textLists()) {
     SCOPED_TRACE(list.name);
     const test::Text word(16, KoStyleChar('x'));
@@ -34,49 +40,75 @@ TEST_F(AliasedText, DeletesFromItsOwnList) {
   }
 }
 
-TEST_F(AliasedText, MovesFromListToList) {
-  MutableStyle_addGenre(style, longText.c_str());
+TEST_P(AliasedText, MovesFromListToList) {
+  MutableStyle_addGenre(style, aText.c_str());
   EXPECT_TRUE(MutableStyle_addSubGenre(style, Style_genre(style, 0)));
   EXPECT_TRUE(MutableStyle_addColor(style, Style_subGenre(style, 0)));
   EXPECT_TRUE(MutableStyle_deleteGenre(style, Style_color(style, 0)));
-  EXPECT_EQ(Style_color(style, 0), longText);
+  EXPECT_EQ(Style_color(style, 0), aText);
 }
 
-TEST_F(AliasedText, IsTheNameAgain) {
+TEST_P(AliasedText, IsTheEndOfAValueOfItsList) {
+  MutableStyle_addColor(style, (text("z") + aText).c_str());
+  EXPECT_TRUE(MutableStyle_addColor(style, Style_color(style, 0) + 1));
+  EXPECT_EQ(Style_color(style, 0), aText);
+  EXPECT_EQ(Style_color(style, 1), text("z") + aText);
+}
+
+TEST_P(AliasedText, IsTheNameAgain) {
+  ASSERT_TRUE(MutableStyle_setName(style, aText.c_str()));
   EXPECT_TRUE(MutableStyle_setName(style, Style_name(style)));
-  EXPECT_EQ(utf8(Style_name(style)), "a name of more than sixteen units");
-  EXPECT_TRUE(MutableStyle_setName(style, Style_name(style) + 7));
-  EXPECT_EQ(utf8(Style_name(style)), "of more than sixteen units");
+  EXPECT_EQ(Style_name(style), aText);
+  EXPECT_TRUE(MutableStyle_setName(style, Style_name(style) + 2));
+  EXPECT_EQ(Style_name(style), aText.substr(2));
 }
 
-TEST_F(AliasedText, IsTheParametersNameAgain) {
-  ASSERT_TRUE(MutableParameter_setName(parameter, longText.c_str()));
+TEST_P(AliasedText, IsTheParametersNameAgain) {
+  ASSERT_TRUE(MutableParameter_setName(parameter, aText.c_str()));
   EXPECT_TRUE(MutableParameter_setName(parameter, Parameter_name(parameter)));
-  EXPECT_EQ(Parameter_name(parameter), longText);
+  EXPECT_EQ(Parameter_name(parameter), aText);
   EXPECT_TRUE(MutableParameter_setName(parameter, Parameter_name(parameter) + 2));
-  EXPECT_EQ(Parameter_name(parameter), longText.substr(2));
+  EXPECT_EQ(Parameter_name(parameter), aText.substr(2));
   EXPECT_EQ(MutableEffect_addParameter(effect, Parameter_name(parameter)), nullptr);
 }
 
-TEST_F(AliasedText, IsTheParametersValueAgain) {
-  MutableParameter_setValueString(parameter, longText.c_str());
+TEST_P(AliasedText, IsTheParametersValueAgain) {
+  MutableParameter_setValueString(parameter, aText.c_str());
   MutableParameter_setValueString(parameter, Parameter_valueString(parameter));
-  EXPECT_EQ(Parameter_valueString(parameter), longText);
+  EXPECT_EQ(Parameter_valueString(parameter), aText);
   MutableParameter_setValueString(parameter, Parameter_valueString(parameter) + 2);
-  EXPECT_EQ(Parameter_valueString(parameter), longText.substr(2));
+  EXPECT_EQ(Parameter_valueString(parameter), aText.substr(2));
   MutableParameter_setValueString(parameter, Parameter_name(parameter));
   EXPECT_EQ(utf8(Parameter_valueString(parameter)), "p");
+}
+
+TEST_P(AliasedText, IsTheParametersNameAndThenItsValue) {
+  MutableParameter_setValueString(parameter, aText.c_str());
   EXPECT_TRUE(MutableParameter_setName(parameter, Parameter_valueString(parameter)));
+  EXPECT_EQ(Parameter_name(parameter), aText);
+  EXPECT_EQ(MutableEffect_addParameter(effect, aText.c_str()), nullptr);
+  MutableParameter_setValueString(parameter, longText.c_str());
+  MutableParameter_setValueString(parameter, Parameter_name(parameter));
+  EXPECT_EQ(Parameter_valueString(parameter), aText);
 }
 
-TEST_F(AliasedText, NamesAnEffectAfterAnother) {
-  EXPECT_EQ(MutableStyle_insertAudioEffect(style, 0, Effect_id(effect)), nullptr);
-  KoStyleEffect* midi = MutableStyle_insertMidiEffect(style, 0, Effect_id(effect));
+TEST_P(AliasedText, NamesTheParametersSibling) {
+  MutableParameter_setValueString(parameter, aText.c_str());
+  KoStyleParameter* sibling = MutableEffect_addParameter(effect, Parameter_valueString(parameter));
+  ASSERT_NE(sibling, nullptr);
+  EXPECT_EQ(Parameter_name(sibling), aText);
+  EXPECT_EQ(MutableEffect_addParameter(effect, Parameter_name(sibling)), nullptr);
+}
+
+TEST_P(AliasedText, NamesAnEffectAfterAnother) {
+  KoStyleEffect* audio = MutableStyle_insertAudioEffect(style, 0, aText.c_str());
+  EXPECT_EQ(MutableStyle_insertAudioEffect(style, 0, Effect_id(audio)), nullptr);
+  KoStyleEffect* midi = MutableStyle_insertMidiEffect(style, 0, Effect_id(audio));
   ASSERT_NE(midi, nullptr);
-  EXPECT_EQ(utf8(Effect_id(midi)), "E");
+  EXPECT_EQ(Effect_id(midi), aText);
 }
 
-TEST_F(AliasedText, NamesTheStyleToOverwrite) {
+TEST_P(AliasedText, NamesTheStyleToOverwrite) {
   KoStyleStyle* user = host.addUserStyle("an identifier of more than sixteen units");
   int error = -1;
   ASSERT_EQ(MutableStyle_overwrite(style, Style_id(user), true, &error), user);
@@ -87,7 +119,7 @@ TEST_F(AliasedText, NamesTheStyleToOverwrite) {
   EXPECT_NE(host.userStyle("an identifier of more than sixteen units"), nullptr);
 }
 
-TEST_F(AliasedText, KeepsThePropertiesOfTheEditedStyle) {
+TEST_P(AliasedText, KeepsThePropertiesOfTheEditedStyle) {
   const std::string id = "an identifier of more than sixteen units";
   KoStyleStyle* user =
       host.addUserStyle(id, R"({"id":")" + id + R"(","name":"a name of more than sixteen units",
@@ -106,7 +138,7 @@ TEST_F(AliasedText, KeepsThePropertiesOfTheEditedStyle) {
   EXPECT_EQ(utf8(Style_name(user)), "name of more than sixteen units");
 }
 
-TEST_F(AliasedText, NamesAManagerThatExists) {
+TEST_P(AliasedText, NamesAManagerThatExists) {
   int error = -1;
   KoStyleManager* manager = host.manager;
   EXPECT_EQ(CreateStyleManager(StyleManager_appID(manager), StyleManager_systemStyleDirPath(manager),

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/host.h"
@@ -16,6 +17,7 @@ using test::writeFile;
 using test::fs::path;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
 using testing::UnorderedElementsAre;
 
 std::vector<std::string> ids(KoStyleManager* manager,
@@ -27,13 +29,12 @@ std::vector<std::string> ids(KoStyleManager* manager,
 }
 
 /// Identifier and code of each record.
-std::vector<std::string> records(KoStyleManager* manager,
-                                 KoStyleCreationResult* (*at)(KoStyleManager*, std::size_t)) {
-  std::vector<std::string> result;
-  for (std::size_t i = 0; KoStyleCreationResult* record = at(manager, i); ++i) {
-    result.push_back(utf8(StyleCreationResult_id(record)) + ":" +
-                     std::to_string(StyleCreationResult_error(record)));
-  }
+using Records = std::vector<std::pair<std::string, int>>;
+
+Records records(KoStyleManager* manager, KoStyleCreationResult* (*at)(KoStyleManager*, std::size_t)) {
+  Records result;
+  for (std::size_t i = 0; KoStyleCreationResult* record = at(manager, i); ++i)
+    result.emplace_back(utf8(StyleCreationResult_id(record)), StyleCreationResult_error(record));
   return result;
 }
 
@@ -49,12 +50,8 @@ class DirectoryScan : public testing::Test {
   int readUser() { return StyleManager_readUserStyles(*manager); }
   std::vector<std::string> systemIDs() { return ids(*manager, StyleManager_systemStyle); }
   std::vector<std::string> userIDs() { return ids(*manager, StyleManager_userStyle); }
-  std::vector<std::string> systemRecords() {
-    return records(*manager, StyleManager_systemStyleCreationResult);
-  }
-  std::vector<std::string> userRecords() {
-    return records(*manager, StyleManager_userStyleCreationResult);
-  }
+  Records systemRecords() { return records(*manager, StyleManager_systemStyleCreationResult); }
+  Records userRecords() { return records(*manager, StyleManager_userStyleCreationResult); }
 
   test::TemporaryDirectory directory;
   path system = directory.folder("system");
@@ -78,7 +75,7 @@ TEST_F(DirectoryScan, TakesOnlyFilesOfTheExtensionDirectlyInside) {
   put("system/d.kostyle/e.kostyle", "e");
   EXPECT_EQ(readSystem(), KOSTYLE_OK);
   EXPECT_THAT(systemIDs(), ElementsAre("a"));
-  EXPECT_THAT(systemRecords(), ElementsAre("a:0"));
+  EXPECT_THAT(systemRecords(), ElementsAre(Pair("a", KOSTYLE_OK)));
 }
 
 TEST_F(DirectoryScan, TakesTheExtensionExactlyAndFromTheLastDot) {
@@ -104,7 +101,8 @@ TEST_F(DirectoryScan, KeepsTheFirstOfTwoFilesWithOneIdentifier) {
   put("system/one.kostyle", "same");
   put("system/two.kostyle", "same");
   EXPECT_EQ(readSystem(), KOSTYLE_OK);
-  ASSERT_THAT(systemRecords(), ElementsAre("same:0", "same:22"));
+  ASSERT_THAT(systemRecords(),
+              ElementsAre(Pair("same", KOSTYLE_OK), Pair("same", KOSTYLE_ERROR_DUPLICATE_ID)));
   ASSERT_THAT(systemIDs(), ElementsAre("same"));
   EXPECT_EQ(utf8(Style_path(StyleManager_systemStyle(*manager, 0))),
             utf8(StyleCreationResult_filePath(StyleManager_systemStyleCreationResult(*manager, 0))));
@@ -117,7 +115,7 @@ TEST_F(DirectoryScan, RefusesAUserStyleWithASystemStylesIdentifier) {
   ASSERT_EQ(readUser(), KOSTYLE_OK);
   EXPECT_THAT(systemIDs(), ElementsAre("same"));
   EXPECT_THAT(userIDs(), IsEmpty());
-  EXPECT_THAT(userRecords(), ElementsAre("same:22"));
+  EXPECT_THAT(userRecords(), ElementsAre(Pair("same", KOSTYLE_ERROR_DUPLICATE_ID)));
 }
 
 TEST_F(DirectoryScan, RefusesASystemStyleWithTheIdentifierOfAUserStyleReadBefore) {
@@ -127,14 +125,62 @@ TEST_F(DirectoryScan, RefusesASystemStyleWithTheIdentifierOfAUserStyleReadBefore
   ASSERT_EQ(readSystem(), KOSTYLE_OK);
   EXPECT_THAT(userIDs(), ElementsAre("same"));
   EXPECT_THAT(systemIDs(), IsEmpty());
-  EXPECT_THAT(systemRecords(), ElementsAre("same:22"));
+  EXPECT_THAT(systemRecords(), ElementsAre(Pair("same", KOSTYLE_ERROR_DUPLICATE_ID)));
 }
 
 TEST_F(DirectoryScan, DoesNotCountTheStylesOfTheSetThatItReplaces) {
   put("system/s.kostyle", "same");
   ASSERT_EQ(readSystem(), KOSTYLE_OK);
   ASSERT_EQ(readSystem(), KOSTYLE_OK);
-  EXPECT_THAT(systemRecords(), ElementsAre("same:0"));
+  EXPECT_THAT(systemRecords(), ElementsAre(Pair("same", KOSTYLE_OK)));
+}
+
+TEST_F(DirectoryScan, TakesARefusedFileOnceItsIdentifierIsFree) {
+  put("system/s.kostyle", "same");
+  put("user/u.kostyle", "same");
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  ASSERT_EQ(readUser(), KOSTYLE_OK);
+  ASSERT_THAT(userIDs(), IsEmpty());
+  test::fs::remove(system / "s.kostyle");
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  ASSERT_EQ(readUser(), KOSTYLE_OK);
+  EXPECT_THAT(userRecords(), ElementsAre(Pair("same", KOSTYLE_OK)));
+}
+
+TEST_F(DirectoryScan, LeavesTheIdentifierOfARefusedFileFree) {
+  const path more = directory.folder("more");
+  writeFile(system / "a.kostyle", R"({"id":"A","name":"N"})");
+  put("more/b.kostyle", "A");
+  make({more}, {});
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemRecords(), ElementsAre(Pair("", KOSTYLE_ERROR_NO_EFFECT), Pair("A", KOSTYLE_OK)));
+}
+
+TEST_F(DirectoryScan, ComparesIdentifiersExactly) {
+  const std::vector<std::string> similar{"Sys", "sys", "SYS", "Sy", "Sys ", "Sys1"};
+  for (std::size_t i = 0; i < similar.size(); ++i)
+    put(path("system") / (std::to_string(i) + ".kostyle"), similar[i]);
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemIDs(), testing::UnorderedElementsAreArray(similar));
+}
+
+TEST_F(DirectoryScan, TakesIdentifiersThatAHostCannotTellApartForOne) {
+  const path more = directory.folder("more");
+  put("system/a.kostyle", R"(A\u0000b)");
+  put("more/b.kostyle", R"(A\u0000c)");
+  put("more/c.kostyle", "A");
+  make({more}, {});
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemRecords(), ElementsAre(Pair("A", KOSTYLE_OK), Pair("A", KOSTYLE_ERROR_DUPLICATE_ID),
+                                           Pair("A", KOSTYLE_ERROR_DUPLICATE_ID)));
+}
+
+TEST_F(DirectoryScan, NeverTakesAnIdentifierThatAHostSeesAsEmptyForHeld) {
+  put("system/a.kostyle", R"(\u0000)");
+  put("system/b.kostyle", R"(\u0000)");
+  put("system/c.kostyle", R"(\u0000c)");
+  ASSERT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemIDs(), ElementsAre("", "", ""));
 }
 
 TEST_F(DirectoryScan, GoesOnToTheFurtherDirectoriesInTheirOrder) {
@@ -163,7 +209,7 @@ TEST_F(DirectoryScan, PassesOverFurtherDirectoriesThatAreNone) {
         directory / "good"},
        {});
   EXPECT_EQ(readSystem(), KOSTYLE_OK);
-  EXPECT_THAT(systemRecords(), ElementsAre("g:0"));
+  EXPECT_THAT(systemRecords(), ElementsAre(Pair("g", KOSTYLE_OK)));
 }
 
 TEST_F(DirectoryScan, ReadsADirectoryThatIsGivenTwiceTwice) {
@@ -173,7 +219,10 @@ TEST_F(DirectoryScan, ReadsADirectoryThatIsGivenTwiceTwice) {
   make({directory / "more", directory / "more"}, {});
   EXPECT_EQ(readSystem(), KOSTYLE_OK);
   EXPECT_THAT(systemIDs(), ElementsAre("a"));
-  EXPECT_THAT(systemRecords(), UnorderedElementsAre("a:0", ":17", "a:22", ":17"));
+  EXPECT_THAT(
+      systemRecords(),
+      UnorderedElementsAre(Pair("a", KOSTYLE_OK), Pair("", KOSTYLE_ERROR_JSON_SYNTAX),
+                           Pair("a", KOSTYLE_ERROR_DUPLICATE_ID), Pair("", KOSTYLE_ERROR_JSON_SYNTAX)));
 }
 
 TEST_F(DirectoryScan, LooksForFurtherDirectoriesAnewOnEachRead) {
@@ -191,7 +240,7 @@ TEST_F(DirectoryScan, ReadsFurtherDirectoriesOnlyBesideTheMainOne) {
   put("more/a.kostyle", "a");
   make({directory / "more"}, {});
   test::fs::remove_all(system);
-  EXPECT_EQ(readSystem(), 7);
+  EXPECT_EQ(readSystem(), KOSTYLE_ERROR_DIRECTORY_MISSING);
   EXPECT_THAT(systemRecords(), IsEmpty());
 }
 

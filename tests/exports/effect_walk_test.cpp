@@ -17,6 +17,8 @@ using test::text;
 
 class EffectWalk : public testing::TestWithParam<int> {
  protected:
+  void changeParameters(std::size_t length, std::size_t nameCount, int steps);
+
   test::Host host;
   KoStyleStyle* style = StyleManager_createMutableStyle(host.manager);
   const test::Chain& chain = test::chains()[static_cast<std::size_t>(GetParam())];
@@ -55,17 +57,18 @@ TEST_P(EffectWalk, AgreesWithAListOfEffects) {
   }
 }
 
-TEST_P(EffectWalk, AgreesWithAStablySortedListOfParameters) {
+/// Changes the parameters of a new effect, `length` at most, beside a list that is sorted plainly.
+void EffectWalk::changeParameters(std::size_t length, std::size_t nameCount, int steps) {
   struct Expected {
     KoStyleParameter* handle;
     std::string name;
   };
   std::vector<Expected> expected;
   KoStyleEffect* effect = chain.insert(style, 0, KOSTYLE_TEXT("E"));
-  for (int step = 0; step < 1000; ++step) {
-    const std::string name = std::to_string(random.below(200));
+  for (int step = 0; step < steps; ++step) {
+    const std::string name = std::to_string(random.below(nameCount));
     const auto hasName = [&](const Expected& each) { return each.name == name; };
-    if (expected.empty() || random.oneIn(2)) {
+    if (expected.empty() || (expected.size() < length && random.oneIn(2))) {
       KoStyleParameter* added = MutableEffect_addParameter(effect, text(name).c_str());
       ASSERT_EQ(added == nullptr, std::any_of(expected.begin(), expected.end(), hasName)) << name;
       if (added) {
@@ -89,6 +92,18 @@ TEST_P(EffectWalk, AgreesWithAStablySortedListOfParameters) {
     test::expectEffectWalks(style, effect);
     ASSERT_FALSE(HasFailure()) << "step " << step;
   }
+  MutableEffect_destroy(effect);
+}
+
+// Short lists with few names bring about every pattern of equal and displaced names.
+TEST_P(EffectWalk, AgreesWithAStablySortedListOfFewParameters) {
+  for (std::size_t sequence = 0; sequence < 2000; ++sequence)
+    ASSERT_NO_FATAL_FAILURE(changeParameters(2 + sequence % 9, 2 + sequence % 7, 40));
+}
+
+TEST_P(EffectWalk, AgreesWithAStablySortedListOfManyParameters) {
+  for (const std::size_t nameCount : {5u, 60u, 200u, 2000u})
+    ASSERT_NO_FATAL_FAILURE(changeParameters(300, nameCount, 1000));
 }
 
 }  // namespace

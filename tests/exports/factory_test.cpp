@@ -30,15 +30,15 @@ class Factory : public testing::Test {
 
 TEST_F(Factory, RefusesAMissingIdentifierBeforeItLooksAtDirectories) {
   EXPECT_EQ(create(nullptr, missing, missing), nullptr);
-  EXPECT_EQ(error, 14);
+  EXPECT_EQ(error, KOSTYLE_ERROR_APP_ID_MISSING);
   EXPECT_EQ(create(KOSTYLE_TEXT(""), missing, missing), nullptr);
-  EXPECT_EQ(error, 14);
+  EXPECT_EQ(error, KOSTYLE_ERROR_APP_ID_MISSING);
   EXPECT_FALSE(exists(missing));
 }
 
 TEST_F(Factory, RefusesAMissingSystemDirectoryAndMakesNoUserDirectory) {
   EXPECT_EQ(create(appID.c_str(), missing, directory / "made"), nullptr);
-  EXPECT_EQ(error, 15);
+  EXPECT_EQ(error, KOSTYLE_ERROR_SYSTEM_DIRECTORY_MISSING);
   EXPECT_FALSE(exists(directory / "made"));
 }
 
@@ -46,34 +46,34 @@ TEST_F(Factory, RefusesANullSystemDirectory) {
   EXPECT_EQ(CreateStyleManager(appID.c_str(), nullptr, pathText(user).c_str(), nullptr, 0, nullptr, 0,
                                &error),
             nullptr);
-  EXPECT_EQ(error, 15);
+  EXPECT_EQ(error, KOSTYLE_ERROR_SYSTEM_DIRECTORY_MISSING);
 }
 
 TEST_F(Factory, RefusesAFileAsSystemDirectory) {
   test::writeFile(directory / "file", "x");
   EXPECT_EQ(create(appID.c_str(), directory / "file", user), nullptr);
-  EXPECT_EQ(error, 15);
+  EXPECT_EQ(error, KOSTYLE_ERROR_SYSTEM_DIRECTORY_MISSING);
 }
 
 TEST_F(Factory, RefusesANullUserDirectory) {
   EXPECT_EQ(CreateStyleManager(appID.c_str(), pathText(system).c_str(), nullptr, nullptr, 0, nullptr, 0,
                                &error),
             nullptr);
-  EXPECT_EQ(error, 16);
+  EXPECT_EQ(error, KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
 }
 
 TEST_F(Factory, RefusesAUserDirectoryBelowAFile) {
   test::writeFile(directory / "file", "x");
   EXPECT_EQ(create(appID.c_str(), system, directory / "file" / "user"), nullptr);
-  EXPECT_EQ(error, 16);
+  EXPECT_EQ(error, KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
 }
 
 TEST_F(Factory, TakesAFileAtTheUserDirectorysPathForTheDirectory) {
   test::writeFile(directory / "file", "x");
   KoStyleManager* manager = create(appID.c_str(), system, directory / "file");
   ASSERT_NE(manager, nullptr);
-  EXPECT_EQ(error, 0);
-  EXPECT_EQ(StyleManager_readUserStyles(manager), 7);
+  EXPECT_EQ(error, KOSTYLE_OK);
+  EXPECT_EQ(StyleManager_readUserStyles(manager), KOSTYLE_ERROR_DIRECTORY_MISSING);
   EXPECT_TRUE(StyleManager_destroy(manager));
 }
 
@@ -89,7 +89,7 @@ TEST_F(Factory, MakesAMissingUserDirectoryWithItsParents) {
   const path deep = missing / "a" / "b" / "user";
   KoStyleManager* manager = create(appID.c_str(), system, deep);
   EXPECT_NE(manager, nullptr);
-  EXPECT_EQ(error, 0);
+  EXPECT_EQ(error, KOSTYLE_OK);
   EXPECT_TRUE(is_directory(deep));
   StyleManager_destroy(manager);
 }
@@ -99,7 +99,7 @@ TEST_F(Factory, KeepsDirectoriesAsGiven) {
   KoStyleManager* manager = CreateStyleManager(appID.c_str(), pathText(system).c_str(), given.c_str(),
                                                nullptr, 0, nullptr, 0, &error);
   ASSERT_NE(manager, nullptr);
-  EXPECT_EQ(error, 0);
+  EXPECT_EQ(error, KOSTYLE_OK);
   EXPECT_TRUE(is_directory(missing / "user"));
   EXPECT_EQ(StyleManager_userStyleDirPath(manager), given);
   EXPECT_EQ(StyleManager_systemStyleDirPath(manager), pathText(system));
@@ -111,9 +111,9 @@ TEST_F(Factory, AnswersWithTheManagerThatHasTheIdentifier) {
   ASSERT_NE(manager, nullptr);
   const path otherSystem = directory.folder("other");
   EXPECT_EQ(create(appID.c_str(), otherSystem, missing), manager);
-  EXPECT_EQ(error, 0);
+  EXPECT_EQ(error, KOSTYLE_OK);
   EXPECT_EQ(create(appID.c_str(), missing, missing), manager);
-  EXPECT_EQ(error, 0);
+  EXPECT_EQ(error, KOSTYLE_OK);
   EXPECT_EQ(utf8(StyleManager_systemStyleDirPath(manager)), utf8(pathText(system)));
   EXPECT_EQ(utf8(StyleManager_userStyleDirPath(manager)), utf8(pathText(user)));
   EXPECT_FALSE(exists(missing));
@@ -188,7 +188,7 @@ TEST_F(Factory, HasTheSameEffectUnderItsOtherNames) {
   KoStyleManager* manager = Module_createStyleManager(
       appID.c_str(), pathText(system).c_str(), pathText(user).c_str(), nullptr, 0, nullptr, 0, &error);
   ASSERT_NE(manager, nullptr);
-  EXPECT_EQ(error, 0);
+  EXPECT_EQ(error, KOSTYLE_OK);
   EXPECT_EQ(create(appID.c_str(), system, user), manager);
   EXPECT_TRUE(Module_hasStyleManager(manager));
   StyleManager_destroy(manager);

@@ -76,14 +76,14 @@ TEST_F(GoneHandle, OfAnOverwritingMutableStyleIsNoStyle) {
 
 TEST_F(GoneHandle, OfAnotherManagersStyleIsNoStyleWhenThatManagerIsGone) {
   KoStyleStyle* style = nullptr;
-  KoStyleStyle* editable = nullptr;
+  KoStyleStyle* unsaved = nullptr;
   {
     const test::Host other;
     style = other.addUserStyle("u");
-    editable = StyleManager_createMutableStyle(other.manager);
+    unsaved = StyleManager_createMutableStyle(other.manager);
   }
   expectGone(style);
-  expectGone(editable);
+  expectGone(unsaved);
 }
 
 TEST_F(GoneHandle, OfADestroyedEffectIsNoEffect) {

@@ -53,10 +53,10 @@ TEST_F(ManagerExports, GivesNullAtAndPastTheEnd) {
 TEST_F(ManagerExports, KeepsTheSetsApart) {
   KoStyleStyle* system = host.addSystemStyle("s");
   KoStyleStyle* user = host.addUserStyle("u");
-  KoStyleStyle* editable = StyleManager_createMutableStyle(manager);
+  KoStyleStyle* unsaved = StyleManager_createMutableStyle(manager);
   EXPECT_EQ(Style_type(system), KOSTYLE_KIND_SYSTEM);
   EXPECT_EQ(Style_type(user), KOSTYLE_KIND_USER);
-  EXPECT_EQ(Style_type(editable), KOSTYLE_KIND_MUTABLE);
+  EXPECT_EQ(Style_type(unsaved), KOSTYLE_KIND_MUTABLE);
   EXPECT_EQ(StyleManager_numSystemStyle(manager), 1u);
   EXPECT_EQ(StyleManager_numUserStyle(manager), 1u);
   EXPECT_FALSE(StyleManager_hasSystemStyle(manager, user));
@@ -65,13 +65,13 @@ TEST_F(ManagerExports, KeepsTheSetsApart) {
 
 TEST_F(ManagerExports, ReadsOneSetAndLeavesTheOtherAndTheMutableStyles) {
   KoStyleStyle* user = host.addUserStyle("u");
-  KoStyleStyle* editable = StyleManager_createMutableStyle(manager);
+  KoStyleStyle* unsaved = StyleManager_createMutableStyle(manager);
   KoStyleStyle* system = host.addSystemStyle("s");
   EXPECT_TRUE(StyleManager_hasUserStyle(manager, user));
-  EXPECT_TRUE(StyleManager_hasMutableStyle(manager, editable));
+  EXPECT_TRUE(StyleManager_hasMutableStyle(manager, unsaved));
   ASSERT_EQ(StyleManager_readUserStyles(manager), KOSTYLE_OK);
   EXPECT_TRUE(StyleManager_hasSystemStyle(manager, system));
-  EXPECT_TRUE(StyleManager_hasMutableStyle(manager, editable));
+  EXPECT_TRUE(StyleManager_hasMutableStyle(manager, unsaved));
   EXPECT_EQ(StyleManager_numSystemStyleCreationResult(manager), 1u);
 }
 
@@ -90,10 +90,10 @@ TEST_F(ManagerExports, IsEmptyAfterReadingADirectoryThatIsGone) {
   host.addUserStyle("u");
   test::fs::remove_all(host.system);
   test::fs::remove_all(host.user);
-  EXPECT_EQ(StyleManager_readSystemStyles(manager), 7);
+  EXPECT_EQ(StyleManager_readSystemStyles(manager), KOSTYLE_ERROR_DIRECTORY_MISSING);
   EXPECT_EQ(StyleManager_numSystemStyle(manager), 0u);
   EXPECT_EQ(StyleManager_numSystemStyleCreationResult(manager), 0u);
-  EXPECT_EQ(StyleManager_readUserStyles(manager), 7);
+  EXPECT_EQ(StyleManager_readUserStyles(manager), KOSTYLE_ERROR_DIRECTORY_MISSING);
   EXPECT_EQ(StyleManager_numUserStyle(manager), 0u);
   EXPECT_EQ(StyleManager_numUserStyleCreationResult(manager), 0u);
 }
@@ -102,14 +102,14 @@ TEST_F(ManagerExports, IsEmptyAfterReadingAFileInTheDirectorysPlace) {
   host.addUserStyle("u");
   test::fs::remove_all(host.user);
   writeFile(host.user, "x");
-  EXPECT_EQ(StyleManager_readUserStyles(manager), 7);
+  EXPECT_EQ(StyleManager_readUserStyles(manager), KOSTYLE_ERROR_DIRECTORY_MISSING);
   EXPECT_EQ(StyleManager_numUserStyle(manager), 0u);
 }
 
 TEST_F(ManagerExports, ReadsADirectoryThatIsBack) {
   host.addUserStyle("u");
   test::fs::remove_all(host.user);
-  ASSERT_EQ(StyleManager_readUserStyles(manager), 7);
+  ASSERT_EQ(StyleManager_readUserStyles(manager), KOSTYLE_ERROR_DIRECTORY_MISSING);
   test::fs::create_directory(host.user);
   EXPECT_NE(host.addUserStyle("v"), nullptr);
   EXPECT_EQ(StyleManager_numUserStyle(manager), 1u);
@@ -129,11 +129,11 @@ TEST_F(ManagerExports, DoesNotKnowAnotherManagersStyles) {
   const test::Host other;
   KoStyleStyle* system = host.addSystemStyle("same");
   KoStyleStyle* user = host.addUserStyle("u");
-  KoStyleStyle* editable = StyleManager_createMutableStyle(manager);
+  KoStyleStyle* unsaved = StyleManager_createMutableStyle(manager);
   other.addSystemStyle("same");
   EXPECT_FALSE(StyleManager_hasSystemStyle(other.manager, system));
   EXPECT_FALSE(StyleManager_hasUserStyle(other.manager, user));
-  EXPECT_FALSE(StyleManager_hasMutableStyle(other.manager, editable));
+  EXPECT_FALSE(StyleManager_hasMutableStyle(other.manager, unsaved));
   EXPECT_EQ(Style_parent(system), manager);
 }
 

@@ -55,6 +55,7 @@ TEST_P(MutableEffect, IsInsertedBeforeItsIndexOrAppended) {
   insert(1, "b");
   insert(SIZE_MAX, "z");
   EXPECT_THAT(ids(), ElementsAre("a", "b", "x", "y", "z"));
+  EXPECT_EQ(at(SIZE_MAX), nullptr);
   test::expectStyleWalks(style);
 }
 
@@ -90,6 +91,11 @@ TEST_P(MutableEffect, MovesToTheFrontToTheEndAndNowhere) {
   EXPECT_TRUE(MutableEffect_move(at(0), 1));
   EXPECT_THAT(ids(), ElementsAre("b", "a", "c"));
   EXPECT_EQ(at(2), c);
+  EXPECT_TRUE(MutableEffect_move(c, 1));
+  EXPECT_THAT(ids(), ElementsAre("b", "c", "a"));
+  EXPECT_TRUE(MutableEffect_move(at(0), SIZE_MAX));
+  EXPECT_THAT(ids(), ElementsAre("c", "a", "b"));
+  EXPECT_EQ(insert(0, "c"), nullptr) << "a moved effect keeps its identifier";
   test::expectStyleWalks(style);
 }
 
@@ -100,7 +106,7 @@ TEST_P(MutableEffect, MovesAloneWithoutChange) {
   EXPECT_THAT(ids(), ElementsAre("x"));
 }
 
-TEST_P(MutableEffect, MovesWithItsParametersAndLeavesTheOtherChain) {
+TEST_P(MutableEffect, MovesAndGoesWithItsParametersAndLeavesTheOtherChain) {
   for (const char* id : {"a", "b"}) {
     insert(9, id);
     other.insert(style, 9, text(id).c_str());
@@ -111,6 +117,9 @@ TEST_P(MutableEffect, MovesWithItsParametersAndLeavesTheOtherChain) {
   EXPECT_TRUE(Effect_hasParameter(at(0), parameter));
   EXPECT_EQ(MutableParameter_parent(parameter), at(0));
   EXPECT_EQ(other.mutableAt(style, 0), otherFirst);
+  MutableEffect_destroy(at(0));
+  EXPECT_EQ(chain.count(style), 1u);
+  EXPECT_EQ(other.count(style), 2u);
 }
 
 TEST_P(MutableEffect, LeavesItsNeighboursAdjacentWhenDestroyed) {

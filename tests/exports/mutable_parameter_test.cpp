@@ -65,6 +65,7 @@ TEST_F(MutableParameter, StandsInTheOrderOfNames) {
 TEST_F(MutableParameter, IsOrderedByUnitAndNotByCodePoint) {
   for (const char* name : {u8"\uFFFD", u8"\U0001D11E", u8"é"}) add(name);
   EXPECT_THAT(names(), ElementsAre(u8"é", u8"\U0001D11E", u8"\uFFFD"));
+  EXPECT_EQ(MutableEffect_parameter(effect, SIZE_MAX), nullptr);
 }
 
 TEST_F(MutableParameter, HoldsOneValueAtATime) {
@@ -73,6 +74,8 @@ TEST_F(MutableParameter, HoldsOneValueAtATime) {
   EXPECT_EQ(valueOf(parameter), ParameterValue::ofInt(text("p"), INT_MIN));
   MutableParameter_setValueFloat(parameter, 2.5f);
   EXPECT_EQ(valueOf(parameter), ParameterValue::ofFloat(text("p"), 2.5f));
+  MutableParameter_setValueFloat(parameter, -0.0f);
+  EXPECT_EQ(valueOf(parameter), ParameterValue::ofFloat(text("p"), -0.0f));
   MutableParameter_setValueString(parameter, KOSTYLE_TEXT("text"));
   EXPECT_EQ(valueOf(parameter), ParameterValue::ofString(text("p"), text("text")));
   MutableParameter_setValueInt(parameter, INT_MAX);
@@ -136,6 +139,37 @@ TEST_F(MutableParameter, KeepsItsPlaceWhenRenamedUntilTheNextIsAdded) {
   test::expectEffectWalks(style, effect);
 }
 
+TEST_F(MutableParameter, StaysWhenRenamedAndAnotherIsDestroyed) {
+  for (const char* name : {"a", "b", "c"}) add(name);
+  MutableParameter_setName(MutableEffect_parameter(effect, 0), KOSTYLE_TEXT("z"));
+  MutableParameter_destroy(MutableEffect_parameter(effect, 1));
+  EXPECT_THAT(names(), ElementsAre("z", "c"));
+}
+
+TEST_F(MutableParameter, KeepsItsPlaceAmongThoseOfItsName) {
+  for (const char* name : {"a", "b", "c", "d"}) add(name);
+  KoStyleParameter* first = MutableEffect_parameter(effect, 0);
+  KoStyleParameter* second = MutableEffect_parameter(effect, 1);
+  KoStyleParameter* last = MutableEffect_parameter(effect, 3);
+  MutableParameter_setName(last, KOSTYLE_TEXT("b"));
+  MutableParameter_setName(first, KOSTYLE_TEXT("b"));
+  add("e");
+  EXPECT_THAT(names(), ElementsAre("b", "b", "b", "c", "e"));
+  EXPECT_EQ(MutableEffect_parameter(effect, 0), first);
+  EXPECT_EQ(MutableEffect_parameter(effect, 1), second);
+  EXPECT_EQ(MutableEffect_parameter(effect, 2), last);
+}
+
+TEST_F(MutableParameter, IsForgottenWhenItIsRenamedAndDestroyed) {
+  KoStyleParameter* a = add("a");
+  add("b");
+  MutableParameter_setName(a, KOSTYLE_TEXT("z"));
+  MutableParameter_destroy(a);
+  EXPECT_NE(add("a"), nullptr);
+  EXPECT_NE(add("z"), nullptr);
+  EXPECT_THAT(names(), ElementsAre("a", "b", "z"));
+}
+
 TEST_F(MutableParameter, LeavesItsNeighboursAdjacentWhenDestroyed) {
   KoStyleParameter* a = add("a");
   KoStyleParameter* b = add("b");
@@ -164,6 +198,8 @@ TEST_F(MutableParameter, KeepsLoneSurrogates) {
   KoStyleParameter* parameter = MutableEffect_addParameter(effect, lone);
   MutableParameter_setValueString(parameter, lone);
   EXPECT_EQ(Parameter_name(parameter), Text(lone));
+  EXPECT_TRUE(MutableParameter_setName(parameter, lone + 2));
+  EXPECT_EQ(Parameter_name(parameter), Text(lone + 2));
   EXPECT_EQ(Parameter_valueString(parameter), Text(lone));
 }
 

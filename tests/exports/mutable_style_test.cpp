@@ -73,7 +73,8 @@ TEST_F(MutableStyle, TakesLanguagesFrom0To4Once) {
 
 TEST_F(MutableStyle, DeletesLanguagesThatItHas) {
   MutableStyle_addLanguage(style, 1);
-  for (const int missing : {2, -1, 5}) EXPECT_FALSE(MutableStyle_deleteLanguage(style, missing));
+  for (const int missing : {2, -1, 5, INT_MAX, INT_MIN})
+    EXPECT_FALSE(MutableStyle_deleteLanguage(style, missing));
   EXPECT_TRUE(MutableStyle_deleteLanguage(style, 1));
   EXPECT_FALSE(MutableStyle_deleteLanguage(style, 1));
   EXPECT_EQ(Style_numLanguage(style), 0u);
@@ -121,9 +122,21 @@ TEST_P(MutableTextList, DeletesATextOnce) {
   for (const char letter : {'a', 'b', 'c'}) add(word(letter));
   EXPECT_FALSE(remove(word('B')));
   EXPECT_FALSE(remove(word('b').substr(1)));
+  EXPECT_FALSE(remove(word('b') + text("b")));
   EXPECT_TRUE(remove(word('b')));
   EXPECT_FALSE(remove(word('b')));
   EXPECT_THAT(values(), ElementsAre(word('a'), word('c')));
+  EXPECT_TRUE(add(word('b')));
+  EXPECT_THAT(values(), ElementsAre(word('a'), word('b'), word('c')));
+}
+
+TEST_P(MutableTextList, TakesBlanksAndLoneSurrogates) {
+  const Text blanks(16, KoStyleChar(' '));
+  const Text surrogates(16, KoStyleChar(0xD83D));
+  EXPECT_TRUE(add(surrogates));
+  EXPECT_TRUE(add(blanks));
+  EXPECT_THAT(values(), ElementsAre(blanks, surrogates));
+  EXPECT_TRUE(remove(surrogates));
 }
 
 TEST_P(MutableTextList, LeavesTheOtherListsAlone) {

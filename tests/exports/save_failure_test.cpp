@@ -80,98 +80,98 @@ class SaveFailure : public testing::Test {
   KoStyleStyle* target = nullptr;
 };
 
-TEST_F(SaveFailure, OfSavingIs1WithoutAName) {
-  expectSave(1);
+TEST_F(SaveFailure, OfSavingIsArgumentMissingWithoutAName) {
+  expectSave(KOSTYLE_ERROR_ARGUMENT_MISSING);
   makeUserDirectoryNotCreatable();
-  expectSave(1);
+  expectSave(KOSTYLE_ERROR_ARGUMENT_MISSING);
 }
 
-TEST_F(SaveFailure, OfSavingIs16WhenTheUserDirectoryCannotBeMade) {
+TEST_F(SaveFailure, OfSavingIsDirectoryNotCreatableWhenTheUserDirectoryCannotBeMade) {
   giveName();
   makeUserDirectoryNotCreatable();
-  expectSave(16);
+  expectSave(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
 }
 
-TEST_F(SaveFailure, OfSavingIs8WhenTheFileCannotBeOpened) {
+TEST_F(SaveFailure, OfSavingIsOpenFailedWhenTheFileCannotBeOpened) {
   giveName();
   putFileInUserDirectorysPlace();
-  expectSave(8);
+  expectSave(KOSTYLE_ERROR_OPEN_FAILED);
 }
 
-TEST_F(SaveFailure, OfSavingIs23WithoutAnEffect) {
+TEST_F(SaveFailure, OfSavingIsNoEffectWithoutAnEffect) {
   giveName();
-  expectSave(23);
+  expectSave(KOSTYLE_ERROR_NO_EFFECT);
 }
 
 TEST_F(SaveFailure, OfSavingDoesNotKeepTheStyleFromBeingSavedLater) {
   giveName();
-  expectSave(23);
+  expectSave(KOSTYLE_ERROR_NO_EFFECT);
   giveEffect();
   test::Host::save(style);
   EXPECT_EQ(StyleManager_numUserStyle(manager), 2u);
   EXPECT_EQ(userEntries().size(), 2u);
 }
 
-TEST_F(SaveFailure, OfOverwritingIs1WithoutAnIdentifier) {
+TEST_F(SaveFailure, OfOverwritingIsArgumentMissingWithoutAnIdentifier) {
   makeUserDirectoryNotCreatable();
-  expectOverwrite(nullptr, 1);
+  expectOverwrite(nullptr, KOSTYLE_ERROR_ARGUMENT_MISSING);
 }
 
-TEST_F(SaveFailure, OfOverwritingIs5WhenNoUserStyleHasTheIdentifier) {
+TEST_F(SaveFailure, OfOverwritingIsNotFoundWhenNoUserStyleHasTheIdentifier) {
   giveName();
   giveEffect();
   for (const KoStyleChar* id : {KOSTYLE_TEXT("x"), KOSTYLE_TEXT(""), KOSTYLE_TEXT("U"),
                                 KOSTYLE_TEXT("u "), KOSTYLE_TEXT("s")}) {
-    expectOverwrite(id, 5);
+    expectOverwrite(id, KOSTYLE_ERROR_USER_STYLE_NOT_FOUND);
   }
   makeUserDirectoryNotCreatable();
-  expectOverwrite(KOSTYLE_TEXT("x"), 5);
+  expectOverwrite(KOSTYLE_TEXT("x"), KOSTYLE_ERROR_USER_STYLE_NOT_FOUND);
 }
 
-TEST_F(SaveFailure, OfOverwritingIs16WhenTheUserDirectoryCannotBeMade) {
+TEST_F(SaveFailure, OfOverwritingIsDirectoryNotCreatableWhenTheUserDirectoryCannotBeMade) {
   makeUserDirectoryNotCreatable();
-  expectOverwrite(KOSTYLE_TEXT("u"), 16);
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
 }
 
-TEST_F(SaveFailure, OfOverwritingIs8WhenTheTemporaryFileCannotBeOpened) {
+TEST_F(SaveFailure, OfOverwritingIsOpenFailedWhenTheTemporaryFileCannotBeOpened) {
   putFileInUserDirectorysPlace();
-  expectOverwrite(KOSTYLE_TEXT("u"), 8);
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_OPEN_FAILED);
 }
 
-TEST_F(SaveFailure, OfOverwritingIs25WithoutAName) {
+TEST_F(SaveFailure, OfOverwritingIsEmptyNameWithoutAName) {
   test::fs::remove(user / "u.kostyle");
-  expectOverwrite(KOSTYLE_TEXT("u"), 25);
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_WRITE_EMPTY_NAME);
 }
 
-TEST_F(SaveFailure, OfOverwritingIs23WithoutAnEffect) {
+TEST_F(SaveFailure, OfOverwritingIsNoEffectWithoutAnEffect) {
   giveName();
   test::fs::remove(user / "u.kostyle");
-  expectOverwrite(KOSTYLE_TEXT("u"), 23);
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_NO_EFFECT);
 }
 
-TEST_F(SaveFailure, OfOverwritingIs10WhenTheTargetIsGone) {
+TEST_F(SaveFailure, OfOverwritingIsTargetNotReplaceableWhenTheTargetIsGone) {
   giveName();
   giveEffect();
   test::fs::remove(user / "u.kostyle");
-  expectOverwrite(KOSTYLE_TEXT("u"), 10);
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE);
   EXPECT_TRUE(userEntries().empty());
 }
 
-TEST_F(SaveFailure, OfOverwritingIs10WhenTheTargetIsADirectoryThatIsNotEmpty) {
+TEST_F(SaveFailure, OfOverwritingIsTargetNotReplaceableWhenTheTargetIsADirectoryThatIsNotEmpty) {
   giveName();
   giveEffect();
   test::fs::remove(user / "u.kostyle");
   test::fs::create_directories(user / "u.kostyle" / "inside");
-  expectOverwrite(KOSTYLE_TEXT("u"), 10);
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE);
 }
 
-TEST_F(SaveFailure, OfOverwritingIs10WhenTheUserDirectoryHadToBeMade) {
+TEST_F(SaveFailure, OfOverwritingIsTargetNotReplaceableWhenTheUserDirectoryHadToBeMade) {
   giveName();
   giveEffect();
   test::fs::remove_all(parent);
   int error = -1;
   EXPECT_EQ(MutableStyle_overwrite(style, KOSTYLE_TEXT("u"), true, &error), nullptr);
-  EXPECT_EQ(error, 10);
+  EXPECT_EQ(error, KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE);
   EXPECT_TRUE(userEntries().empty());
 }
 
@@ -190,18 +190,18 @@ TEST_F(SaveFailure, OfOverwritingAndRemovingShowsWhenTheFileIsHeldOpen) {
   giveName();
   giveEffect();
   const std::ifstream held(user / "u.kostyle");
-  expectOverwrite(KOSTYLE_TEXT("u"), 10);
-  EXPECT_EQ(UserStyle_remove(target), 9);
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE);
+  EXPECT_EQ(UserStyle_remove(target), KOSTYLE_ERROR_DELETE_FAILED);
 }
 
 TEST_F(SaveFailure, OfOverwritingAndRemovingShowsWhenTheFileIsReadOnly) {
   giveName();
   giveEffect();
   permissions(user / "u.kostyle", test::fs::perms::owner_read);
-  expectOverwrite(KOSTYLE_TEXT("u"), 10);
-  EXPECT_EQ(UserStyle_remove(target), 9);
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE);
+  EXPECT_EQ(UserStyle_remove(target), KOSTYLE_ERROR_DELETE_FAILED);
   permissions(user / "u.kostyle", test::fs::perms::owner_all);
-  EXPECT_EQ(UserStyle_remove(target), 0);
+  EXPECT_EQ(UserStyle_remove(target), KOSTYLE_OK);
 }
 
 #endif

@@ -126,7 +126,8 @@ TEST_F(Save, WritesAStyleThatCannotBeReadBack) {
   KoStyleStyle* saved = test::Host::save(style);
   EXPECT_EQ(Style_numAudioEffect(saved), 1u);
   EXPECT_EQ(reread(saved), nullptr);
-  EXPECT_EQ(StyleCreationResult_error(StyleManager_userStyleCreationResult(manager, 0)), 23);
+  EXPECT_EQ(StyleCreationResult_error(StyleManager_userStyleCreationResult(manager, 0)),
+            KOSTYLE_ERROR_NO_EFFECT);
 }
 
 TEST_F(Save, KeepsTheFirstOfParametersOfOneNameAndSortsThem) {

@@ -84,17 +84,20 @@ TEST_F(StoredStyle, LeavesItsNeighboursAdjacentWhenRemoved) {
   KoStyleStyle* first = user(0);
   KoStyleStyle* third = user(2);
   const test::fs::path file = test::Host::fileOf(user(1));
-  EXPECT_EQ(UserStyle_remove(user(1)), 0);
+  writeFile(host.user / "other", "");
+  EXPECT_EQ(UserStyle_remove(user(1)), KOSTYLE_OK);
   EXPECT_EQ(UserStyle_next(first), third);
   EXPECT_EQ(UserStyle_prev(third), first);
   EXPECT_FALSE(exists(file));
-  EXPECT_EQ(test::entryNames(host.user).size(), 2u);
+  EXPECT_THAT(test::entryNames(host.user),
+              testing::UnorderedElementsAre(test::Host::fileOf(first).filename().u8string(),
+                                            test::Host::fileOf(third).filename().u8string(), "other"));
 }
 
 TEST_F(StoredStyle, TakesItsEditorWithItWhenRemoved) {
   KoStyleStyle* style = host.addUserStyle("u");
   ASSERT_NE(UserStyle_createPropertyEditor(style), nullptr);
-  EXPECT_EQ(UserStyle_remove(style), 0);
+  EXPECT_EQ(UserStyle_remove(style), KOSTYLE_OK);
   EXPECT_EQ(StyleManager_numUserStyle(manager), 0u);
 }
 
@@ -103,7 +106,7 @@ TEST_F(StoredStyle, StaysWhenItsFileIsGone) {
   KoStyleStyle* style = user(0);
   const test::StyleValue before = test::valueOf(style);
   test::fs::remove(test::Host::fileOf(style));
-  EXPECT_EQ(UserStyle_remove(style), 9);
+  EXPECT_EQ(UserStyle_remove(style), KOSTYLE_ERROR_DELETE_FAILED);
   EXPECT_EQ(StyleManager_numUserStyle(manager), 2u);
   EXPECT_TRUE(StyleManager_hasUserStyle(manager, style));
   EXPECT_EQ(test::valueOf(style), before);
@@ -115,24 +118,69 @@ TEST_F(StoredStyle, TakesAnEmptyDirectoryInItsFilesPlaceWithIt) {
   test::fs::remove(file);
   test::fs::create_directory(file);
   writeFile(file / "inside", "x");
-  EXPECT_EQ(UserStyle_remove(style), 9);
+  EXPECT_EQ(UserStyle_remove(style), KOSTYLE_ERROR_DELETE_FAILED);
   EXPECT_TRUE(exists(file / "inside"));
   test::fs::remove(file / "inside");
-  EXPECT_EQ(UserStyle_remove(style), 0);
+  EXPECT_EQ(UserStyle_remove(style), KOSTYLE_OK);
   EXPECT_FALSE(exists(file));
   EXPECT_EQ(StyleManager_numUserStyle(manager), 0u);
 }
 
+TEST_F(StoredStyle, IsRemovedOnceItsFileIsBack) {
+  KoStyleStyle* style = host.addUserStyle("u");
+  test::fs::remove(test::Host::fileOf(style));
+  ASSERT_EQ(UserStyle_remove(style), KOSTYLE_ERROR_DELETE_FAILED);
+  writeFile(test::Host::fileOf(style), "");
+  EXPECT_EQ(UserStyle_remove(style), KOSTYLE_OK);
+  EXPECT_FALSE(exists(host.user / "u.kostyle"));
+}
+
+TEST_F(StoredStyle, GivesNothingPastTheEndOfItsLists) {
+  KoStyleStyle* style =
+      host.addUserStyle("u", R"({"id":"u","name":"n","filter":{"languages":[4],"singerGroups":["x"],
+        "singerIDs":["0123456789abcdef"],"genres":["x"],"subGenres":["x"],"colors":["x"]},
+        "audioEffect":{"E":{"parameter":{"p":1}}},"midiEffect":{"E":{"parameter":{"p":1}}}})");
+  for (const std::size_t index : {std::size_t{1}, std::size_t{2}, SIZE_MAX}) {
+    EXPECT_EQ(Style_language(style, index), -1);
+    for (const test::TextList& list : test::textLists())
+      EXPECT_EQ(list.at(style, index), nullptr) << list.name;
+    for (const test::Chain& chain : test::chains()) {
+      EXPECT_EQ(chain.at(style, index), nullptr);
+      EXPECT_EQ(Effect_parameter(chain.at(style, 0), index), nullptr);
+    }
+  }
+}
+
+TEST_F(StoredStyle, HasItsOwnEffectsAndParametersOnly) {
+  const std::string rest = R"(","name":"n","audioEffect":{"E":{"parameter":{"p":1}}},
+        "midiEffect":{"E":{"parameter":{"p":1}}}})";
+  writeFile(host.user / "a.kostyle", R"({"id":"a)" + rest);
+  KoStyleStyle* style = host.addUserStyle("b", R"({"id":"b)" + rest);
+  KoStyleStyle* other = host.userStyle("a");
+  for (const test::Chain& chain : test::chains()) {
+    const test::Chain& otherChain = test::chains()[chain.type == KOSTYLE_EFFECT_AUDIO ? 1 : 0];
+    KoStyleEffect* effect = chain.at(style, 0);
+    KoStyleEffect* foreign = chain.at(other, 0);
+    EXPECT_TRUE(chain.has(style, effect));
+    EXPECT_FALSE(otherChain.has(style, effect));
+    EXPECT_FALSE(chain.has(style, foreign));
+    EXPECT_FALSE(chain.has(style, nullptr));
+    EXPECT_TRUE(Effect_hasParameter(effect, Effect_parameter(effect, 0)));
+    EXPECT_FALSE(Effect_hasParameter(effect, Effect_parameter(foreign, 0)));
+    EXPECT_FALSE(Effect_hasParameter(effect, nullptr));
+  }
+}
+
 TEST_F(StoredStyle, IsNotRemovedAsASystemStyle) {
   KoStyleStyle* style = host.addSystemStyle("s");
-  EXPECT_EQ(UserStyle_remove(style), 2);
+  EXPECT_EQ(UserStyle_remove(style), KOSTYLE_ERROR_INVALID_HANDLE);
   EXPECT_TRUE(exists(host.system / "s.kostyle"));
   EXPECT_TRUE(StyleManager_hasSystemStyle(manager, style));
 }
 
 TEST_F(StoredStyle, FreesItsIdentifierWhenRemoved) {
   KoStyleStyle* style = host.addUserStyle("same");
-  ASSERT_EQ(UserStyle_remove(style), 0);
+  ASSERT_EQ(UserStyle_remove(style), KOSTYLE_OK);
   EXPECT_NE(host.addSystemStyle("same"), nullptr);
 }
 
@@ -140,7 +188,7 @@ TEST_F(StoredStyle, WalksRightAfterAnyRemoval) {
   putUserStyles(60);
   test::Random random(1);
   for (std::size_t left = 60; left > 0; --left) {
-    ASSERT_EQ(UserStyle_remove(user(random.below(left))), 0);
+    ASSERT_EQ(UserStyle_remove(user(random.below(left))), KOSTYLE_OK);
     ASSERT_EQ(StyleManager_numUserStyle(manager), left - 1);
     test::expectManagerWalks(manager);
     if (HasFailure()) return;

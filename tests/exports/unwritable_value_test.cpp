@@ -108,7 +108,7 @@ TEST_F(UnwritableValue, DestroysTheFileThatItOverwrites) {
   MutableStyle_setName(style, loneHigh);
   int error = -1;
   EXPECT_EQ(MutableStyle_overwrite(style, KOSTYLE_TEXT("u"), true, &error), user);
-  EXPECT_EQ(error, 0);
+  EXPECT_EQ(error, KOSTYLE_OK);
   EXPECT_EQ(test::readFile(host.user / "u.kostyle"), "");
   EXPECT_EQ(Style_name(user), Text(loneHigh));
 }

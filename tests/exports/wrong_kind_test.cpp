@@ -42,7 +42,7 @@ struct Row {
 const std::vector<Row<KoStyleStyle>>& styleRows() {
   using S = KoStyleStyle;
   const std::vector<std::string> system{"system"}, user{"user"}, stored{"system", "user"},
-      editable{"mutable"};
+      unsaved{"mutable"};
   static const std::vector<Row<S>> rows{
       {"Style_vendor", stored, null<S>(Style_vendor)},
       {"Style_audioEffect", stored, null<S>(Style_audioEffect, 0u)},
@@ -51,40 +51,39 @@ const std::vector<Row<KoStyleStyle>>& styleRows() {
       {"SystemStyle_prev", system, null<S>(SystemStyle_prev)},
       {"UserStyle_next", user, null<S>(UserStyle_next)},
       {"UserStyle_prev", user, null<S>(UserStyle_prev)},
-      {"UserStyle_remove", user, [](S* style) { EXPECT_EQ(UserStyle_remove(style), 2); }},
+      {"UserStyle_remove", user,
+       [](S* style) { EXPECT_EQ(UserStyle_remove(style), KOSTYLE_ERROR_INVALID_HANDLE); }},
       {"UserStyle_createPropertyEditor", user, null<S>(UserStyle_createPropertyEditor)},
       {"UserStyle_destroyPropertyEditor", user, nothing<S>(UserStyle_destroyPropertyEditor)},
-      {"MutableStyle_destroy", editable, nothing<S>(MutableStyle_destroy)},
-      {"MutableStyle_audioEffect", editable, null<S>(MutableStyle_audioEffect, 0u)},
-      {"MutableStyle_midiEffect", editable, null<S>(MutableStyle_midiEffect, 0u)},
-      {"MutableStyle_setName", editable, isFalse<S>(MutableStyle_setName, word)},
-      {"MutableStyle_addLanguage", editable, isFalse<S>(MutableStyle_addLanguage, 4)},
-      {"MutableStyle_deleteLanguage", editable, isFalse<S>(MutableStyle_deleteLanguage, 1)},
-      {"MutableStyle_addSingerGroup", editable, isFalse<S>(MutableStyle_addSingerGroup, word)},
-      {"MutableStyle_deleteSingerGroup", editable,
+      {"MutableStyle_destroy", unsaved, nothing<S>(MutableStyle_destroy)},
+      {"MutableStyle_audioEffect", unsaved, null<S>(MutableStyle_audioEffect, 0u)},
+      {"MutableStyle_midiEffect", unsaved, null<S>(MutableStyle_midiEffect, 0u)},
+      {"MutableStyle_setName", unsaved, isFalse<S>(MutableStyle_setName, word)},
+      {"MutableStyle_addLanguage", unsaved, isFalse<S>(MutableStyle_addLanguage, 4)},
+      {"MutableStyle_deleteLanguage", unsaved, isFalse<S>(MutableStyle_deleteLanguage, 1)},
+      {"MutableStyle_addSingerGroup", unsaved, isFalse<S>(MutableStyle_addSingerGroup, word)},
+      {"MutableStyle_deleteSingerGroup", unsaved,
        isFalse<S>(MutableStyle_deleteSingerGroup, KOSTYLE_TEXT("held"))},
-      {"MutableStyle_addSingerID", editable,
+      {"MutableStyle_addSingerID", unsaved,
        isFalse<S>(MutableStyle_addSingerID, KOSTYLE_TEXT("0123456789abcdef"))},
-      {"MutableStyle_deleteSingerID", editable,
+      {"MutableStyle_deleteSingerID", unsaved,
        isFalse<S>(MutableStyle_deleteSingerID, KOSTYLE_TEXT("fedcba9876543210"))},
-      {"MutableStyle_addGenre", editable, isFalse<S>(MutableStyle_addGenre, word)},
-      {"MutableStyle_deleteGenre", editable,
-       isFalse<S>(MutableStyle_deleteGenre, KOSTYLE_TEXT("held"))},
-      {"MutableStyle_addSubGenre", editable, isFalse<S>(MutableStyle_addSubGenre, word)},
-      {"MutableStyle_deleteSubGenre", editable,
+      {"MutableStyle_addGenre", unsaved, isFalse<S>(MutableStyle_addGenre, word)},
+      {"MutableStyle_deleteGenre", unsaved, isFalse<S>(MutableStyle_deleteGenre, KOSTYLE_TEXT("held"))},
+      {"MutableStyle_addSubGenre", unsaved, isFalse<S>(MutableStyle_addSubGenre, word)},
+      {"MutableStyle_deleteSubGenre", unsaved,
        isFalse<S>(MutableStyle_deleteSubGenre, KOSTYLE_TEXT("held"))},
-      {"MutableStyle_addColor", editable, isFalse<S>(MutableStyle_addColor, word)},
-      {"MutableStyle_deleteColor", editable,
-       isFalse<S>(MutableStyle_deleteColor, KOSTYLE_TEXT("held"))},
-      {"MutableStyle_insertAudioEffect", editable, null<S>(MutableStyle_insertAudioEffect, 0u, word)},
-      {"MutableStyle_insertMidiEffect", editable, null<S>(MutableStyle_insertMidiEffect, 0u, word)},
-      {"MutableStyle_save", editable,
+      {"MutableStyle_addColor", unsaved, isFalse<S>(MutableStyle_addColor, word)},
+      {"MutableStyle_deleteColor", unsaved, isFalse<S>(MutableStyle_deleteColor, KOSTYLE_TEXT("held"))},
+      {"MutableStyle_insertAudioEffect", unsaved, null<S>(MutableStyle_insertAudioEffect, 0u, word)},
+      {"MutableStyle_insertMidiEffect", unsaved, null<S>(MutableStyle_insertMidiEffect, 0u, word)},
+      {"MutableStyle_save", unsaved,
        [](S* style) {
          int error = 77;
          EXPECT_EQ(MutableStyle_save(style, true, &error), nullptr);
          EXPECT_EQ(error, 77);
        }},
-      {"MutableStyle_overwrite", editable,
+      {"MutableStyle_overwrite", unsaved,
        [](S* style) {
          int error = 77;
          EXPECT_EQ(MutableStyle_overwrite(style, KOSTYLE_TEXT("user"), true, &error), nullptr);
@@ -96,7 +95,7 @@ const std::vector<Row<KoStyleStyle>>& styleRows() {
 
 const std::vector<Row<KoStyleEffect>>& effectRows() {
   using E = KoStyleEffect;
-  const std::vector<std::string> stored{"audio", "midi"}, editable{"mutable audio", "mutable midi"};
+  const std::vector<std::string> stored{"audio", "midi"}, unsaved{"mutable audio", "mutable midi"};
   static const std::vector<Row<E>> rows{
       {"Effect_parent", stored, null<E>(Effect_parent)},
       {"Effect_parameter", stored, null<E>(Effect_parameter, 0u)},
@@ -104,11 +103,11 @@ const std::vector<Row<KoStyleEffect>>& effectRows() {
       {"AudioEffect_prev", {"audio"}, null<E>(AudioEffect_prev)},
       {"MidiEffect_next", {"midi"}, null<E>(MidiEffect_next)},
       {"MidiEffect_prev", {"midi"}, null<E>(MidiEffect_prev)},
-      {"MutableEffect_destroy", editable, nothing<E>(MutableEffect_destroy)},
-      {"MutableEffect_parent", editable, null<E>(MutableEffect_parent)},
-      {"MutableEffect_parameter", editable, null<E>(MutableEffect_parameter, 0u)},
-      {"MutableEffect_move", editable, isFalse<E>(MutableEffect_move, 0u)},
-      {"MutableEffect_addParameter", editable, null<E>(MutableEffect_addParameter, word)},
+      {"MutableEffect_destroy", unsaved, nothing<E>(MutableEffect_destroy)},
+      {"MutableEffect_parent", unsaved, null<E>(MutableEffect_parent)},
+      {"MutableEffect_parameter", unsaved, null<E>(MutableEffect_parameter, 0u)},
+      {"MutableEffect_move", unsaved, isFalse<E>(MutableEffect_move, 0u)},
+      {"MutableEffect_addParameter", unsaved, null<E>(MutableEffect_addParameter, word)},
       {"MutableAudioEffect_next", {"mutable audio"}, null<E>(MutableAudioEffect_next)},
       {"MutableAudioEffect_prev", {"mutable audio"}, null<E>(MutableAudioEffect_prev)},
       {"MutableMidiEffect_next", {"mutable midi"}, null<E>(MutableMidiEffect_next)},
@@ -119,19 +118,19 @@ const std::vector<Row<KoStyleEffect>>& effectRows() {
 
 const std::vector<Row<KoStyleParameter>>& parameterRows() {
   using P = KoStyleParameter;
-  const std::vector<std::string> stored{"stored"}, editable{"mutable"};
+  const std::vector<std::string> stored{"stored"}, unsaved{"mutable"};
   static const std::vector<Row<P>> rows{
       {"Parameter_parent", stored, null<P>(Parameter_parent)},
       {"Parameter_next", stored, null<P>(Parameter_next)},
       {"Parameter_prev", stored, null<P>(Parameter_prev)},
-      {"MutableParameter_destroy", editable, nothing<P>(MutableParameter_destroy)},
-      {"MutableParameter_parent", editable, null<P>(MutableParameter_parent)},
-      {"MutableParameter_next", editable, null<P>(MutableParameter_next)},
-      {"MutableParameter_prev", editable, null<P>(MutableParameter_prev)},
-      {"MutableParameter_setName", editable, isFalse<P>(MutableParameter_setName, word)},
-      {"MutableParameter_setValueInt", editable, nothing<P>(MutableParameter_setValueInt, 9)},
-      {"MutableParameter_setValueFloat", editable, nothing<P>(MutableParameter_setValueFloat, 9.f)},
-      {"MutableParameter_setValueString", editable, nothing<P>(MutableParameter_setValueString, word)},
+      {"MutableParameter_destroy", unsaved, nothing<P>(MutableParameter_destroy)},
+      {"MutableParameter_parent", unsaved, null<P>(MutableParameter_parent)},
+      {"MutableParameter_next", unsaved, null<P>(MutableParameter_next)},
+      {"MutableParameter_prev", unsaved, null<P>(MutableParameter_prev)},
+      {"MutableParameter_setName", unsaved, isFalse<P>(MutableParameter_setName, word)},
+      {"MutableParameter_setValueInt", unsaved, nothing<P>(MutableParameter_setValueInt, 9)},
+      {"MutableParameter_setValueFloat", unsaved, nothing<P>(MutableParameter_setValueFloat, 9.f)},
+      {"MutableParameter_setValueString", unsaved, nothing<P>(MutableParameter_setValueString, word)},
   };
   return rows;
 }

@@ -1,30 +1,32 @@
 // The effect chains of a document.
 #include <gmock/gmock.h>
 
-#include "format/sample_documents.h"
+#include "support/file_reader.h"
 
 namespace {
 
-using test::EffectSnapshot;
-using test::ParameterSnapshot;
+using test::EffectValue;
+using test::ParameterValue;
 using test::styleOf;
 using test::text;
 
 // The chain in both places, where it must come out the same.
-class EffectChains : public testing::TestWithParam<const char*> {
+class EffectChains : public testing::TestWithParam<std::size_t> {
  protected:
-  static std::vector<EffectSnapshot> chainOf(const std::string& members) {
-    const bool audio = std::string(GetParam()) == "audioEffect";
-    const std::string other = audio ? "midiEffect" : "audioEffect";
+  static constexpr const char* keys[] = {"audioEffect", "midiEffect"};
+
+  static std::vector<EffectValue> chainOf(const std::string& members) {
+    const std::size_t kind = GetParam();
+    const std::size_t other = 1 - kind;
     const auto style =
-        styleOf(R"({"id":"I","name":"N",")" + other + R"(":{"Other":{"parameter":{}}},")" + GetParam() +
-                R"(":{)" + members + "}}");
-    EXPECT_EQ((audio ? style.midi : style.audio).size(), 1u);
-    return audio ? style.audio : style.midi;
+        styleOf(R"({"id":"I","name":"N",")" + std::string(keys[other]) +
+                R"(":{"Other":{"parameter":{}}},")" + keys[kind] + R"(":{)" + members + "}}");
+    EXPECT_EQ(style.chains[other].size(), 1u);
+    return style.chains[kind];
   }
   static std::vector<std::string> idsOf(const std::string& members) {
     std::vector<std::string> ids;
-    for (const EffectSnapshot& effect : chainOf(members)) ids.push_back(test::utf8(effect.id));
+    for (const EffectValue& effect : chainOf(members)) ids.push_back(test::utf8(effect.id));
     return ids;
   }
 };
@@ -55,18 +57,18 @@ TEST_P(EffectChains, LeaveOutEffectsWithoutAParameterMember) {
 TEST_P(EffectChains, TakeEffectsWhoseParameterMemberIsNoObject) {
   for (const std::string value : {"[]", "[{\"p\":1}]", "1", "1.5", "null", "false", "\"p\""}) {
     const auto chain = chainOf(R"("a":{"parameter":)" + value + "}");
-    EXPECT_EQ(chain, (std::vector<EffectSnapshot>{{text("a"), {}}})) << value;
+    EXPECT_EQ(chain, (std::vector<EffectValue>{{text("a"), {}}})) << value;
   }
 }
 
 TEST_P(EffectChains, OfEffectsWithOneNameTheFirstTakenWins) {
   EXPECT_EQ(chainOf(R"("a":{"parameter":{}},"b":{"parameter":{}},"a":{"parameter":{"p":1}})"),
-            (std::vector<EffectSnapshot>{{text("a"), {}}, {text("b"), {}}}));
+            (std::vector<EffectValue>{{text("a"), {}}, {text("b"), {}}}));
 }
 
 TEST_P(EffectChains, AMemberLeftOutDoesNotBlockALaterOneOfItsName) {
   EXPECT_EQ(chainOf(R"("a":5,"a":{},"a":{"parameter":{"p":1}},"a":{"parameter":{"p":2}})"),
-            (std::vector<EffectSnapshot>{{text("a"), {ParameterSnapshot::ofInt(text("p"), 1)}}}));
+            (std::vector<EffectValue>{{text("a"), {ParameterValue::ofInt(text("p"), 1)}}}));
 }
 
 TEST_P(EffectChains, NamesAreComparedExactly) {
@@ -74,11 +76,14 @@ TEST_P(EffectChains, NamesAreComparedExactly) {
       idsOf(R"("a":{"parameter":1},"A":{"parameter":1},"a ":{"parameter":1},"\u00e1":{"parameter":1},
                        "a\u0301":{"parameter":1})"),
       ElementsAre("a", "A", "a ", "\xC3\xA1", "a\xCC\x81"));
+  EXPECT_THAT(idsOf(R"("a":{"parameter":1},"a\u0000":{"parameter":1},"a\u0000":{"parameter":1},
+                       "a\u0000b":{"parameter":1})"),
+              ElementsAre("a", "a", "a"));
 }
 
 TEST_P(EffectChains, NothingOfAScriptIsKept) {
   EXPECT_EQ(chainOf(R"("a":{"script":"x","parameter":{}})"),
-            (std::vector<EffectSnapshot>{{text("a"), {}}}));
+            (std::vector<EffectValue>{{text("a"), {}}}));
   for (const std::string script : {"5", "null", "{}", "[\"x\"]", "\"\""})
     EXPECT_THAT(idsOf(R"("a":{"script":)" + script + R"(,"parameter":{}})"), ElementsAre("a"))
         << script;
@@ -95,33 +100,40 @@ TEST_P(EffectChains, HoldManyEffectsInOrder) {
     ASSERT_EQ(ids[static_cast<std::size_t>(i)], std::to_string(count - i));
 }
 
-INSTANTIATE_TEST_SUITE_P(Both, EffectChains, testing::Values("audioEffect", "midiEffect"),
-                         [](const auto& place) { return std::string(place.param); });
+INSTANTIATE_TEST_SUITE_P(Both, EffectChains, testing::Values(KOSTYLE_EFFECT_AUDIO, KOSTYLE_EFFECT_MIDI),
+                         [](const auto& kind) {
+                           return kind.param == KOSTYLE_EFFECT_AUDIO ? "audioEffect" : "midiEffect";
+                         });
 
 TEST(EffectChainPair, AnAudioAndAMidiEffectMayShareAName) {
   const auto style = styleOf(
       R"({"id":"I","name":"N","audioEffect":{"E":{"parameter":{"p":1}}},
           "midiEffect":{"E":{"parameter":{"p":2}}}})");
-  EXPECT_EQ(style.audio,
-            (std::vector<EffectSnapshot>{{text("E"), {ParameterSnapshot::ofInt(text("p"), 1)}}}));
-  EXPECT_EQ(style.midi,
-            (std::vector<EffectSnapshot>{{text("E"), {ParameterSnapshot::ofInt(text("p"), 2)}}}));
+  EXPECT_EQ(style.chains[KOSTYLE_EFFECT_AUDIO],
+            (std::vector<EffectValue>{{text("E"), {ParameterValue::ofInt(text("p"), 1)}}}));
+  EXPECT_EQ(style.chains[KOSTYLE_EFFECT_MIDI],
+            (std::vector<EffectValue>{{text("E"), {ParameterValue::ofInt(text("p"), 2)}}}));
 }
 
 TEST(EffectChainPair, EffectsHaveTheKindOfTheirChain) {
-  const auto reading = test::readBytes(
+  const test::FileReader reader;
+  reader.read(
       R"({"id":"I","name":"N","audioEffect":{"A":{"parameter":{}}},"midiEffect":{"M":{"parameter":{}}}})");
-  ASSERT_NE(reading.style, nullptr);
-  EXPECT_EQ(reading.style->audioEffect(0)->type(), unsigned{KOSTYLE_EFFECT_AUDIO});
-  EXPECT_EQ(reading.style->midiEffect(0)->type(), unsigned{KOSTYLE_EFFECT_MIDI});
-  EXPECT_EQ(reading.style->audioEffect(0)->parent(), reading.style.get());
-  EXPECT_EQ(reading.style->audioEffect(1), nullptr);
-  EXPECT_EQ(reading.style->midiEffect(1), nullptr);
+  KoStyleStyle* const style = reader.style();
+  ASSERT_NE(style, nullptr);
+  EXPECT_EQ(Effect_type(Style_audioEffect(style, 0)), KOSTYLE_EFFECT_AUDIO);
+  EXPECT_EQ(Effect_type(Style_midiEffect(style, 0)), KOSTYLE_EFFECT_MIDI);
+  EXPECT_EQ(Effect_parent(Style_audioEffect(style, 0)), style);
+  EXPECT_EQ(Effect_parent(Style_midiEffect(style, 0)), style);
+  EXPECT_EQ(Style_audioEffect(style, 1), nullptr);
+  EXPECT_EQ(Style_midiEffect(style, 1), nullptr);
 }
 
 TEST(EffectChainPair, AChainThatIsNoObjectIsEmpty) {
   for (const std::string value : {"[]", "null", "\"M\"", "3", "[{\"M\":{\"parameter\":{}}}]"})
-    EXPECT_THAT(styleOf(test::documentWith("\"midiEffect\":" + value)).midi, IsEmpty()) << value;
+    EXPECT_THAT(styleOf(test::documentWith("\"midiEffect\":" + value)).chains[KOSTYLE_EFFECT_MIDI],
+                IsEmpty())
+        << value;
 }
 
 }  // namespace

@@ -1,17 +1,17 @@
 // The attribute lists of a document.
 #include <gmock/gmock.h>
 
-#include "format/sample_documents.h"
+#include "support/file_reader.h"
 
 namespace {
 
-using test::StyleSnapshot;
+using test::StoredValue;
 using test::Text;
 using test::text;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-StyleSnapshot withFilter(const std::string& members) {
+StoredValue withFilter(const std::string& members) {
   return test::styleOf(test::documentWith(R"("filter":{)" + members + "}"));
 }
 
@@ -27,27 +27,23 @@ TEST(Filter, LanguagesAreTakenFrom0To4) {
 
 TEST(Filter, SingerIDsAreTakenAt16Units) {
   EXPECT_THAT(withFilter(R"("singerIDs":["123456789012345","1234567890123456","12345678901234567",""])")
-                  .singerIDs,
+                  .lists[test::singerIDs],
               ElementsAre(text("1234567890123456")));
   // Eight characters of two units each; sixteen of one unit and three bytes.
   const std::string pairs =
       "\xF0\x9F\x98\x80\xF0\x9F\x98\x80\xF0\x9F\x98\x80\xF0\x9F\x98\x80"
       "\xF0\x9F\x98\x80\xF0\x9F\x98\x80\xF0\x9F\x98\x80\xF0\x9F\x98\x80";
-  EXPECT_THAT(withFilter("\"singerIDs\":[\"" + pairs + "\"]").singerIDs, ElementsAre(text(pairs)));
-  EXPECT_THAT(withFilter(R"("singerIDs":["a\u0000aaaaaaaaaaaaaa"])").singerIDs.size(), 1u);
+  EXPECT_THAT(withFilter("\"singerIDs\":[\"" + pairs + "\"]").lists[test::singerIDs],
+              ElementsAre(text(pairs)));
+  EXPECT_THAT(withFilter(R"("singerIDs":["a\u0000aaaaaaaaaaaaaa"])").lists[test::singerIDs].size(), 1u);
 }
 
-struct List {
-  const char* key;
-  std::vector<Text> StyleSnapshot::*values;
-};
-
-void PrintTo(const List& list, std::ostream* out) { *out << list.key; }
-
-class TextLists : public testing::TestWithParam<List> {
+/// Runs for each list that takes any text that is not empty.
+class TextLists : public testing::TestWithParam<std::size_t> {
  protected:
+  static std::string key() { return test::textLists()[GetParam()].name; }
   static std::vector<Text> read(const std::string& array) {
-    return withFilter("\"" + std::string(GetParam().key) + "\":" + array).*GetParam().values;
+    return withFilter("\"" + key() + "\":" + array).lists[GetParam()];
   }
 };
 
@@ -57,6 +53,12 @@ TEST_P(TextLists, AreSortedWithoutDuplicatesAndEmptyTexts) {
               ElementsAre(text("B"), text("a"), text("aa"), text("b"), text("\xC3\xA4")));
   EXPECT_THAT(read("[\"\xEF\xBD\x9E\",\"\xF0\x9F\x98\x80\"]"),
               ElementsAre(text("\xF0\x9F\x98\x80"), text("\xEF\xBD\x9E")));
+}
+
+TEST_P(TextLists, TellTextsApartExactly) {
+  const Text loneLow(1, KoStyleChar(0xDC00));
+  EXPECT_THAT(read(R"(["x","\uDC00","x\u0000","X","x","x\u0000"])"),
+              ElementsAre(text("X"), text("x"), text("x"), loneLow));
 }
 
 TEST_P(TextLists, LeaveOutElementsOfOtherTypes) {
@@ -69,9 +71,9 @@ TEST_P(TextLists, AreEmptyWhenTheMemberIsNoArray) {
 }
 
 TEST_P(TextLists, StandAlone) {
-  const auto style = withFilter("\"" + std::string(GetParam().key) + R"(":["x"])");
-  StyleSnapshot expected = test::styleOf(test::documentWith(""));
-  expected.*GetParam().values = {text("x")};
+  const auto style = withFilter("\"" + key() + R"(":["x"])");
+  StoredValue expected = test::styleOf(test::documentWith(""));
+  expected.lists[GetParam()] = {text("x")};
   EXPECT_EQ(style, expected);
 }
 
@@ -82,33 +84,32 @@ TEST_P(TextLists, HoldManyTexts) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, TextLists,
-                         testing::Values(List{"singerGroups", &StyleSnapshot::singerGroups},
-                                         List{"genres", &StyleSnapshot::genres},
-                                         List{"subGenres", &StyleSnapshot::subGenres},
-                                         List{"colors", &StyleSnapshot::colors}),
-                         [](const auto& list) { return std::string(list.param.key); });
+                         testing::Values(test::singerGroups, test::genres, test::subGenres,
+                                         test::colors),
+                         [](const auto& list) { return test::textLists()[list.param].name; });
 
 TEST(Filter, OnePartOfTheWrongTypeLeavesTheOthers) {
   const auto style = withFilter(
       R"("languages":{"0":1},"singerGroups":"g","singerIDs":null,"genres":["g"],"subGenres":5,"colors":["c"])");
   EXPECT_THAT(style.languages, IsEmpty());
-  EXPECT_THAT(style.singerGroups, IsEmpty());
-  EXPECT_THAT(style.singerIDs, IsEmpty());
-  EXPECT_THAT(style.genres, ElementsAre(text("g")));
-  EXPECT_THAT(style.subGenres, IsEmpty());
-  EXPECT_THAT(style.colors, ElementsAre(text("c")));
+  EXPECT_THAT(style.lists[test::singerGroups], IsEmpty());
+  EXPECT_THAT(style.lists[test::singerIDs], IsEmpty());
+  EXPECT_THAT(style.lists[test::genres], ElementsAre(text("g")));
+  EXPECT_THAT(style.lists[test::subGenres], IsEmpty());
+  EXPECT_THAT(style.lists[test::colors], ElementsAre(text("c")));
 }
 
 TEST(Filter, IsNotReadUnlessItIsAnObject) {
-  const StyleSnapshot plain = test::styleOf(test::documentWith(""));
+  const StoredValue plain = test::styleOf(test::documentWith(""));
   for (const std::string value : {"[]", "null", "\"genres\"", "1", R"([{"genres":["g"]}])", "{}"})
     EXPECT_EQ(test::styleOf(test::documentWith("\"filter\":" + value)), plain) << value;
   EXPECT_NE(test::styleOf(test::documentWith(R"("filter":{"genres":["g"]})")), plain);
 }
 
 TEST(Filter, OfDuplicateListsTheFirstCounts) {
-  EXPECT_THAT(withFilter(R"("colors":5,"colors":["c"])").colors, IsEmpty());
-  EXPECT_THAT(withFilter(R"("colors":["b"],"colors":["c"])").colors, ElementsAre(text("b")));
+  EXPECT_THAT(withFilter(R"("colors":5,"colors":["c"])").lists[test::colors], IsEmpty());
+  EXPECT_THAT(withFilter(R"("colors":["b"],"colors":["c"])").lists[test::colors],
+              ElementsAre(text("b")));
 }
 
 }  // namespace

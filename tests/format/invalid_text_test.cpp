@@ -1,29 +1,27 @@
 // Texts that are not proper Unicode: surrogates by themselves, forms that no encoder makes, U+0000.
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "format/encodings.h"
-#include "format/sample_documents.h"
+#include "support/file_reader.h"
 
 namespace {
 
 using test::encoded;
 using test::Encoding;
-using test::outcomeOf;
 using test::parametersOf;
+using test::parseErrorOf;
 using test::Text;
 using namespace std::string_literals;
-
-constexpr char invalidSurrogate[] = "17  9";
-constexpr char invalidEncoding[] = "17  12";
 
 /// The value of a text parameter that is written like this.
 Text valueOf(const std::string& written) {
   return parametersOf("\"p\":\"" + written + "\"").at(0).string;
 }
 
-std::string outcomeWith(const std::string& written) {
-  const std::string outcome = outcomeOf(test::documentWithParameters("\"p\":\"" + written + "\""));
-  return outcome.substr(0, outcome.find('@'));
+int parseErrorWith(const std::string& written) {
+  return parseErrorOf(test::documentWithParameters("\"p\":\"" + written + "\""));
 }
 
 Text units(std::initializer_list<unsigned> values) {
@@ -33,9 +31,8 @@ Text units(std::initializer_list<unsigned> values) {
 }
 
 std::u32string documentWithText(std::u32string_view content) {
-  return std::u32string(
-             U"{\"id\":\"I\",\"name\":\"N\",\"audioEffect\":{\"E\":{\"parameter\":{\"p\":\"") +
-         std::u32string(content) + U"\"}}}}";
+  std::u32string document = test::codePointsOf(test::documentWithParameters(R"("p":"*")"));
+  return document.replace(document.find(U'*'), 1, content);
 }
 
 TEST(SurrogateEscapes, PairsMakeOneCodePoint) {
@@ -47,8 +44,8 @@ TEST(SurrogateEscapes, PairsMakeOneCodePoint) {
 TEST(SurrogateEscapes, AHighOneAloneIsASyntaxError) {
   for (const char* written : {R"(\uD800)", R"(\uDBFFx)", R"(\uD83D \uDE00)", R"(\uD83D\n)",
                               R"(\uD83D\u0041)", R"(\uD83D\uD83D)", R"(\uD83D\uE000)"})
-    EXPECT_EQ(outcomeWith(written), invalidSurrogate) << written;
-  EXPECT_EQ(outcomeWith(R"(\uD83D\uDE0)"), "17  8") << "too few digits";
+    EXPECT_EQ(parseErrorWith(written), KOSTYLE_PARSE_SURROGATE_INVALID) << written;
+  EXPECT_EQ(parseErrorWith(R"(\uD83D\uDE0)"), KOSTYLE_PARSE_ESCAPE_NOT_HEXADECIMAL) << "too few digits";
 }
 
 TEST(SurrogateEscapes, ALowOneAloneIsKept) {
@@ -60,7 +57,7 @@ TEST(SurrogateEscapes, ALowOneAloneIsKept) {
 TEST(Utf8, EncodedSurrogatesAreRefused) {
   for (const char* bytes :
        {"\xED\xA0\x80", "\xED\xAF\xBF", "\xED\xB0\x80", "\xED\xBF\xBF", "\xED\xA0\xBD\xED\xB8\x80"})
-    EXPECT_EQ(outcomeWith(bytes), invalidEncoding);
+    EXPECT_EQ(parseErrorWith(bytes), KOSTYLE_PARSE_ENCODING_INVALID);
   EXPECT_EQ(valueOf("\xED\x9F\xBF"), units({0xD7FF}));
   EXPECT_EQ(valueOf("\xEE\x80\x80"), units({0xE000}));
 }
@@ -69,7 +66,7 @@ TEST(Utf8, OverlongFormsAreRefused) {
   for (const std::string& bytes :
        {"\xC0\x80"s, "\xC0\xAF"s, "\xC1\xBF"s, "\xE0\x80\x80"s, "\xE0\x9F\xBF"s, "\xF0\x80\x80\x80"s,
         "\xF0\x8F\xBF\xBF"s, "\xE0\x80\xAF"s})
-    EXPECT_EQ(outcomeWith(bytes), invalidEncoding);
+    EXPECT_EQ(parseErrorWith(bytes), KOSTYLE_PARSE_ENCODING_INVALID);
   EXPECT_EQ(valueOf("\xC2\x80"), units({0x80}));
   EXPECT_EQ(valueOf("\xE0\xA0\x80"), units({0x800}));
   EXPECT_EQ(valueOf("\xF0\x90\x80\x80"), units({0xD800, 0xDC00}));
@@ -78,14 +75,14 @@ TEST(Utf8, OverlongFormsAreRefused) {
 TEST(Utf8, CodePointsPast10FFFFAreRefused) {
   for (const char* bytes : {"\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xF7\xBF\xBF\xBF",
                             "\xF8\x88\x80\x80\x80", "\xFC\x84\x80\x80\x80\x80", "\xFE", "\xFF"})
-    EXPECT_EQ(outcomeWith(bytes), invalidEncoding);
+    EXPECT_EQ(parseErrorWith(bytes), KOSTYLE_PARSE_ENCODING_INVALID);
   EXPECT_EQ(valueOf("\xF4\x8F\xBF\xBF"), units({0xDBFF, 0xDFFF}));
 }
 
 TEST(Utf8, BrokenSequencesAreRefused) {
   for (const char* bytes : {"\x80", "\xBF", "\xC3", "\xC3\xC3", "\xE2\x82", "\xE2\x28\xA1",
                             "\xF0\x9F\x98", "\xF0\x9F\x98\x28", "\xC3("})
-    EXPECT_EQ(outcomeWith(bytes), invalidEncoding);
+    EXPECT_EQ(parseErrorWith(bytes), KOSTYLE_PARSE_ENCODING_INVALID);
 }
 
 TEST(Utf8, EveryCodePointOfTwoAndThreeBytesIsKept) {
@@ -97,7 +94,8 @@ TEST(Utf8, EveryCodePointOfTwoAndThreeBytesIsKept) {
   for (const char32_t codePoint : all) expected += static_cast<KoStyleChar>(codePoint);
   for (const Encoding encoding : test::allEncodings()) {
     const auto style = test::styleOf(encoded(documentWithText(all), encoding, true));
-    EXPECT_TRUE(style.audio.at(0).parameters.at(0).string == expected) << nameOf(encoding);
+    EXPECT_TRUE(style.chains[KOSTYLE_EFFECT_AUDIO].at(0).parameters.at(0).string == expected)
+        << nameOf(encoding);
   }
 }
 
@@ -105,11 +103,13 @@ TEST(Utf16, SurrogatesAloneAreRefused) {
   for (const Encoding encoding : {Encoding::utf16le, Encoding::utf16be}) {
     for (const std::u32string& content : {U"\xD800"s, U"\xDC00"s, U"\xDFFF x"s, U"\xD83D x"s,
                                           U"\xDE00\xD83D"s, U"\xD83D\xD83D\xDE00"s}) {
-      const std::string outcome = outcomeOf(encoded(documentWithText(content), encoding));
-      EXPECT_EQ(outcome.substr(0, outcome.find('@')), invalidEncoding) << nameOf(encoding);
+      EXPECT_EQ(parseErrorOf(encoded(documentWithText(content), encoding)),
+                KOSTYLE_PARSE_ENCODING_INVALID)
+          << nameOf(encoding);
     }
     const auto style = test::styleOf(encoded(documentWithText(U"\xD83D\xDE00"), encoding));
-    EXPECT_EQ(style.audio.at(0).parameters.at(0).string, test::text("\xF0\x9F\x98\x80"));
+    EXPECT_EQ(style.chains[KOSTYLE_EFFECT_AUDIO].at(0).parameters.at(0).string,
+              test::text("\xF0\x9F\x98\x80"));
   }
 }
 
@@ -117,7 +117,7 @@ TEST(Utf32, SurrogatesAreKeptAsTheyAre) {
   for (const Encoding encoding : {Encoding::utf32le, Encoding::utf32be}) {
     const auto valueIn = [&](std::u32string_view content) {
       const auto style = test::styleOf(encoded(documentWithText(content), encoding));
-      return style.audio.at(0).parameters.at(0).string;
+      return style.chains[KOSTYLE_EFFECT_AUDIO].at(0).parameters.at(0).string;
     };
     EXPECT_EQ(valueIn(U"\xD800"), units({0xD800})) << nameOf(encoding);
     EXPECT_EQ(valueIn(U"\xDFFF x"), units({0xDFFF, ' ', 'x'})) << nameOf(encoding);
@@ -128,13 +128,12 @@ TEST(Utf32, SurrogatesAreKeptAsTheyAre) {
 TEST(Utf32, NumbersPast10FFFFAreRefused) {
   for (const Encoding encoding : {Encoding::utf32le, Encoding::utf32be}) {
     for (const char32_t beyond : {0x110000u, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFFu, 0x01000022u}) {
-      const std::string outcome =
-          outcomeOf(encoded(documentWithText(std::u32string(1, beyond)), encoding));
-      EXPECT_EQ(outcome.substr(0, outcome.find('@')), invalidEncoding) << nameOf(encoding);
+      EXPECT_EQ(parseErrorOf(encoded(documentWithText(std::u32string(1, beyond)), encoding)),
+                KOSTYLE_PARSE_ENCODING_INVALID)
+          << nameOf(encoding);
     }
-    EXPECT_EQ(
-        outcomeOf(encoded(std::u32string(1, char32_t{0x100} + U'{') + U"}", encoding)).substr(0, 3),
-        "17 ");
+    EXPECT_NE(parseErrorOf(encoded(std::u32string(1, char32_t{0x100} + U'{') + U"}", encoding)),
+              KOSTYLE_PARSE_OK);
   }
 }
 
@@ -144,39 +143,57 @@ TEST(Escapes, AreReadInAnyCase) {
 
 TEST(Escapes, OthersAreSyntaxErrors) {
   for (const char* written : {R"(\a)", R"(\x41)", R"(\0)", R"(\')", R"(\U0041)", "\\\n", "\\\xC3\xA4"})
-    EXPECT_EQ(outcomeWith(written), "17  10") << written;
+    EXPECT_EQ(parseErrorWith(written), KOSTYLE_PARSE_ESCAPE_INVALID) << written;
   for (const char* written : {R"(\u)", R"(\u004)", R"(\u004g)", R"(\u-041)", R"(\u 041)", R"(\u+041)"})
-    EXPECT_EQ(outcomeWith(written), "17  8") << written;
-  EXPECT_EQ(outcomeOf(encoded(documentWithText(U"\\\u0122"), Encoding::utf16le)).substr(0, 6), "17  10")
+    EXPECT_EQ(parseErrorWith(written), KOSTYLE_PARSE_ESCAPE_NOT_HEXADECIMAL) << written;
+  EXPECT_EQ(parseErrorOf(encoded(documentWithText(U"\\\u0122"), Encoding::utf16le)),
+            KOSTYLE_PARSE_ESCAPE_INVALID)
       << "the low byte alone is no escape";
 }
 
 TEST(ControlCharacters, InATextAreSyntaxErrors) {
   for (char control = 1; control < 0x20; ++control)
-    EXPECT_EQ(outcomeWith(std::string(1, control)), "17  10") << int{control};
+    EXPECT_EQ(parseErrorWith(std::string(1, control)), KOSTYLE_PARSE_ESCAPE_INVALID) << int{control};
   EXPECT_EQ(valueOf("\x7F"), units({0x7F}));
 }
 
-TEST(NullCharacters, AsEscapesAreKeptEverywhere) {
-  const auto style = test::styleOf(
-      R"({"id":"I\u0000d","name":"N\u0000n","audioEffect":{"E\u0000e":{"parameter":{"p\u0000q":"v\u0000w"}},
-          "E\u0000f":{"parameter":{"p":1,"p\u0000":2}},"\u0000":{"parameter":{"\u0000":"\u0000"}}},
-          "filter":{"genres":["g\u0000h","g","\u0000"]}})");
-  const auto withNull = [](const char* before, const char* after) {
-    return test::text(before) + KoStyleChar{0} + test::text(after);
-  };
-  const Text null = withNull("", "");
-  test::StyleSnapshot expected;
-  using test::ParameterSnapshot;
-  expected.id = withNull("I", "d");
-  expected.name = withNull("N", "n");
-  expected.genres = {null, test::text("g"), withNull("g", "h")};
-  expected.audio = {
-      {withNull("E", "e"), {ParameterSnapshot::ofString(withNull("p", "q"), withNull("v", "w"))}},
-      {withNull("E", "f"),
-       {ParameterSnapshot::ofInt(test::text("p"), 1), ParameterSnapshot::ofInt(withNull("p", ""), 2)}},
-      {null, {ParameterSnapshot::ofString(null, null)}}};
-  EXPECT_EQ(style, expected);
+/// What a host sees of texts with U+0000 in them ends there; they are kept and written whole.
+TEST(NullCharacters, EndWhatIsSeenOfATextThatIsKeptWhole) {
+  const std::string lists =
+      R"("genres":["\u0000","g","g\u0000h"],"singerIDs":["s\u0000aaaaaaaaaaaaaa"])";
+  const std::string chain =
+      R"("E\u0000e":{"parameter":{"p\u0000q":"v\u0000w"}},"E\u0000f":{"parameter":{"p":1,"p\u0000":2}},)"
+      R"("\u0000":{"parameter":{"\u0000":"\u0000"}})";
+  const test::Host host;
+  KoStyleStyle* const style =
+      host.addUserStyle("I", R"({"id":"I\u0000d","name":"N\u0000n","vendor":"V\u0000v","filter":{)" +
+                                 lists + R"(},"audioEffect":{)" + chain + "}}");
+  ASSERT_NE(style, nullptr);
+  using test::ParameterValue;
+  using test::text;
+  test::StoredValue expected;
+  expected.id = text("I");
+  expected.name = text("N");
+  expected.vendor = text("V");
+  expected.lists[test::genres] = {text(""), text("g"), text("g")};
+  expected.lists[test::singerIDs] = {text("s")};
+  expected.chains[KOSTYLE_EFFECT_AUDIO] = {
+      {text("E"), {ParameterValue::ofString(text("p"), text("v"))}},
+      {text("E"), {ParameterValue::ofInt(text("p"), 1), ParameterValue::ofInt(text("p"), 2)}},
+      {text(""), {ParameterValue::ofString(text(""), text(""))}}};
+  EXPECT_EQ(test::storedValueOf(style), expected);
+
+  KoStylePropertyEditor* const editor = UserStyle_createPropertyEditor(style);
+  PropertyEditor_setStyleName(editor, KOSTYLE_TEXT("N"));
+  ASSERT_TRUE(PropertyEditor_save(editor, false));
+  std::string written = test::readFile(test::Host::fileOf(style));
+  written.erase(std::remove_if(written.begin(), written.end(),
+                               [](char each) { return each == ' ' || each == '\n'; }),
+                written.end());
+  EXPECT_EQ(written, R"({"id":"I\u0000d","name":"N","filter":{"singerIDs":["s\u0000aaaaaaaaaaaaaa"],)"
+                     R"("genres":["\u0000","g","g\u0000h"]},"audioEffect":{"E\u0000e":{"parameter":)"
+                     R"({"p\u0000q":"v\u0000w"}},"E\u0000f":{"parameter":{"p":1,"p\u0000":2}},)"
+                     R"("\u0000":{"parameter":{"\u0000":"\u0000"}}}})");
 }
 
 }  // namespace

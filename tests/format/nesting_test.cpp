@@ -2,13 +2,17 @@
 #include <gmock/gmock.h>
 
 #include "format/encodings.h"
-#include "format/sample_documents.h"
 #include "format/small_stack.h"
+#include "support/file_reader.h"
 
 namespace {
 
 using test::documentWith;
 using test::outcomeOf;
+using test::parseErrorOf;
+using test::refused;
+using test::syntaxError;
+using test::taken;
 
 std::string repeated(const std::string& text, std::size_t count) {
   std::string result;
@@ -34,74 +38,77 @@ std::string mixture(std::size_t levels) {
   return front + "0" + back;
 }
 
-constexpr char taken[] = "taken";
-
 TEST(Nesting, TheRootIsTheFirstOf512Levels) {
-  EXPECT_EQ(outcomeOf(arrays(512)), "20 / 0@0");
-  EXPECT_EQ(outcomeOf(arrays(513)), "17  16@514");
-  EXPECT_EQ(outcomeOf(objects(512)), "19 /id 0@0");
-  EXPECT_EQ(outcomeOf(objects(513)), "17  16@2562")
+  EXPECT_EQ(outcomeOf(arrays(512)), refused(KOSTYLE_ERROR_WRONG_TYPE, "/"));
+  EXPECT_EQ(outcomeOf(arrays(513)), syntaxError(KOSTYLE_PARSE_TERMINATED, 514));
+  EXPECT_EQ(outcomeOf(objects(512)), refused(KOSTYLE_ERROR_MEMBER_MISSING, "/id"));
+  EXPECT_EQ(outcomeOf(objects(513)), syntaxError(KOSTYLE_PARSE_TERMINATED, 2562))
       << "512 times five characters, a brace and the one after";
-  EXPECT_EQ(outcomeOf(mixture(512)), "19 /id 0@0");
-  EXPECT_EQ(outcomeOf(mixture(513)).substr(0, 6), "17  16");
+  EXPECT_EQ(outcomeOf(mixture(512)), refused(KOSTYLE_ERROR_MEMBER_MISSING, "/id"));
+  EXPECT_EQ(parseErrorOf(mixture(513)), KOSTYLE_PARSE_TERMINATED);
 }
 
 TEST(Nesting, IsCountedBelowUnknownKeysToo) {
-  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + arrays(511))), taken);
-  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + arrays(512))).substr(0, 6), "17  16");
-  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + objects(511))), taken);
-  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + objects(512))).substr(0, 6), "17  16");
-  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + mixture(511))), taken);
-  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + mixture(512))).substr(0, 6), "17  16");
+  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + arrays(511))), taken());
+  EXPECT_EQ(parseErrorOf(documentWith("\"x\":" + arrays(512))), KOSTYLE_PARSE_TERMINATED);
+  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + objects(511))), taken());
+  EXPECT_EQ(parseErrorOf(documentWith("\"x\":" + objects(512))), KOSTYLE_PARSE_TERMINATED);
+  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + mixture(511))), taken());
+  EXPECT_EQ(parseErrorOf(documentWith("\"x\":" + mixture(512))), KOSTYLE_PARSE_TERMINATED);
 }
 
 TEST(Nesting, IsCountedInPlaceToo) {
   using test::documentWithParameters;
-  EXPECT_EQ(outcomeOf(documentWithParameters("\"p\":" + arrays(508))), taken);
-  EXPECT_EQ(outcomeOf(documentWithParameters("\"p\":" + arrays(509))).substr(0, 6), "17  16");
-  EXPECT_EQ(outcomeOf(documentWith("\"filter\":" + objects(511))), taken);
-  EXPECT_EQ(outcomeOf(documentWith("\"filter\":" + objects(512))).substr(0, 6), "17  16");
-  EXPECT_EQ(outcomeOf(documentWith("\"vendor\":" + mixture(511))), taken);
-  EXPECT_EQ(outcomeOf(documentWith("\"vendor\":" + mixture(512))).substr(0, 6), "17  16");
+  EXPECT_EQ(outcomeOf(documentWithParameters("\"p\":" + arrays(508))), taken());
+  EXPECT_EQ(parseErrorOf(documentWithParameters("\"p\":" + arrays(509))), KOSTYLE_PARSE_TERMINATED);
+  EXPECT_EQ(outcomeOf(documentWith("\"filter\":" + objects(511))), taken());
+  EXPECT_EQ(parseErrorOf(documentWith("\"filter\":" + objects(512))), KOSTYLE_PARSE_TERMINATED);
+  EXPECT_EQ(outcomeOf(documentWith("\"vendor\":" + mixture(511))), taken());
+  EXPECT_EQ(parseErrorOf(documentWith("\"vendor\":" + mixture(512))), KOSTYLE_PARSE_TERMINATED);
 }
 
 TEST(Nesting, LevelsThatWereLeftDoNotCount) {
-  EXPECT_EQ(outcomeOf("[" + repeated(arrays(511) + ",", 20) + objects(511) + "]"), "20 / 0@0");
-  EXPECT_EQ(outcomeOf("[" + repeated("[],{},", 100000) + "0]"), "20 / 0@0");
-  EXPECT_EQ(outcomeOf("[" + repeated(arrays(511) + ",", 20) + objects(512) + "]").substr(0, 6),
-            "17  16");
+  EXPECT_EQ(outcomeOf("[" + repeated(arrays(511) + ",", 20) + objects(511) + "]"),
+            refused(KOSTYLE_ERROR_WRONG_TYPE, "/"));
+  EXPECT_EQ(outcomeOf("[" + repeated("[],{},", 100000) + "0]"), refused(KOSTYLE_ERROR_WRONG_TYPE, "/"));
+  EXPECT_EQ(parseErrorOf("[" + repeated(arrays(511) + ",", 20) + objects(512) + "]"),
+            KOSTYLE_PARSE_TERMINATED);
 }
 
 TEST(Nesting, BracketsInTextsDoNotCount) {
-  EXPECT_EQ(outcomeOf(documentWith("\"vendor\":\"" + repeated("[", 2000) + "\"")), taken);
+  EXPECT_EQ(outcomeOf(documentWith("\"vendor\":\"" + repeated("[", 2000) + "\"")), taken());
 }
 
 TEST(Nesting, AMillionBracketsAreASyntaxError) {
-  EXPECT_EQ(outcomeOf(repeated("[", 1000000)), "17  16@514");
-  EXPECT_EQ(outcomeOf(repeated("{\"a\":", 1000000)), "17  16@2562");
-  EXPECT_EQ(outcomeOf(repeated("[{\"\":", 1000000)).substr(0, 6), "17  16");
-  EXPECT_EQ(outcomeOf(documentWith("\"x\":" + repeated("[", 1000000))).substr(0, 6), "17  16");
+  EXPECT_EQ(outcomeOf(repeated("[", 1000000)), syntaxError(KOSTYLE_PARSE_TERMINATED, 514));
+  EXPECT_EQ(outcomeOf(repeated("{\"a\":", 1000000)), syntaxError(KOSTYLE_PARSE_TERMINATED, 2562));
+  EXPECT_EQ(parseErrorOf(repeated("[{\"\":", 1000000)), KOSTYLE_PARSE_TERMINATED);
+  EXPECT_EQ(parseErrorOf(documentWith("\"x\":" + repeated("[", 1000000))), KOSTYLE_PARSE_TERMINATED);
 }
 
 TEST(Nesting, TheOffsetCountsBytes) {
   for (const test::Encoding encoding : test::allEncodings()) {
-    const std::size_t bytes = 514 * unitSize(encoding);
     EXPECT_EQ(outcomeOf(encoded(repeated("[", 600), encoding)),
-              "17  16@" + std::to_string(encoding == test::Encoding::utf8 ? 514 : bytes))
+              syntaxError(KOSTYLE_PARSE_TERMINATED, 514 * unitSize(encoding)))
         << nameOf(encoding);
   }
 }
 
 TEST(Nesting, ASmallStackIsEnough) {
-  std::vector<std::string> outcomes;
+  const test::FileReader reader;
+  std::vector<test::Outcome> outcomes;
   test::runOnSmallStack([&] {
     for (const std::string& document :
          {repeated("[", 1000000), repeated("{\"a\":", 1000000), arrays(512), objects(512), mixture(512),
           documentWith("\"x\":" + mixture(511)), documentWith("\"x\":" + objects(511))})
-      outcomes.push_back(outcomeOf(document));
+      outcomes.push_back(reader.read(document).outcome);
   });
-  EXPECT_THAT(outcomes, testing::ElementsAre("17  16@514", "17  16@2562", "20 / 0@0", "19 /id 0@0",
-                                             "19 /id 0@0", taken, taken));
+  EXPECT_THAT(outcomes,
+              testing::ElementsAre(syntaxError(KOSTYLE_PARSE_TERMINATED, 514),
+                                   syntaxError(KOSTYLE_PARSE_TERMINATED, 2562),
+                                   refused(KOSTYLE_ERROR_WRONG_TYPE, "/"),
+                                   refused(KOSTYLE_ERROR_MEMBER_MISSING, "/id"),
+                                   refused(KOSTYLE_ERROR_MEMBER_MISSING, "/id"), taken(), taken()));
 }
 
 }  // namespace

@@ -251,43 +251,43 @@ TEST(OwnedSequence, AgreesWithAVectorThroughRandomChanges) {
   };
   const auto anyName = [&] { return Text(1, static_cast<Char>('a' + below(20))); };
   KeyedItems items;
-  std::vector<Item*> model;
-  const auto at = [&](std::size_t i) { return model.begin() + static_cast<std::ptrdiff_t>(i); };
+  std::vector<Item*> reference;
+  const auto at = [&](std::size_t i) { return reference.begin() + static_cast<std::ptrdiff_t>(i); };
   for (int step = 0; step < 20000; ++step) {
-    const std::size_t action = model.empty() ? 0 : below(5);
-    if (action <= 1 && model.size() < 300) {
-      const std::size_t position = below(model.size() + 3);
+    const std::size_t action = reference.empty() ? 0 : below(5);
+    if (action <= 1 && reference.size() < 300) {
+      const std::size_t position = below(reference.size() + 3);
       Item& item = insert(items, position, anyName());
-      model.insert(at(std::min(position, model.size())), &item);
+      reference.insert(at(std::min(position, reference.size())), &item);
     } else if (action == 2) {
-      const std::size_t position = below(model.size());
-      EXPECT_TRUE(items.destroy(model[position]));
-      model.erase(at(position));
+      const std::size_t position = below(reference.size());
+      EXPECT_TRUE(items.destroy(reference[position]));
+      reference.erase(at(position));
     } else if (action == 3) {
-      Item& item = *model[below(model.size())];
+      Item& item = *reference[below(reference.size())];
       items.rekey(&item, [&, name = anyName()]() mutable { item.setName(std::move(name)); });
-    } else if (!model.empty()) {
-      const std::size_t from = below(model.size());
-      Item* const item = model[from];
-      model.erase(at(from));
+    } else if (!reference.empty()) {
+      const std::size_t from = below(reference.size());
+      Item* const item = reference[from];
+      reference.erase(at(from));
       auto taken = items.take(item);
-      const std::size_t to = below(model.size() + 1);
+      const std::size_t to = below(reference.size() + 1);
       items.insert(to, std::move(taken));
-      model.insert(at(to), item);
+      reference.insert(at(to), item);
     }
-    ASSERT_EQ(items.size(), model.size());
+    ASSERT_EQ(items.size(), reference.size());
     if (step % 200 != 0) continue;
-    for (std::size_t i = 0; i < model.size(); ++i) {
-      ASSERT_EQ(items.at(i), model[i]);
-      ASSERT_EQ(items.position(model[i]), i);
-      ASSERT_EQ(items.next(model[i]), i + 1 < model.size() ? model[i + 1] : nullptr);
-      ASSERT_EQ(items.previous(model[i]), i > 0 ? model[i - 1] : nullptr);
+    for (std::size_t i = 0; i < reference.size(); ++i) {
+      ASSERT_EQ(items.at(i), reference[i]);
+      ASSERT_EQ(items.position(reference[i]), i);
+      ASSERT_EQ(items.next(reference[i]), i + 1 < reference.size() ? reference[i + 1] : nullptr);
+      ASSERT_EQ(items.previous(reference[i]), i > 0 ? reference[i - 1] : nullptr);
     }
     for (Char unit = 'a'; unit < 'a' + 20; ++unit) {
       const TextView name(&unit, 1);
       const Item* const found = items.findKey(name);
       const auto named = [&](const Item* item) { return item->name() == name; };
-      ASSERT_EQ(found != nullptr, std::any_of(model.begin(), model.end(), named));
+      ASSERT_EQ(found != nullptr, std::any_of(reference.begin(), reference.end(), named));
       ASSERT_EQ(found ? found->name() : name, name);
     }
   }

@@ -145,31 +145,31 @@ TEST(RankTree, AgreesWithAVectorThroughRandomChanges) {
     std::deque<Numbered> storage(600);
     std::vector<Numbered*> unused;
     for (Numbered& node : storage) unused.push_back(&node);
-    std::vector<Numbered*> model;
+    std::vector<Numbered*> reference;
     RankTree tree;
     for (int step = 0; step < 6000; ++step) {
       const bool growing = (step / 1000) % 2 == 0;
-      const bool insert = model.empty() || (!unused.empty() && below(10) < (growing ? 8u : 2u));
+      const bool insert = reference.empty() || (!unused.empty() && below(10) < (growing ? 8u : 2u));
       if (insert) {
         Numbered* const node = unused.back();
         unused.pop_back();
-        const std::size_t position = below(model.size() + 1);
-        model.insert(model.begin() + static_cast<std::ptrdiff_t>(position), node);
+        const std::size_t position = below(reference.size() + 1);
+        reference.insert(reference.begin() + static_cast<std::ptrdiff_t>(position), node);
         tree.insert(position, *node);
       } else {
-        const std::size_t position = below(model.size());
-        Numbered* const node = model[position];
-        model.erase(model.begin() + static_cast<std::ptrdiff_t>(position));
+        const std::size_t position = below(reference.size());
+        Numbered* const node = reference[position];
+        reference.erase(reference.begin() + static_cast<std::ptrdiff_t>(position));
         unused.push_back(node);
         tree.erase(*node);
       }
-      ASSERT_EQ(tree.size(), model.size());
+      ASSERT_EQ(tree.size(), reference.size());
       if (step % 97 == 0) {
-        expectOrder(tree, model);
+        expectOrder(tree, reference);
         measure(tree);
       }
     }
-    expectOrder(tree, model);
+    expectOrder(tree, reference);
     measure(tree);
   }
 }

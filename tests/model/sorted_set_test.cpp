@@ -147,17 +147,17 @@ TEST(SortedSet, AgreesWithTheStandardSetThroughRandomChanges) {
   std::mt19937 random(7);
   std::uniform_int_distribution<int> value(0, 299);
   SortedSet<int> set;
-  std::set<int> model;
+  std::set<int> reference;
   for (int step = 0; step < 20000; ++step) {
     const int candidate = value(random);
     if (random() % 2 == 0) {
-      EXPECT_EQ(set.insert(candidate), model.insert(candidate).second);
+      EXPECT_EQ(set.insert(candidate), reference.insert(candidate).second);
     } else {
-      EXPECT_EQ(set.erase(candidate), model.erase(candidate) == 1);
+      EXPECT_EQ(set.erase(candidate), reference.erase(candidate) == 1);
     }
-    ASSERT_EQ(set.size(), model.size());
+    ASSERT_EQ(set.size(), reference.size());
     if (step % 500 == 0) {
-      EXPECT_EQ(valuesOf(set), std::vector<int>(model.begin(), model.end()));
+      EXPECT_EQ(valuesOf(set), std::vector<int>(reference.begin(), reference.end()));
     }
   }
 }

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "support/host.h"
+#include "support/style_value.h"
 #include "support/text.h"
 
 namespace {
@@ -66,12 +67,15 @@ TEST(Scale, DirectoryOfManyFiles) {
 
 TEST(Scale, FileOfManyEffects) {
   const test::Host host;
-  const auto effect = [](int i) { return quoted(scattered(i / 2)) + R"(:{"parameter":{}})"; };
-  KoStyleStyle* style = readOne(host, R"("audioEffect":{)" + members(2 * many, effect) + "}");
+  const auto member = [](int i) { return quoted(scattered(i / 2)) + R"(:{"parameter":{}})"; };
+  KoStyleStyle* style = readOne(host, R"("audioEffect":{)" + members(2 * many, member) + "}");
   ASSERT_EQ(Style_numAudioEffect(style), std::size_t{many});
   int walked = 0;
   for (KoStyleEffect* e = Style_audioEffect(style, 0); e; e = AudioEffect_next(e)) ++walked;
   EXPECT_EQ(walked, many);
+  KoStyleEffect* effect = Style_audioEffect(style, many - 1);
+  for (; effect; effect = AudioEffect_prev(effect)) --walked;
+  EXPECT_EQ(walked, 0);
 }
 
 TEST(Scale, FileOfManyParameters) {
@@ -84,6 +88,9 @@ TEST(Scale, FileOfManyParameters) {
   int walked = 0;
   for (KoStyleParameter* p = Effect_parameter(effect, 0); p; p = Parameter_next(p)) ++walked;
   EXPECT_EQ(walked, many);
+  KoStyleParameter* last = Effect_parameter(effect, many - 1);
+  for (; last; last = Parameter_prev(last)) --walked;
+  EXPECT_EQ(walked, 0);
 }
 
 TEST(Scale, FileOfManyValuesInAList) {
@@ -139,6 +146,40 @@ TEST(Scale, ParametersRenamedAndAppendedInTurn) {
   EXPECT_EQ(Effect_numParameter(effect), std::size_t{many});
   while (Effect_numParameter(effect) > 0) {
     MutableParameter_destroy(MutableEffect_parameter(effect, 0));
+  }
+}
+
+TEST(Scale, ParametersAddedInAnyOrderAndRenamedAtOnce) {
+  const test::Host host;
+  KoStyleStyle* style = StyleManager_createMutableStyle(host.manager);
+  KoStyleEffect* effect = MutableStyle_insertAudioEffect(style, 0, KOSTYLE_TEXT("e"));
+  for (int i = 0; i < many; ++i)
+    ASSERT_NE(MutableEffect_addParameter(effect, text(scattered(i)).c_str()), nullptr);
+  for (int i = 0; i < many; ++i)
+    ASSERT_EQ(MutableEffect_addParameter(effect, text(scattered(i)).c_str()), nullptr);
+  KoStyleParameter* parameter = MutableEffect_parameter(effect, 0);
+  for (int i = 0; parameter; parameter = MutableParameter_next(parameter), ++i) {
+    ASSERT_TRUE(Effect_hasParameter(effect, parameter));
+    ASSERT_TRUE(MutableParameter_setName(parameter, text(std::to_string(4 * many - i)).c_str()));
+  }
+  ASSERT_NE(MutableEffect_addParameter(effect, KOSTYLE_TEXT("0")), nullptr);
+  ASSERT_EQ(Effect_numParameter(effect), std::size_t{many} + 1);
+  for (std::size_t i = 0; i < many; ++i) {
+    ASSERT_LT(utf8(Parameter_name(MutableEffect_parameter(effect, i))),
+              utf8(Parameter_name(MutableEffect_parameter(effect, i + 1))));
+  }
+}
+
+TEST(Scale, ValuesAddedAndDeletedInMutableLists) {
+  const test::Host host;
+  KoStyleStyle* style = StyleManager_createMutableStyle(host.manager);
+  for (const test::TextList& list : test::textLists()) {
+    const auto number = [](int i) { return text("0123456789" + std::to_string(many + i)); };
+    for (int i = 0; i < many; ++i) ASSERT_TRUE(list.add(style, number(i).c_str())) << list.name;
+    for (int i = 0; i < many; ++i) ASSERT_FALSE(list.add(style, number(i).c_str())) << list.name;
+    ASSERT_EQ(list.count(style), std::size_t{many});
+    for (std::size_t i = many; i-- > 0;) ASSERT_TRUE(list.remove(style, list.at(style, i / 2)));
+    EXPECT_EQ(list.count(style), 0u);
   }
 }
 

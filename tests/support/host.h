@@ -1,13 +1,13 @@
 // A host of the library: managers that end with their objects, in temporary folders.
 #pragma once
 
-#include <kostyle/kostyle.h>
-
 #include <atomic>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "support/document.h"
+#include "support/kostyle.h"
 #include "support/temporary_directory.h"
 #include "support/text.h"
 
@@ -59,11 +59,6 @@ class Manager {
   KoStyleManager* manager_ = nullptr;
   int error_ = -1;
 };
-
-/// The document of a style with one audio effect "E", whose parameter "p" is 1.
-inline std::string document(const std::string& id, const std::string& name) {
-  return R"({"id":")" + id + R"(","name":")" + name + R"(","audioEffect":{"E":{"parameter":{"p":1}}}})";
-}
 
 /// A manager with a system and a user folder of its own.
 struct Host {

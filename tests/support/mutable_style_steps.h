@@ -2,7 +2,6 @@
 #pragma once
 
 #include <gmock/gmock.h>
-#include <kostyle/kostyle.h>
 
 #include <algorithm>
 #include <optional>
@@ -10,12 +9,13 @@
 #include <string>
 #include <vector>
 
-#include "support/model_host.h"
+#include "support/kostyle.h"
 #include "support/random_style.h"
+#include "support/reference_host.h"
 
 namespace test {
 
-class MutableStyleSteps : public ModelHost {
+class MutableStyleSteps : public ReferenceHost {
  public:
   /// The steps so far, one on a line.
   std::string steps() const { return steps_.str(); }
@@ -52,17 +52,17 @@ class MutableStyleSteps : public ModelHost {
     return argument.empty() && random_.oneIn(2) ? nullptr : argument.c_str();
   }
 
-  MutableModel* anyMutable() {
+  MutableReference* anyMutable() {
     return mutables.empty() ? nullptr : &mutables[random_.below(mutables.size())];
   }
   /// A random effect of a random mutable style, and where it stands.
   struct EffectPlace {
-    std::vector<EffectModel>* chain;
+    std::vector<EffectReference>* chain;
     std::size_t index;
-    EffectModel& effect() const { return (*chain)[index]; }
+    EffectReference& effect() const { return (*chain)[index]; }
   };
   std::optional<EffectPlace> anyEffect() {
-    MutableModel* const style = anyMutable();
+    MutableReference* const style = anyMutable();
     if (!style) return std::nullopt;
     auto& chain = style->chains[random_.below(2)];
     if (chain.empty()) return std::nullopt;
@@ -77,12 +77,12 @@ class MutableStyleSteps : public ModelHost {
     mutables.push_back({StyleManager_createMutableStyle(manager()), {}, {}});
   }
 
-  void forget(const MutableModel& gone) {
+  void forget(const MutableReference& gone) {
     mutables.erase(mutables.begin() + (&gone - mutables.data()));
   }
 
   void destroyMutable() {
-    MutableModel* const style = anyMutable();
+    MutableReference* const style = anyMutable();
     if (!style || !random_.oneIn(4)) return;
     log("destroyMutable");
     KoStyleStyle* const handle = style->handle;
@@ -92,7 +92,7 @@ class MutableStyleSteps : public ModelHost {
   }
 
   void setName() {
-    MutableModel* const style = anyMutable();
+    MutableReference* const style = anyMutable();
     if (!style) return;
     const Text name = random_.oneIn(8) ? Text(100 + random_.below(2), KoStyleChar('n')) : word();
     log("setName ") << utf8(name);
@@ -116,7 +116,7 @@ class MutableStyleSteps : public ModelHost {
   }
 
   void editLanguage() {
-    MutableModel* const style = anyMutable();
+    MutableReference* const style = anyMutable();
     if (!style) return;
     const int language = static_cast<int>(random_.below(7)) - 1;
     const bool adding = random_.oneIn(2);
@@ -128,7 +128,7 @@ class MutableStyleSteps : public ModelHost {
   }
 
   void editTextList() {
-    MutableModel* const style = anyMutable();
+    MutableReference* const style = anyMutable();
     if (!style) return;
     const std::size_t list = random_.below(5);
     const bool exact = list == singerIDs;
@@ -145,7 +145,7 @@ class MutableStyleSteps : public ModelHost {
   // Effects and parameters.
 
   void insertEffect() {
-    MutableModel* const style = anyMutable();
+    MutableReference* const style = anyMutable();
     if (!style) return;
     const std::size_t kind = random_.below(2);
     auto& chain = style->chains[kind];
@@ -165,7 +165,7 @@ class MutableStyleSteps : public ModelHost {
     const std::size_t target = random_.below(place->chain->size() + 2);
     log("moveEffect ") << place->index << " to " << target;
     EXPECT_TRUE(MutableEffect_move(place->effect().handle, target));
-    const EffectModel moved = place->effect();
+    const EffectReference moved = place->effect();
     place->chain->erase(at(*place->chain, place->index));
     place->chain->insert(at(*place->chain, std::min(target, place->chain->size())), moved);
   }
@@ -190,14 +190,14 @@ class MutableStyleSteps : public ModelHost {
     if (parameter) place->effect().add(parameter, name);
   }
 
-  ParameterModel* anyParameter() {
+  ParameterReference* anyParameter() {
     const auto place = anyEffect();
     if (!place || place->effect().parameters.empty()) return nullptr;
     return &place->effect().parameters[random_.below(place->effect().parameters.size())];
   }
 
   void renameParameter() {
-    ParameterModel* const parameter = anyParameter();
+    ParameterReference* const parameter = anyParameter();
     if (!parameter) return;
     const Text name = word();
     log("renameParameter ") << utf8(parameter->value.name) << " to " << utf8(name);
@@ -206,7 +206,7 @@ class MutableStyleSteps : public ModelHost {
   }
 
   void setValue() {
-    ParameterModel* const parameter = anyParameter();
+    ParameterReference* const parameter = anyParameter();
     if (!parameter) return;
     parameter->value = randomParameter(random_, parameter->value.name);
     log("setValue of ") << utf8(parameter->value.name);

@@ -1,8 +1,6 @@
 // Random styles, of texts from every plane, and the way to build them through the exported functions.
 #pragma once
 
-#include <kostyle/kostyle.h>
-
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -10,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "support/kostyle.h"
 #include "support/random.h"
 #include "support/style_files.h"
 #include "support/style_value.h"

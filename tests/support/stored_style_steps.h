@@ -2,11 +2,11 @@
 #pragma once
 
 #include <gmock/gmock.h>
-#include <kostyle/kostyle.h>
 
 #include <string>
 #include <vector>
 
+#include "support/kostyle.h"
 #include "support/mutable_style_steps.h"
 
 namespace test {
@@ -15,7 +15,7 @@ class StoredStyleSteps : public MutableStyleSteps {
  protected:
   using MutableStyleSteps::MutableStyleSteps;
 
-  StoredModel* anyUser() {
+  StoredReference* anyUser() {
     auto& users = sets[KOSTYLE_KIND_USER].styles;
     return users.empty() ? nullptr : &users[random_.below(users.size())];
   }
@@ -23,7 +23,7 @@ class StoredStyleSteps : public MutableStyleSteps {
   // Saving and overwriting.
 
   void save() {
-    MutableModel* const style = anyMutable();
+    MutableReference* const style = anyMutable();
     if (!style) return;
     log("save");
     KoStyleStyle* const handle = style->handle;
@@ -42,40 +42,40 @@ class StoredStyleSteps : public MutableStyleSteps {
     const Text id = Style_id(saved);
     const std::string name = utf8(id) + ".kostyle";
     const StyleValue value = style->value();
-    users().files[name] = FileModel::of(id, value);
+    users().files[name] = FileReference::of(id, value);
     users().styles.push_back({saved, name, id, {}, asStored(value), std::nullopt});
     forgetConsumed(*style);
     noteFilesChanged();
   }
 
   void overwrite() {
-    MutableModel* const style = anyMutable();
+    MutableReference* const style = anyMutable();
     if (!style) return;
-    const StoredModel* const user = anyUser();
+    const StoredReference* const user = anyUser();
     const Text id = user && !random_.oneIn(6) ? user->id : pooledID();
     const bool null = random_.oneIn(20);
     log("overwrite ") << (null ? "null" : utf8(id));
     int error = -1;
     KoStyleStyle* const result =
         MutableStyle_overwrite(style->handle, null ? nullptr : id.c_str(), random_.oneIn(2), &error);
-    StoredModel* const target = users().find(id);
+    StoredReference* const target = users().find(id);
     const int expected = expectedOverwrite(*style, target, null);
     ASSERT_EQ(error, expected);
     ASSERT_EQ(result, expected == KOSTYLE_OK ? target->handle : nullptr);
     if (!result) return;
     const StyleValue value = style->value();
-    users().files[target->fileName] = FileModel::of(target->id, value);
+    users().files[target->fileName] = FileReference::of(target->id, value);
     target->value = asStored(value);
     forgetConsumed(*style);
     noteFilesChanged();
   }
 
-  void forgetConsumed(const MutableModel& style) {
+  void forgetConsumed(const MutableReference& style) {
     EXPECT_FALSE(StyleManager_hasMutableStyle(manager(), style.handle));
     forget(style);
   }
 
-  int expectedOverwrite(const MutableModel& style, const StoredModel* target, bool nullID) {
+  int expectedOverwrite(const MutableReference& style, const StoredReference* target, bool nullID) {
     if (nullID) return KOSTYLE_ERROR_ARGUMENT_MISSING;
     if (!target) return KOSTYLE_ERROR_USER_STYLE_NOT_FOUND;
     if (style.attributes.name.empty()) return KOSTYLE_ERROR_WRITE_EMPTY_NAME;
@@ -85,7 +85,7 @@ class StoredStyleSteps : public MutableStyleSteps {
   }
 
   void removeUser() {
-    StoredModel* const user = anyUser();
+    StoredReference* const user = anyUser();
     if (!user) return;
     log("removeUser ") << utf8(user->id);
     const bool hasFile = users().files.count(user->fileName) != 0;
@@ -101,16 +101,16 @@ class StoredStyleSteps : public MutableStyleSteps {
   // Property editors.
 
   void createEditor() {
-    StoredModel* const user = anyUser();
+    StoredReference* const user = anyUser();
     if (!user) return;
     log("createEditor of ") << utf8(user->id);
     KoStylePropertyEditor* const editor = UserStyle_createPropertyEditor(user->handle);
     ASSERT_NE(editor, nullptr);
-    user->editor = EditorModel{editor, {}, {}, {}};
+    user->editor = EditorReference{editor, {}, {}, {}};
   }
 
   void destroyEditor() {
-    StoredModel* const user = anyUser();
+    StoredReference* const user = anyUser();
     if (!user || !random_.oneIn(4)) return;
     log("destroyEditor of ") << utf8(user->id);
     UserStyle_destroyPropertyEditor(user->handle);
@@ -118,16 +118,16 @@ class StoredStyleSteps : public MutableStyleSteps {
   }
 
   /// A random user style that has an editor.
-  StoredModel* anyEdited() {
-    std::vector<StoredModel*> edited;
-    for (StoredModel& user : users().styles) {
+  StoredReference* anyEdited() {
+    std::vector<StoredReference*> edited;
+    for (StoredReference& user : users().styles) {
       if (user.editor) edited.push_back(&user);
     }
     return edited.empty() ? nullptr : random_.of(edited);
   }
 
   void setEditorName() {
-    StoredModel* const user = anyEdited();
+    StoredReference* const user = anyEdited();
     if (!user) return;
     const Text name = random_.oneIn(8) ? Text(100 + random_.below(2), KoStyleChar('e')) : word();
     log("setEditorName ") << utf8(name);
@@ -136,7 +136,7 @@ class StoredStyleSteps : public MutableStyleSteps {
   }
 
   void addToEditor() {
-    StoredModel* const user = anyEdited();
+    StoredReference* const user = anyEdited();
     if (!user) return;
     const Text value = word();
     const bool color = random_.oneIn(2);
@@ -148,17 +148,17 @@ class StoredStyleSteps : public MutableStyleSteps {
   }
 
   void saveEditor() {
-    StoredModel* const user = anyEdited();
+    StoredReference* const user = anyEdited();
     if (!user) return;
     log("saveEditor of ") << utf8(user->id);
-    const EditorModel& editor = *user->editor;
+    const EditorReference& editor = *user->editor;
     const bool saved = !editor.name.empty() && editor.name.size() <= KOSTYLE_MAX_NAME_LENGTH;
     ASSERT_EQ(PropertyEditor_save(editor.handle, random_.oneIn(2)), saved);
     if (!saved) return;
     user->value.name = editor.name;
     user->value.lists[subGenres].assign(editor.subGenres.begin(), editor.subGenres.end());
     user->value.lists[colors].assign(editor.colors.begin(), editor.colors.end());
-    users().files[user->fileName] = FileModel::of(user->id, user->value);
+    users().files[user->fileName] = FileReference::of(user->id, user->value);
     noteFilesChanged();
   }
 
@@ -189,7 +189,7 @@ class StoredStyleSteps : public MutableStyleSteps {
     log("putFile ") << kind << ' ' << name << ' ' << utf8(id);
     writeFile(folder(kind) / name, R"({"vendor":"V","id":")" + utf8(id) + R"(","name":")" + styleName +
                                        R"(","midiEffect":{"M":{"parameter":{"p":1}}}})");
-    FileModel file{KOSTYLE_OK, id, text("V"), {}};
+    FileReference file{KOSTYLE_OK, id, text("V"), {}};
     if (styleName.size() <= KOSTYLE_MAX_NAME_LENGTH) file.value.name = text(styleName);
     file.value.chains[1] = {{text("M"), {ParameterValue::ofInt(text("p"), 1)}}};
     sets[kind].files[name] = std::move(file);
@@ -218,7 +218,7 @@ class StoredStyleSteps : public MutableStyleSteps {
   }
 
  private:
-  SetModel& users() { return sets[KOSTYLE_KIND_USER]; }
+  SetReference& users() { return sets[KOSTYLE_KIND_USER]; }
 };
 
 }  // namespace test

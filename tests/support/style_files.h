@@ -1,12 +1,11 @@
 // What saving makes of a style in memory, and what reading makes of its file.
 #pragma once
 
-#include <kostyle/kostyle.h>
-
 #include <algorithm>
 #include <optional>
 #include <vector>
 
+#include "support/kostyle.h"
 #include "support/style_value.h"
 
 namespace test {

@@ -1,8 +1,6 @@
 // What a style says of itself through the exported functions, as plain values to compare and print.
 #pragma once
 
-#include <kostyle/kostyle.h>
-
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -11,11 +9,12 @@
 #include <tuple>
 #include <vector>
 
+#include "support/kostyle.h"
 #include "support/text.h"
 
 namespace test {
 
-inline std::uint32_t bitsOf(float value) {
+inline std::int64_t bitsOf(float value) {
   std::uint32_t bits;
   std::memcpy(&bits, &value, sizeof bits);
   return bits;
@@ -27,21 +26,25 @@ struct ParameterValue {
   int integer = 0;
   float real = 0;
   Text string;
+  /// Whether `real` must be met to the bit; else its neighbours serve too.
+  bool exact = true;
 
   static ParameterValue ofInt(Text name, int value) {
-    return {std::move(name), KOSTYLE_PARAMETER_INT, value, 0, {}};
+    return {std::move(name), KOSTYLE_PARAMETER_INT, value, 0, {}, true};
   }
-  static ParameterValue ofFloat(Text name, float value) {
-    return {std::move(name), KOSTYLE_PARAMETER_FLOAT, 0, value, {}};
+  static ParameterValue ofFloat(Text name, float value, bool exact = true) {
+    return {std::move(name), KOSTYLE_PARAMETER_FLOAT, 0, value, {}, exact};
   }
   static ParameterValue ofString(Text name, Text value) {
-    return {std::move(name), KOSTYLE_PARAMETER_STRING, 0, 0, std::move(value)};
+    return {std::move(name), KOSTYLE_PARAMETER_STRING, 0, 0, std::move(value), true};
   }
 
   friend bool operator==(const ParameterValue& a, const ParameterValue& b) {
+    const std::int64_t distance = bitsOf(a.real) - bitsOf(b.real);
+    const std::int64_t allowed = a.exact && b.exact ? 0 : 1;
     return std::tie(a.name, a.type, a.integer, a.string) ==
                std::tie(b.name, b.type, b.integer, b.string) &&
-           bitsOf(a.real) == bitsOf(b.real);
+           -allowed <= distance && distance <= allowed;
   }
 };
 
@@ -113,11 +116,25 @@ struct StyleValue {
     return std::tie(a.name, a.languages, a.lists, a.chains) ==
            std::tie(b.name, b.languages, b.lists, b.chains);
   }
+  friend bool operator!=(const StyleValue& a, const StyleValue& b) { return !(a == b); }
+};
+
+/// The value of a system or user style with what mutable styles do not have.
+struct StoredValue : StyleValue {
+  Text id;
+  Text vendor;
+
+  friend bool operator==(const StoredValue& a, const StoredValue& b) {
+    return static_cast<const StyleValue&>(a) == b &&
+           std::tie(a.id, a.vendor) == std::tie(b.id, b.vendor);
+  }
+  friend bool operator!=(const StoredValue& a, const StoredValue& b) { return !(a == b); }
 };
 
 inline ParameterValue valueOf(KoStyleParameter* parameter) {
-  return {Parameter_name(parameter), Parameter_type(parameter), Parameter_valueInt(parameter),
-          Parameter_valueFloat(parameter), Parameter_valueString(parameter)};
+  return {Parameter_name(parameter),        Parameter_type(parameter),
+          Parameter_valueInt(parameter),    Parameter_valueFloat(parameter),
+          Parameter_valueString(parameter), true};
 }
 
 inline EffectValue valueOf(KoStyleEffect* effect) {
@@ -149,11 +166,24 @@ inline StyleValue valueOf(KoStyleStyle* style) {
   return value;
 }
 
+inline StoredValue storedValueOf(KoStyleStyle* style) {
+  return {valueOf(style), Style_id(style), Style_vendor(style)};
+}
+
 inline void PrintTo(const ParameterValue& value, std::ostream* out) {
   *out << utf8(value.name) << '=';
   if (value.type == KOSTYLE_PARAMETER_INT) *out << value.integer;
-  if (value.type == KOSTYLE_PARAMETER_FLOAT) *out << value.real << 'f';
+  if (value.type == KOSTYLE_PARAMETER_FLOAT) *out << value.real << 'f' << bitsOf(value.real);
   if (value.type == KOSTYLE_PARAMETER_STRING) *out << '"' << utf8(value.string) << '"';
+}
+
+inline void PrintTo(const EffectValue& effect, std::ostream* out) {
+  *out << utf8(effect.id) << '(';
+  for (const ParameterValue& parameter : effect.parameters) {
+    PrintTo(parameter, out);
+    *out << ' ';
+  }
+  *out << ')';
 }
 
 inline void PrintTo(const StyleValue& value, std::ostream* out) {
@@ -166,15 +196,16 @@ inline void PrintTo(const StyleValue& value, std::ostream* out) {
   for (std::size_t kind = 0; kind < value.chains.size(); ++kind) {
     *out << (kind == 0 ? "; audio" : "; midi");
     for (const EffectValue& effect : value.chains[kind]) {
-      *out << ' ' << utf8(effect.id) << '(';
-      for (const ParameterValue& parameter : effect.parameters) {
-        PrintTo(parameter, out);
-        *out << ' ';
-      }
-      *out << ')';
+      *out << ' ';
+      PrintTo(effect, out);
     }
   }
   *out << '}';
+}
+
+inline void PrintTo(const StoredValue& value, std::ostream* out) {
+  *out << "id " << utf8(value.id) << "; vendor " << utf8(value.vendor) << ' ';
+  PrintTo(static_cast<const StyleValue&>(value), out);
 }
 
 }  // namespace test

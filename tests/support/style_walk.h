@@ -2,10 +2,10 @@
 #pragma once
 
 #include <gmock/gmock.h>
-#include <kostyle/kostyle.h>
 
 #include <cstddef>
 
+#include "support/kostyle.h"
 #include "support/style_value.h"
 
 namespace test {

@@ -4,20 +4,20 @@
 #include <algorithm>
 #include <set>
 
-#include "format/model_json.h"
-#include "format/style_snapshot.h"
+#include "format/reference_json.h"
+#include "support/style_value.h"
 
-namespace test::model {
+namespace test::reference {
 
-/// What should become of a file. After error 17 nothing more is said of it.
+/// What should become of a file, as a host sees it. After a syntax error nothing more is said of it.
 struct Expectation {
-  std::uint32_t error = 0;
+  int error = KOSTYLE_OK;
   std::string jsonPath;
-  StyleSnapshot style;
+  StoredValue style;
 };
 
-inline std::vector<ParameterSnapshot> parametersOf(const Value& source) {
-  std::vector<ParameterSnapshot> parameters;
+inline std::vector<ParameterValue> parametersOf(const Value& source) {
+  std::vector<ParameterValue> parameters;
   for (std::size_t i = 0; i < source.keys.size(); ++i) {
     const Text name = source.keys[i] == text("Tarn") ? text("Tarn630") : source.keys[i];
     const Value& value = source.elements[i];
@@ -25,20 +25,19 @@ inline std::vector<ParameterSnapshot> parametersOf(const Value& source) {
                                    [&](const auto& parameter) { return parameter.name == name; });
     if (name.empty() || known) continue;
     if (value.kind == Value::integer)
-      parameters.push_back(ParameterSnapshot::ofInt(name, value.integerValue));
+      parameters.push_back(ParameterValue::ofInt(name, value.integerValue));
     if (value.kind == Value::real)
       parameters.push_back(
-          ParameterSnapshot::ofFloat(name, static_cast<float>(value.realValue), value.exact));
-    if (value.kind == Value::string)
-      parameters.push_back(ParameterSnapshot::ofString(name, value.text));
+          ParameterValue::ofFloat(name, static_cast<float>(value.realValue), value.exact));
+    if (value.kind == Value::string) parameters.push_back(ParameterValue::ofString(name, value.text));
   }
   std::sort(parameters.begin(), parameters.end(),
             [](const auto& a, const auto& b) { return a.name < b.name; });
   return parameters;
 }
 
-inline std::vector<EffectSnapshot> chainOf(const Value* source) {
-  std::vector<EffectSnapshot> chain;
+inline std::vector<EffectValue> chainOf(const Value* source) {
+  std::vector<EffectValue> chain;
   if (!source || source->kind != Value::object) return chain;
   for (std::size_t i = 0; i < source->keys.size(); ++i) {
     const Text& id = source->keys[i];
@@ -55,7 +54,8 @@ inline std::vector<Text> textsOf(const Value* filter, std::string_view key) {
   std::set<Text> texts;
   if (array && array->kind == Value::array) {
     for (const Value& element : array->elements) {
-      const bool fits = key == "singerIDs" ? element.text.size() == 16 : !element.text.empty();
+      const bool fits =
+          key == "singerIDs" ? element.text.size() == KOSTYLE_SINGER_ID_LENGTH : !element.text.empty();
       if (element.kind == Value::string && fits) texts.insert(element.text);
     }
   }
@@ -67,39 +67,50 @@ inline std::vector<int> languagesOf(const Value* filter) {
   std::set<int> languages;
   if (array && array->kind == Value::array) {
     for (const Value& element : array->elements) {
-      const bool fits = element.integerValue >= 0 && element.integerValue <= 4;
+      const bool fits =
+          element.integerValue >= KOSTYLE_MIN_LANGUAGE && element.integerValue <= KOSTYLE_MAX_LANGUAGE;
       if (element.kind == Value::integer && fits) languages.insert(element.integerValue);
     }
   }
   return {languages.begin(), languages.end()};
 }
 
+/// A style whose texts end at their first U+0000, as they do for a host.
+inline StoredValue asSeen(StoredValue style) {
+  const auto cut = [](Text& text) { text.resize(std::min(text.size(), text.find(KoStyleChar{0}))); };
+  for (Text* text : {&style.id, &style.name, &style.vendor}) cut(*text);
+  for (auto& list : style.lists) std::for_each(list.begin(), list.end(), cut);
+  for (auto& chain : style.chains) {
+    for (EffectValue& effect : chain) {
+      cut(effect.id);
+      for (ParameterValue& parameter : effect.parameters) cut(parameter.name), cut(parameter.string);
+    }
+  }
+  return style;
+}
+
 inline Expectation expectationOf(std::string_view bytes) {
   const std::optional<Value> root = Parser(charactersOf(bytes)).parse();
-  if (!root) return {17, "", {}};
-  if (root->kind != Value::object) return {20, "/", {}};
-  StyleSnapshot style;
+  if (!root) return {KOSTYLE_ERROR_JSON_SYNTAX, "", {}};
+  if (root->kind != Value::object) return {KOSTYLE_ERROR_WRONG_TYPE, "/", {}};
+  StoredValue style;
   for (const auto& [key, text] : {std::pair("id", &style.id), std::pair("name", &style.name)}) {
     const Value* const member = root->member(key);
     const std::string path = std::string("/") + key;
-    if (!member) return {19, path, {}};
-    if (member->kind != Value::string) return {20, path, {}};
-    if (member->text.empty()) return {21, path, {}};
+    if (!member) return {KOSTYLE_ERROR_MEMBER_MISSING, path, {}};
+    if (member->kind != Value::string) return {KOSTYLE_ERROR_WRONG_TYPE, path, {}};
+    if (member->text.empty()) return {KOSTYLE_ERROR_EMPTY_STRING, path, {}};
     *text = member->text;
   }
-  if (style.name.size() > 100) style.name.clear();
-  style.audio = chainOf(root->member("audioEffect"));
-  style.midi = chainOf(root->member("midiEffect"));
-  if (style.audio.empty() && style.midi.empty()) return {23, "/", {}};
-  if (const Value* vendor = root->member("vendor")) style.vendor = vendor->text.c_str();
+  if (style.name.size() > KOSTYLE_MAX_NAME_LENGTH) style.name.clear();
+  style.chains = {chainOf(root->member("audioEffect")), chainOf(root->member("midiEffect"))};
+  if (style.chains[0].empty() && style.chains[1].empty()) return {KOSTYLE_ERROR_NO_EFFECT, "/", {}};
+  if (const Value* vendor = root->member("vendor")) style.vendor = vendor->text;
   const Value* const filter = root->member("filter");
   style.languages = languagesOf(filter);
-  style.singerGroups = textsOf(filter, "singerGroups");
-  style.singerIDs = textsOf(filter, "singerIDs");
-  style.genres = textsOf(filter, "genres");
-  style.subGenres = textsOf(filter, "subGenres");
-  style.colors = textsOf(filter, "colors");
-  return {0, "", style};
+  for (std::size_t list = 0; list < style.lists.size(); ++list)
+    style.lists[list] = textsOf(filter, textLists()[list].name);
+  return {KOSTYLE_OK, "", asSeen(std::move(style))};
 }
 
-}  // namespace test::model
+}  // namespace test::reference

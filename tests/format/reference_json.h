@@ -16,7 +16,7 @@
 
 #include "format/encodings.h"
 
-namespace test::model {
+namespace test::reference {
 
 struct Value {
   enum Kind { null, boolean, integer, longInteger, real, string, array, object };
@@ -334,4 +334,4 @@ inline bool Parser::number(Value& value) {
   return true;
 }
 
-}  // namespace test::model
+}  // namespace test::reference

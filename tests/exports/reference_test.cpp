@@ -1,4 +1,5 @@
-// Random sequences of everything that a host can do, against a model that is compared after each step.
+// Random sequences of everything that a host can do, against a reference that is compared after each
+// step.
 #include <gmock/gmock.h>
 
 #include <cstdint>
@@ -63,11 +64,11 @@ class Sequence : public test::StoredStyleSteps {
   }
 };
 
-class Model : public testing::TestWithParam<std::uint64_t> {};
+class Reference : public testing::TestWithParam<std::uint64_t> {};
 
-INSTANTIATE_TEST_SUITE_P(Batch, Model, testing::Range<std::uint64_t>(0, batchCount));
+INSTANTIATE_TEST_SUITE_P(Batch, Reference, testing::Range<std::uint64_t>(0, batchCount));
 
-TEST_P(Model, AgreesAfterEachStepOfManySequences) {
+TEST_P(Reference, AgreesAfterEachStepOfManySequences) {
   for (std::uint64_t seed = GetParam(); seed < sequenceCount; seed += batchCount) {
     Sequence sequence(seed);
     sequence.run();

@@ -1,8 +1,6 @@
-// A simple model of a manager: what a host knows of its mutable styles, its stored styles and their
+// A simple reference of a manager: what a host knows of its mutable styles, its stored styles and their
 // files. It holds the handles that the library gave, but calls nothing.
 #pragma once
-
-#include <kostyle/kostyle.h>
 
 #include <algorithm>
 #include <array>
@@ -12,46 +10,48 @@
 #include <string>
 #include <vector>
 
+#include "support/kostyle.h"
 #include "support/style_files.h"
 #include "support/style_value.h"
 
 namespace test {
 
-struct ParameterModel {
+struct ParameterReference {
   KoStyleParameter* handle;
   ParameterValue value;
 };
 
-struct EffectModel {
+struct EffectReference {
   KoStyleEffect* handle;
   Text id;
-  std::vector<ParameterModel> parameters;
+  std::vector<ParameterReference> parameters;
 
   bool hasName(const Text& name) const {
     return std::any_of(parameters.begin(), parameters.end(),
-                       [&](const ParameterModel& each) { return each.value.name == name; });
+                       [&](const ParameterReference& each) { return each.value.name == name; });
   }
   void add(KoStyleParameter* handle_, const Text& name) {
     parameters.push_back({handle_, ParameterValue::ofInt(name, 0)});
-    std::stable_sort(
-        parameters.begin(), parameters.end(),
-        [](const ParameterModel& a, const ParameterModel& b) { return a.value.name < b.value.name; });
+    std::stable_sort(parameters.begin(), parameters.end(),
+                     [](const ParameterReference& a, const ParameterReference& b) {
+                       return a.value.name < b.value.name;
+                     });
   }
 };
 
-struct MutableModel {
+struct MutableReference {
   KoStyleStyle* handle;
   StyleValue attributes;  // without chains
-  std::array<std::vector<EffectModel>, 2> chains;
+  std::array<std::vector<EffectReference>, 2> chains;
 
   bool hasEffect() const { return !chains[0].empty() || !chains[1].empty(); }
 
   StyleValue value() const {
     StyleValue result = attributes;
     for (std::size_t kind = 0; kind < chains.size(); ++kind) {
-      for (const EffectModel& effect : chains[kind]) {
+      for (const EffectReference& effect : chains[kind]) {
         result.chains[kind].push_back({effect.id, {}});
-        for (const ParameterModel& each : effect.parameters)
+        for (const ParameterReference& each : effect.parameters)
           result.chains[kind].back().parameters.push_back(each.value);
       }
     }
@@ -59,61 +59,61 @@ struct MutableModel {
   }
 };
 
-struct EditorModel {
+struct EditorReference {
   KoStylePropertyEditor* handle;
   Text name;
   std::set<Text> subGenres;
   std::set<Text> colors;
 };
 
-struct StoredModel {
+struct StoredReference {
   KoStyleStyle* handle;
   std::string fileName;
   Text id;
   Text vendor;
   StyleValue value;
-  std::optional<EditorModel> editor;
+  std::optional<EditorReference> editor;
 };
 
 /// What reading a file gives.
-struct FileModel {
+struct FileReference {
   int code;  // KOSTYLE_OK, KOSTYLE_ERROR_NO_EFFECT or KOSTYLE_ERROR_JSON_SYNTAX
   Text id;
   Text vendor;
   StyleValue value;
 
   /// The file that is written for a style.
-  static FileModel of(const Text& id, const StyleValue& written) {
+  static FileReference of(const Text& id, const StyleValue& written) {
     std::optional<StyleValue> reread = asReread(written);
     if (!reread) return {KOSTYLE_ERROR_NO_EFFECT, {}, {}, {}};
     return {KOSTYLE_OK, id, {}, *std::move(reread)};
   }
 };
 
-struct RecordModel {
+struct RecordReference {
   std::string fileName;
   Text id;
   int code;
 };
 
 /// The stored styles of one kind, the records of reading them, and the files of their directory.
-struct SetModel {
-  std::vector<StoredModel> styles;
-  std::vector<RecordModel> records;
-  std::map<std::string, FileModel> files;
+struct SetReference {
+  std::vector<StoredReference> styles;
+  std::vector<RecordReference> records;
+  std::map<std::string, FileReference> files;
 
-  StoredModel* find(const Text& id) {
+  StoredReference* find(const Text& id) {
     const auto found = std::find_if(styles.begin(), styles.end(),
-                                    [&](const StoredModel& style) { return style.id == id; });
+                                    [&](const StoredReference& style) { return style.id == id; });
     return found == styles.end() ? nullptr : &*found;
   }
 
   /// Reads the files in an order, beside the styles of the other set.
-  void read(const std::vector<std::string>& order, SetModel& other) {
+  void read(const std::vector<std::string>& order, SetReference& other) {
     styles.clear();
     records.clear();
     for (const std::string& name : order) {
-      const FileModel& file = files.at(name);
+      const FileReference& file = files.at(name);
       const bool taken = file.code == KOSTYLE_OK && (find(file.id) || other.find(file.id));
       records.push_back({name, file.id, taken ? KOSTYLE_ERROR_DUPLICATE_ID : file.code});
       if (file.code == KOSTYLE_OK && !taken)

@@ -1,16 +1,16 @@
-// A host that drives a manager and a model of it side by side, and compares them.
+// A host that drives a manager and a reference of it side by side, and compares them.
 #pragma once
 
 #include <gmock/gmock.h>
-#include <kostyle/kostyle.h>
 
 #include <algorithm>
 #include <string>
 #include <vector>
 
 #include "support/host.h"
+#include "support/kostyle.h"
 #include "support/random.h"
-#include "support/style_model.h"
+#include "support/style_reference.h"
 #include "support/style_walk.h"
 
 namespace test {
@@ -36,15 +36,15 @@ inline const std::array<StoredSet, 2>& storedSets() {
   return sets;
 }
 
-class ModelHost {
+class ReferenceHost {
  public:
-  /// Expects the manager to be what the model says.
+  /// Expects the manager to be what the reference says.
   void expectAgreement() {
-    for (const MutableModel& model : mutables) {
-      ASSERT_TRUE(StyleManager_hasMutableStyle(manager(), model.handle));
-      ASSERT_EQ(valueOf(model.handle), model.value());
-      expectHandles(model);
-      expectStyleWalks(model.handle);
+    for (const MutableReference& reference : mutables) {
+      ASSERT_TRUE(StyleManager_hasMutableStyle(manager(), reference.handle));
+      ASSERT_EQ(valueOf(reference.handle), reference.value());
+      expectHandles(reference);
+      expectStyleWalks(reference.handle);
     }
     for (std::size_t kind : {KOSTYLE_KIND_SYSTEM, KOSTYLE_KIND_USER}) expectSetAgreement(kind);
     expectManagerWalks(manager());
@@ -52,9 +52,9 @@ class ModelHost {
     filesChanged_ = false;
   }
 
-  /// Expects a second manager to read from the files what the model says of them.
+  /// Expects a second manager to read from the files what the reference says of them.
   void expectFilesToBeReadAgain() {
-    ModelHost second(host_.system, host_.user);
+    ReferenceHost second(host_.system, host_.user);
     second.sets[0].files = sets[0].files;
     second.sets[1].files = sets[1].files;
     second.read(KOSTYLE_KIND_USER);
@@ -62,7 +62,7 @@ class ModelHost {
     second.expectAgreement();
   }
 
-  ModelHost() : manager_(host_.system, host_.user) {}
+  ReferenceHost() : manager_(host_.system, host_.user) {}
 
  protected:
   KoStyleManager* manager() const { return manager_; }
@@ -94,18 +94,18 @@ class ModelHost {
 
   void noteFilesChanged() { filesChanged_ = true; }
 
-  std::vector<MutableModel> mutables;
-  std::array<SetModel, 2> sets;
+  std::vector<MutableReference> mutables;
+  std::array<SetReference, 2> sets;
 
  private:
-  ModelHost(const fs::path& system, const fs::path& user)
+  ReferenceHost(const fs::path& system, const fs::path& user)
       : systemFolder_(system), userFolder_(user), manager_(system, user) {}
 
-  static void expectHandles(const MutableModel& model) {
+  static void expectHandles(const MutableReference& reference) {
     for (const Chain& chain : chains()) {
-      const auto& effects = model.chains[chain.type == KOSTYLE_EFFECT_AUDIO ? 0 : 1];
+      const auto& effects = reference.chains[chain.type == KOSTYLE_EFFECT_AUDIO ? 0 : 1];
       for (std::size_t i = 0; i < effects.size(); ++i) {
-        ASSERT_EQ(chain.mutableAt(model.handle, i), effects[i].handle);
+        ASSERT_EQ(chain.mutableAt(reference.handle, i), effects[i].handle);
         for (std::size_t j = 0; j < effects[i].parameters.size(); ++j)
           ASSERT_EQ(MutableEffect_parameter(effects[i].handle, j), effects[i].parameters[j].handle);
       }
@@ -113,11 +113,11 @@ class ModelHost {
   }
 
   void expectSetAgreement(std::size_t kind) {
-    const SetModel& model = sets[kind];
+    const SetReference& reference = sets[kind];
     const StoredSet& set = storedSets()[kind];
-    ASSERT_EQ(set.count(manager()), model.styles.size());
-    for (std::size_t i = 0; i < model.styles.size(); ++i) {
-      const StoredModel& style = model.styles[i];
+    ASSERT_EQ(set.count(manager()), reference.styles.size());
+    for (std::size_t i = 0; i < reference.styles.size(); ++i) {
+      const StoredReference& style = reference.styles[i];
       ASSERT_EQ(set.at(manager(), i), style.handle);
       ASSERT_EQ(Style_id(style.handle), style.id);
       ASSERT_EQ(Style_vendor(style.handle), style.vendor);
@@ -125,12 +125,12 @@ class ModelHost {
       ASSERT_EQ(valueOf(style.handle), style.value);
       expectStyleWalks(style.handle);
     }
-    ASSERT_EQ(set.recordCount(manager()), model.records.size());
-    for (std::size_t i = 0; i < model.records.size(); ++i) {
+    ASSERT_EQ(set.recordCount(manager()), reference.records.size());
+    for (std::size_t i = 0; i < reference.records.size(); ++i) {
       KoStyleCreationResult* const record = set.recordAt(manager(), i);
-      ASSERT_EQ(StyleCreationResult_error(record), model.records[i].code);
-      ASSERT_EQ(StyleCreationResult_id(record), model.records[i].id);
-      ASSERT_EQ(fileName(StyleCreationResult_filePath(record)), model.records[i].fileName);
+      ASSERT_EQ(StyleCreationResult_error(record), reference.records[i].code);
+      ASSERT_EQ(StyleCreationResult_id(record), reference.records[i].id);
+      ASSERT_EQ(fileName(StyleCreationResult_filePath(record)), reference.records[i].fileName);
     }
   }
 
