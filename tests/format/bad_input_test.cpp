@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "format/encodings.h"
+#include "support/encodings.h"
 #include "support/file_reader.h"
 #include "support/random.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "format/encodings.h"
+#include "support/encodings.h"
 #include "support/random.h"
 
 namespace test {

@@ -1,5 +1,5 @@
 // The five encodings of a style file, with and without a byte-order mark.
-#include "format/encodings.h"
+#include "support/encodings.h"
 
 #include <gmock/gmock.h>
 

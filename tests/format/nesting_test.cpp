@@ -1,8 +1,8 @@
 // Documents that nest deeply: 512 levels are read, more end the parse.
 #include <gmock/gmock.h>
 
-#include "format/encodings.h"
 #include "format/small_stack.h"
+#include "support/encodings.h"
 #include "support/file_reader.h"
 
 namespace {

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-#include "format/encodings.h"
+#include "support/encodings.h"
 
 namespace test::reference {
 

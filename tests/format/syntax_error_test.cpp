@@ -1,7 +1,7 @@
 // Files that are not one JSON text: the parser's code and the offset in bytes.
 #include <gmock/gmock.h>
 
-#include "format/encodings.h"
+#include "support/encodings.h"
 #include "support/file_reader.h"
 
 namespace {

@@ -3,123 +3,136 @@
 
 #include <functional>
 
-#include "format/style_snapshot.h"
-#include "manager/style_manager.h"
 #include "memory/failing_allocations.h"
-#include "model/mutable_effect.h"
-#include "model/mutable_parameter.h"
+#include "support/host.h"
+#include "support/style_value.h"
 
 namespace {
 
-using namespace Tesk::KoStyle;
-
-constexpr const Char* longText = KOSTYLE_TEXT("a text that is long enough to be allocated");
+constexpr const KoStyleChar* longText = KOSTYLE_TEXT("a text that is long enough to be allocated");
 
 struct Edit {
   const char* name;
-  std::function<bool(IMutableStyle&)> apply;
+  std::function<bool(KoStyleStyle*)> apply;
 };
 
 void PrintTo(const Edit& edit, std::ostream* out) { *out << edit.name; }
 
-IMutableParameter* parameterOf(IMutableStyle& style, std::size_t index) {
-  return style.audioEffect(0)->parameter(index);
+KoStyleParameter* parameterOf(KoStyleStyle* style, std::size_t index) {
+  return MutableEffect_parameter(MutableStyle_audioEffect(style, 0), index);
 }
 
 class EditingWithoutMemory : public testing::TestWithParam<Edit> {
  protected:
   // A style with something of everything, and parameters that are renamed but not sorted yet.
-  static std::unique_ptr<MutableStyle> makeStyle() {
-    auto style = std::make_unique<MutableStyle>(nullptr);
-    style->setName(KOSTYLE_TEXT("a name that is long enough to be allocated"));
-    style->addLanguage(1);
-    for (const Char* each : {KOSTYLE_TEXT("m"), KOSTYLE_TEXT("z")}) {
-      style->addSingerGroup(each);
-      style->addGenre(each);
-      style->addSubGenre(each);
-      style->addColor(each);
+  KoStyleStyle* makeStyle() const {
+    KoStyleStyle* const style = StyleManager_createMutableStyle(host.manager);
+    MutableStyle_setName(style, KOSTYLE_TEXT("a name that is long enough to be allocated"));
+    MutableStyle_addLanguage(style, 1);
+    for (const KoStyleChar* each : {KOSTYLE_TEXT("m"), KOSTYLE_TEXT("z")}) {
+      MutableStyle_addSingerGroup(style, each);
+      MutableStyle_addGenre(style, each);
+      MutableStyle_addSubGenre(style, each);
+      MutableStyle_addColor(style, each);
     }
-    style->insertAudioEffect(0, KOSTYLE_TEXT("E"));
-    style->insertMidiEffect(0, KOSTYLE_TEXT("M"));
-    for (const Char* each :
+    KoStyleEffect* const effect = MutableStyle_insertAudioEffect(style, 0, KOSTYLE_TEXT("E"));
+    MutableStyle_insertMidiEffect(style, 0, KOSTYLE_TEXT("M"));
+    for (const KoStyleChar* each :
          {KOSTYLE_TEXT("a"), KOSTYLE_TEXT("b"), KOSTYLE_TEXT("c"), KOSTYLE_TEXT("d")})
-      style->audioEffect(0)->addParameter(each);
-    parameterOf(*style, 0)->setValueString(KOSTYLE_TEXT("a value that is long enough to be allocated"));
-    parameterOf(*style, 1)->setName(KOSTYLE_TEXT("y"));
-    parameterOf(*style, 2)->setName(KOSTYLE_TEXT("x"));
+      MutableEffect_addParameter(effect, each);
+    MutableParameter_setValueString(parameterOf(style, 0),
+                                    KOSTYLE_TEXT("a value that is long enough to be allocated"));
+    MutableParameter_setName(parameterOf(style, 1), KOSTYLE_TEXT("y"));
+    MutableParameter_setName(parameterOf(style, 2), KOSTYLE_TEXT("x"));
     return style;
   }
+
+  const test::Host host;
 };
 
 TEST_P(EditingWithoutMemory, LeavesTheStyleAsItWas) {
-  const auto expected = makeStyle();
-  const test::StyleSnapshot before = test::snapshot(*expected);
-  EXPECT_TRUE(GetParam().apply(*expected));
-  const test::StyleSnapshot after = test::snapshot(*expected);
+  KoStyleStyle* const expected = makeStyle();
+  const test::StyleValue before = test::valueOf(expected);
+  EXPECT_TRUE(GetParam().apply(expected));
+  const test::StyleValue after = test::valueOf(expected);
   ASSERT_NE(after, before);
 
-  const auto style = makeStyle();
+  KoStyleStyle* const style = makeStyle();
   bool applied = false;
-  const long failures = test::failEachAllocation([&] { applied = GetParam().apply(*style); },
+  const long failures = test::failEachAllocation([&] { applied = GetParam().apply(style); },
                                                  [&](long n, bool thrown) {
                                                    EXPECT_TRUE(thrown) << n;
-                                                   EXPECT_EQ(test::snapshot(*style), before) << n;
+                                                   EXPECT_EQ(test::valueOf(style), before) << n;
                                                  });
   EXPECT_GT(failures, 0);
   EXPECT_TRUE(applied);
-  EXPECT_EQ(test::snapshot(*style), after);
+  EXPECT_EQ(test::valueOf(style), after);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Each, EditingWithoutMemory,
     testing::Values(
-        Edit{"setName", [](IMutableStyle& style) { return style.setName(longText); }},
-        Edit{"addLanguage", [](IMutableStyle& style) { return style.addLanguage(0); }},
-        Edit{"addSingerGroup", [](IMutableStyle& style) { return style.addSingerGroup(longText); }},
+        Edit{"setName", [](KoStyleStyle* style) { return MutableStyle_setName(style, longText); }},
+        Edit{"addLanguage", [](KoStyleStyle* style) { return MutableStyle_addLanguage(style, 0); }},
+        Edit{"addSingerGroup",
+             [](KoStyleStyle* style) { return MutableStyle_addSingerGroup(style, longText); }},
         Edit{"addSingerID",
-             [](IMutableStyle& style) { return style.addSingerID(KOSTYLE_TEXT("1234567890123456")); }},
-        Edit{"addGenre", [](IMutableStyle& style) { return style.addGenre(longText); }},
-        Edit{"addSubGenre", [](IMutableStyle& style) { return style.addSubGenre(longText); }},
-        Edit{"addColor", [](IMutableStyle& style) { return style.addColor(longText); }},
+             [](KoStyleStyle* style) {
+               return MutableStyle_addSingerID(style, KOSTYLE_TEXT("1234567890123456"));
+             }},
+        Edit{"addGenre", [](KoStyleStyle* style) { return MutableStyle_addGenre(style, longText); }},
+        Edit{"addSubGenre",
+             [](KoStyleStyle* style) { return MutableStyle_addSubGenre(style, longText); }},
+        Edit{"addColor", [](KoStyleStyle* style) { return MutableStyle_addColor(style, longText); }},
         Edit{"insertAudioEffect",
-             [](IMutableStyle& style) { return style.insertAudioEffect(0, longText) != nullptr; }},
+             [](KoStyleStyle* style) {
+               return MutableStyle_insertAudioEffect(style, 0, longText) != nullptr;
+             }},
         Edit{"insertMidiEffect",
-             [](IMutableStyle& style) { return style.insertMidiEffect(9, longText) != nullptr; }},
+             [](KoStyleStyle* style) {
+               return MutableStyle_insertMidiEffect(style, 9, longText) != nullptr;
+             }},
         Edit{"addFirstParameter",
-             [](IMutableStyle& style) {
-               return style.midiEffect(0)->addParameter(longText) != nullptr;
+             [](KoStyleStyle* style) {
+               return MutableEffect_addParameter(MutableStyle_midiEffect(style, 0), longText) !=
+                      nullptr;
              }},
         Edit{"setParameterName",
-             [](IMutableStyle& style) { return parameterOf(style, 3)->setName(longText); }},
+             [](KoStyleStyle* style) {
+               return MutableParameter_setName(parameterOf(style, 3), longText);
+             }},
         Edit{"setParameterNameAgain",
-             [](IMutableStyle& style) { return parameterOf(style, 1)->setName(longText); }},
-        Edit{
-            "setValueString",
-            [](IMutableStyle& style) { return parameterOf(style, 0)->setValueString(longText), true; }},
+             [](KoStyleStyle* style) {
+               return MutableParameter_setName(parameterOf(style, 1), longText);
+             }},
+        Edit{"setValueString",
+             [](KoStyleStyle* style) {
+               return MutableParameter_setValueString(parameterOf(style, 0), longText), true;
+             }},
         Edit{"setValueStringOfAnInt",
-             [](IMutableStyle& style) {
-               return parameterOf(style, 3)->setValueString(longText), true;
+             [](KoStyleStyle* style) {
+               return MutableParameter_setValueString(parameterOf(style, 3), longText), true;
              }}),
     [](const auto& edit) { return std::string(edit.param.name); });
 
 // Sorting may do with less memory, so that adding can succeed although an allocation failed.
 TEST_F(EditingWithoutMemory, AddingAParameterSortsAllOrNothing) {
-  const auto apply = [](IMutableStyle& style) {
-    return style.audioEffect(0)->addParameter(longText) != nullptr;
+  const auto apply = [](KoStyleStyle* style) {
+    return MutableEffect_addParameter(MutableStyle_audioEffect(style, 0), longText) != nullptr;
   };
-  const auto expected = makeStyle();
-  const test::StyleSnapshot before = test::snapshot(*expected);
-  apply(*expected);
-  const test::StyleSnapshot after = test::snapshot(*expected);
+  KoStyleStyle* const expected = makeStyle();
+  const test::StyleValue before = test::valueOf(expected);
+  apply(expected);
+  const test::StyleValue after = test::valueOf(expected);
   long thrown = 0;
   for (long n = 0;; ++n) {
-    const auto style = makeStyle();
+    KoStyleStyle* const style = makeStyle();
     bool failed = false;
-    if (test::runsOutOfMemory(n, failed, [&] { apply(*style); })) {
+    if (test::runsOutOfMemory(n, failed, [&] { apply(style); })) {
       ++thrown;
-      EXPECT_EQ(test::snapshot(*style), before) << n;
+      EXPECT_EQ(test::valueOf(style), before) << n;
     } else {
-      EXPECT_EQ(test::snapshot(*style), after) << n;
+      EXPECT_EQ(test::valueOf(style), after) << n;
     }
     if (!failed) break;
   }
@@ -128,24 +141,25 @@ TEST_F(EditingWithoutMemory, AddingAParameterSortsAllOrNothing) {
 
 // Edits that need no memory cannot fail for want of it.
 TEST_F(EditingWithoutMemory, TakingOutNeedsNone) {
-  const auto style = makeStyle();
+  KoStyleStyle* const style = makeStyle();
   bool failed = false;
   EXPECT_FALSE(test::runsOutOfMemory(0, failed, [&] {
-    style->deleteLanguage(1);
-    style->deleteSingerGroup(style->singerGroup(0));
-    style->deleteGenre(style->genre(0));
-    style->deleteSubGenre(style->subGenre(1));
-    style->deleteColor(style->color(1));
-    parameterOf(*style, 2)->destroy();
-    parameterOf(*style, 0)->setValueInt(5);
-    parameterOf(*style, 1)->setValueFloat(2.5f);
-    style->audioEffect(0)->move(7);
-    style->midiEffect(0)->destroy();
+    MutableStyle_deleteLanguage(style, 1);
+    MutableStyle_deleteSingerGroup(style, Style_singerGroup(style, 0));
+    MutableStyle_deleteGenre(style, Style_genre(style, 0));
+    MutableStyle_deleteSubGenre(style, Style_subGenre(style, 1));
+    MutableStyle_deleteColor(style, Style_color(style, 1));
+    MutableParameter_destroy(parameterOf(style, 2));
+    MutableParameter_setValueInt(parameterOf(style, 0), 5);
+    MutableParameter_setValueFloat(parameterOf(style, 1), 2.5f);
+    MutableEffect_move(MutableStyle_audioEffect(style, 0), 7);
+    MutableEffect_destroy(MutableStyle_midiEffect(style, 0));
   }));
   EXPECT_FALSE(failed);
-  EXPECT_EQ(style->numMidiEffect(), 0u);
-  EXPECT_EQ(style->audioEffect(0)->numParameter(), 3u);
-  EXPECT_EQ(style->numLanguage(), 0u);
+  EXPECT_EQ(Style_numMidiEffect(style), 0u);
+  EXPECT_EQ(Effect_numParameter(MutableStyle_audioEffect(style, 0)), 3u);
+  EXPECT_EQ(Style_numLanguage(style), 0u);
+  for (const test::TextList& list : test::textLists()) EXPECT_LE(list.count(style), 1u) << list.name;
 }
 
 }  // namespace

@@ -1,15 +1,13 @@
 // Running out of memory while managers and mutable styles are made, and while user styles are removed.
 #include <gmock/gmock.h>
 
-#include "api/exports.h"
-#include "api/manager_registry.h"
 #include "memory/disk.h"
 #include "memory/failing_allocations.h"
-#include "support/temporary_directory.h"
+#include "support/host.h"
 
 namespace {
 
-using namespace Tesk::KoStyle;
+using test::Text;
 
 TEST(CreatingAManagerWithoutMemory, RegistersNothingAndReleasesTheLock) {
   const test::TemporaryDirectory directory;
@@ -17,7 +15,7 @@ TEST(CreatingAManagerWithoutMemory, RegistersNothingAndReleasesTheLock) {
   const auto right = test::pathText(directory.folder("right"));
   const auto user = test::pathText(directory.folder("user"));
   const Text appID = test::text("an application identifier that is allocated");
-  const Char* const further[] = {wrong.c_str(), right.c_str()};
+  const KoStyleChar* const further[] = {wrong.c_str(), right.c_str()};
   const auto create = [&](const Text& system) {
     return CreateStyleManager(appID.c_str(), system.c_str(), user.c_str(), further, 2, further, 2,
                               nullptr);
@@ -25,30 +23,30 @@ TEST(CreatingAManagerWithoutMemory, RegistersNothingAndReleasesTheLock) {
   EXPECT_FALSE(HasStyleManager(nullptr));
 
   KoStyleManager* manager = nullptr;
-  const long failures = test::failEachAllocation([&] { manager = create(wrong); },
-                                                 [&](long n, bool thrown) {
-                                                   EXPECT_TRUE(thrown) << n;
-                                                   EXPECT_EQ(manager, nullptr) << n;
-                                                   // Were one registered, it would be given, with the
-                                                   // directory of the call that failed.
-                                                   KoStyleManager* const other = create(right);
-                                                   ASSERT_NE(other, nullptr) << n;
-                                                   EXPECT_EQ(Text(other->systemStyleDirPath()), right)
-                                                       << n;
-                                                   EXPECT_TRUE(HasStyleManager(other));
-                                                   EXPECT_TRUE(StyleManager_destroy(other));
-                                                 });
+  const long failures =
+      test::failEachAllocation([&] { manager = create(wrong); },
+                               [&](long n, bool thrown) {
+                                 EXPECT_TRUE(thrown) << n;
+                                 EXPECT_EQ(manager, nullptr) << n;
+                                 // Were one registered, it would be given, with the
+                                 // directory of the call that failed.
+                                 KoStyleManager* const other = create(right);
+                                 ASSERT_NE(other, nullptr) << n;
+                                 EXPECT_EQ(Text(StyleManager_systemStyleDirPath(other)), right) << n;
+                                 EXPECT_TRUE(HasStyleManager(other));
+                                 EXPECT_TRUE(StyleManager_destroy(other));
+                               });
   EXPECT_GT(failures, 5);
   ASSERT_NE(manager, nullptr);
   EXPECT_TRUE(HasStyleManager(manager));
-  EXPECT_EQ(Text(manager->systemStyleDirPath()), wrong);
+  EXPECT_EQ(Text(StyleManager_systemStyleDirPath(manager)), wrong);
   StyleManager_destroy(manager);
 }
 
 TEST(FindingAManagerWithoutMemory, LeavesItAsItIs) {
   const test::TemporaryDirectory directory;
   const auto path = test::pathText(directory.folder("styles"));
-  const Char* const further[] = {path.c_str()};
+  const KoStyleChar* const further[] = {path.c_str()};
   const auto create = [&] {
     return CreateStyleManager(KOSTYLE_TEXT("app"), path.c_str(), path.c_str(), further, 1, nullptr, 0,
                               nullptr);
@@ -65,34 +63,26 @@ TEST(FindingAManagerWithoutMemory, LeavesItAsItIs) {
   StyleManager_destroy(manager);
 }
 
-TEST(CreatingAMutableStyleWithoutMemory, AddsNone) {
-  const test::TemporaryDirectory directory;
-  StyleManager manager(test::text("app"), test::pathText(directory.path()),
-                       test::pathText(directory.path()), {}, {});
-  IMutableStyle* const earlier = manager.createMutableStyle();
-  IMutableStyle* style = nullptr;
+TEST(CreatingAMutableStyleWithoutMemory, GivesNoneAndKeepsTheOthers) {
+  const test::Host host;
+  KoStyleStyle* const earlier = StyleManager_createMutableStyle(host.manager);
+  KoStyleStyle* style = nullptr;
   const long failures =
-      test::failEachAllocation([&] { style = manager.createMutableStyle(); },
+      test::failEachAllocation([&] { style = StyleManager_createMutableStyle(host.manager); },
                                [&](long n, bool thrown) {
                                  EXPECT_TRUE(thrown) << n;
-                                 EXPECT_EQ(manager.styles(StyleKind::editable).size(), 1u) << n;
-                                 EXPECT_TRUE(manager.hasMutableStyle(earlier)) << n;
+                                 EXPECT_EQ(style, nullptr) << n;
+                                 EXPECT_TRUE(StyleManager_hasMutableStyle(host.manager, earlier)) << n;
                                });
   EXPECT_GT(failures, 0);
-  EXPECT_TRUE(manager.hasMutableStyle(style));
-  EXPECT_EQ(manager.styles(StyleKind::editable).size(), 2u);
+  EXPECT_TRUE(StyleManager_hasMutableStyle(host.manager, style));
 }
 
-TEST(RemovingAUserStyleWithoutMemory, Gives2AndChangesNothing) {
-  const test::TemporaryDirectory directory;
-  test::writeFile(directory / "a.kostyle",
-                  R"({"id":"A","name":"N","audioEffect":{"E":{"parameter":{}}}})");
-  StyleManager manager(test::text("app"), test::pathText(directory.path()),
-                       test::pathText(directory.path()), {}, {});
-  manager.readUserStyles();
-  ASSERT_EQ(manager.numUserStyle(), 1u);
-  IUserStyle* const style = manager.userStyle(0);
-  const auto before = test::filesOf(directory.path());
+TEST(RemovingAUserStyleWithoutMemory, IsRefusedAndChangesNothing) {
+  const test::Host host;
+  KoStyleStyle* const style = host.addUserStyle("A");
+  ASSERT_EQ(StyleManager_numUserStyle(host.manager), 1u);
+  const auto before = test::filesOf(host.user);
   long n = 0;
   for (;; ++n) {
     int code = -1;
@@ -103,12 +93,12 @@ TEST(RemovingAUserStyleWithoutMemory, Gives2AndChangesNothing) {
       break;
     }
     ASSERT_EQ(code, KOSTYLE_ERROR_INVALID_HANDLE) << n;
-    ASSERT_TRUE(manager.hasUserStyle(style)) << n;
-    ASSERT_EQ(test::filesOf(directory.path()), before) << n;
+    ASSERT_TRUE(StyleManager_hasUserStyle(host.manager, style)) << n;
+    ASSERT_EQ(test::filesOf(host.user), before) << n;
   }
   EXPECT_GT(n, 0);
-  EXPECT_EQ(manager.numUserStyle(), 0u);
-  EXPECT_TRUE(test::filesOf(directory.path()).empty());
+  EXPECT_EQ(StyleManager_numUserStyle(host.manager), 0u);
+  EXPECT_TRUE(test::filesOf(host.user).empty());
 }
 
 }  // namespace

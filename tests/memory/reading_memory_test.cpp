@@ -6,15 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "format/encodings.h"
-#include "format/style_snapshot.h"
-#include "manager/style_manager.h"
+#include "support/encodings.h"
 #include "memory/failing_allocations.h"
-#include "support/temporary_directory.h"
+#include "support/host.h"
+#include "support/stored_sets.h"
+#include "support/style_walk.h"
 
 namespace {
-
-using namespace Tesk::KoStyle;
 
 const char* const rich =
     R"({"id":"rich","name":"A name that is long enough to be allocated","vendor":"V",
@@ -38,22 +36,23 @@ class ReadingWithoutMemory : public testing::Test {
     test::writeFile(system / "other.txt", rich);
     test::writeFile(further / "again.kostyle", rich);
     test::writeFile(user / "user.kostyle", std::string(rich).replace(7, 4, "user"));
-    manager.readUserStyles();
-    manager.readSystemStyles();
+    StyleManager_readUserStyles(manager);
+    StyleManager_readSystemStyles(manager);
   }
 
-  using Records = std::vector<std::pair<Text, std::uint32_t>>;
+  using Records = std::vector<std::pair<test::Text, int>>;
 
-  Records records(StyleKind kind) {
+  Records records(std::size_t kind) const {
     Records records;
-    for (const StyleCreationResult& record : *manager.creationResults(kind))
-      records.emplace_back(record.filePath(), record.error());
+    for (std::size_t i = 0; KoStyleCreationResult* record = sets[kind].recordAt(manager, i); ++i)
+      records.emplace_back(StyleCreationResult_filePath(record), StyleCreationResult_error(record));
     return records;
   }
 
-  std::vector<test::StyleSnapshot> styles(StyleKind kind) {
-    std::vector<test::StyleSnapshot> styles;
-    for (const StyleBase& style : manager.styles(kind)) styles.push_back(test::snapshot(style));
+  std::vector<test::StoredValue> styles(std::size_t kind) const {
+    std::vector<test::StoredValue> styles;
+    for (std::size_t i = 0; KoStyleStyle* style = sets[kind].at(manager, i); ++i)
+      styles.push_back(test::storedValueOf(style));
     return styles;
   }
 
@@ -67,48 +66,43 @@ class ReadingWithoutMemory : public testing::Test {
   test::fs::path system = directory.folder("system");
   test::fs::path further = directory.folder("further");
   test::fs::path user = directory.folder("user");
-  StyleManager manager{
-      test::text("app"), test::pathText(system), test::pathText(user), {test::pathText(further)}, {}};
+  test::Manager manager{system, user, {further}};
+  const std::array<test::StoredSet, 2>& sets = test::storedSets();
 };
 
 TEST_F(ReadingWithoutMemory, KeepsWhatWasReadSoFarAndReadsAllLater) {
-  const Records allRecords = records(StyleKind::system);
-  const auto allStyles = styles(StyleKind::system);
+  const Records allRecords = records(KOSTYLE_KIND_SYSTEM);
+  const auto allStyles = styles(KOSTYLE_KIND_SYSTEM);
   ASSERT_EQ(allRecords.size(), 8u);
   ASSERT_EQ(allStyles.size(), 2u);
-  const auto userRecords = records(StyleKind::user);
-  const auto userStyles = styles(StyleKind::user);
+  const auto userRecords = records(KOSTYLE_KIND_USER);
+  const auto userStyles = styles(KOSTYLE_KIND_USER);
   std::set<std::size_t> countsSeen;
 
   const auto check = [&](long n, bool thrown) {
     ASSERT_TRUE(thrown) << n;
-    const Records read = records(StyleKind::system);
+    const Records read = records(KOSTYLE_KIND_SYSTEM);
     countsSeen.insert(read.size());
     EXPECT_TRUE(isFrontOf(read, allRecords)) << n;
-    EXPECT_TRUE(isFrontOf(styles(StyleKind::system), allStyles)) << n;
-    const auto taken =
-        std::count_if(read.begin(), read.end(), [](const auto& record) { return record.second == 0; });
-    EXPECT_EQ(manager.numSystemStyle(), static_cast<std::size_t>(taken)) << n;
-    for (std::size_t i = 0; i < manager.numSystemStyle(); ++i) {
-      EXPECT_TRUE(manager.hasSystemStyle(manager.systemStyle(i)));
-      EXPECT_EQ(manager.systemStyle(i)->next(), manager.systemStyle(i + 1));
-    }
-    for (std::size_t i = 0; i < read.size(); ++i) {
-      EXPECT_EQ(manager.systemStyleCreationResult(i)->next(), manager.systemStyleCreationResult(i + 1));
-    }
-    EXPECT_EQ(records(StyleKind::user), userRecords);
-    EXPECT_EQ(styles(StyleKind::user), userStyles);
+    EXPECT_TRUE(isFrontOf(styles(KOSTYLE_KIND_SYSTEM), allStyles)) << n;
+    const auto taken = std::count_if(read.begin(), read.end(),
+                                     [](const auto& record) { return record.second == KOSTYLE_OK; });
+    EXPECT_EQ(StyleManager_numSystemStyle(manager), static_cast<std::size_t>(taken)) << n;
+    test::expectManagerWalks(manager);
+    EXPECT_EQ(records(KOSTYLE_KIND_USER), userRecords);
+    EXPECT_EQ(styles(KOSTYLE_KIND_USER), userStyles);
     if (n % 16 == 0) {
-      EXPECT_EQ(manager.readSystemStyles(), KOSTYLE_OK);
-      EXPECT_EQ(records(StyleKind::system), allRecords);
-      EXPECT_EQ(styles(StyleKind::system), allStyles);
+      EXPECT_EQ(StyleManager_readSystemStyles(manager), KOSTYLE_OK);
+      EXPECT_EQ(records(KOSTYLE_KIND_SYSTEM), allRecords);
+      EXPECT_EQ(styles(KOSTYLE_KIND_SYSTEM), allStyles);
     }
   };
-  const long failures = test::failEachAllocation([&] { manager.readSystemStyles(); }, check);
+  const long failures =
+      test::failEachAllocation([&] { StyleManager_readSystemStyles(manager); }, check);
   EXPECT_GT(failures, 100);
   EXPECT_EQ(countsSeen.size(), 8u) << "a failure at every file";
-  EXPECT_EQ(records(StyleKind::system), allRecords);
-  EXPECT_EQ(styles(StyleKind::system), allStyles);
+  EXPECT_EQ(records(KOSTYLE_KIND_SYSTEM), allRecords);
+  EXPECT_EQ(styles(KOSTYLE_KIND_SYSTEM), allStyles);
 }
 
 }  // namespace

@@ -10,31 +10,11 @@
 #include "support/host.h"
 #include "support/kostyle.h"
 #include "support/random.h"
+#include "support/stored_sets.h"
 #include "support/style_reference.h"
 #include "support/style_walk.h"
 
 namespace test {
-
-/// One of the two sets of stored styles, through the exported functions.
-struct StoredSet {
-  std::size_t (*count)(KoStyleManager*);
-  KoStyleStyle* (*at)(KoStyleManager*, std::size_t);
-  bool (*has)(KoStyleManager*, KoStyleStyle*);
-  std::size_t (*recordCount)(KoStyleManager*);
-  KoStyleCreationResult* (*recordAt)(KoStyleManager*, std::size_t);
-  int (*read)(KoStyleManager*);
-};
-
-inline const std::array<StoredSet, 2>& storedSets() {
-  static const std::array<StoredSet, 2> sets{
-      {{StyleManager_numSystemStyle, StyleManager_systemStyle, StyleManager_hasSystemStyle,
-        StyleManager_numSystemStyleCreationResult, StyleManager_systemStyleCreationResult,
-        StyleManager_readSystemStyles},
-       {StyleManager_numUserStyle, StyleManager_userStyle, StyleManager_hasUserStyle,
-        StyleManager_numUserStyleCreationResult, StyleManager_userStyleCreationResult,
-        StyleManager_readUserStyles}}};
-  return sets;
-}
 
 class ReferenceHost {
  public:
