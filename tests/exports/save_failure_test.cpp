@@ -149,6 +149,14 @@ TEST_F(SaveFailure, OfOverwritingIsNoEffectWithoutAnEffect) {
   expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_NO_EFFECT);
 }
 
+TEST_F(SaveFailure, OfOverwritingLeavesTheTargetsFile) {
+  const std::string before = test::readFile(user / "u.kostyle");
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_WRITE_EMPTY_NAME);
+  giveName();
+  expectOverwrite(KOSTYLE_TEXT("u"), KOSTYLE_ERROR_NO_EFFECT);
+  EXPECT_EQ(test::readFile(user / "u.kostyle"), before);
+}
+
 TEST_F(SaveFailure, OfOverwritingIsTargetNotReplaceableWhenTheTargetIsGone) {
   giveName();
   giveEffect();

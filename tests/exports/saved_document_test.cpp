@@ -180,4 +180,28 @@ TEST_F(SavedDocument, HasParametersInTheOrderOfTheListAndAllOfOneName) {
             R"({"id":"ID","name":"N","audioEffect":{"E":{"parameter":{"z":1,"c":2,"c":0}}}})");
 }
 
+TEST_F(SavedDocument, IsTheSameOfAStoredStyle) {
+  for (const KoStyleChar* word : {KOSTYLE_TEXT("y"), KOSTYLE_TEXT("x")}) {
+    MutableStyle_addColor(style, word);
+    MutableStyle_addSubGenre(style, word);
+    MutableStyle_addGenre(style, word);
+  }
+  MutableStyle_addLanguage(style, 2);
+  MutableParameter_setValueFloat(add("f"), 0.1f);
+  MutableParameter_setValueInt(add("i"), 7);
+  KoStyleEffect* midi = MutableStyle_insertMidiEffect(style, 0, KOSTYLE_TEXT("M"));
+  MutableParameter_setValueString(MutableEffect_addParameter(midi, KOSTYLE_TEXT("s")), nullptr);
+  KoStyleStyle* const stored = test::Host::save(style, true);
+  const std::string content = test::readFile(test::Host::fileOf(stored));
+
+  KoStylePropertyEditor* const editor = UserStyle_createPropertyEditor(stored);
+  PropertyEditor_setStyleName(editor, Style_name(stored));
+  for (std::size_t i = 0; i < 2; ++i) {
+    PropertyEditor_addSubGenre(editor, Style_subGenre(stored, i));
+    PropertyEditor_addColor(editor, Style_color(stored, i));
+  }
+  ASSERT_TRUE(PropertyEditor_save(editor, true));
+  EXPECT_EQ(test::readFile(test::Host::fileOf(stored)), content);
+}
+
 }  // namespace

@@ -1,6 +1,4 @@
 // Reading a directory that changes meanwhile.
-#include <kostyle/codes.h>
-
 #include "faults/editing_host.h"
 #include "faults/faulty_platform.h"
 
@@ -11,10 +9,10 @@ TEST(ReadFaults, FileThatVanishesBeforeItIsOpenedLeavesNoTrace) {
   for (const char* id : {"a", "b", "c"}) host.writeStyle(id);
   test::Faults faults;
   faults.vanishingFile = 2;
-  EXPECT_EQ(host.manager.readUserStyles(), KOSTYLE_OK);
+  EXPECT_EQ(StyleManager_readUserStyles(host.manager), KOSTYLE_OK);
   EXPECT_EQ(faults.readings, 3);
-  EXPECT_EQ(host.manager.numUserStyle(), 2U);
-  EXPECT_EQ(host.manager.numUserStyleCreationResult(), 2U);
+  EXPECT_EQ(StyleManager_numUserStyle(host.manager), 2U);
+  EXPECT_EQ(StyleManager_numUserStyleCreationResult(host.manager), 2U);
   EXPECT_EQ(test::entryNames(host.user).size(), 2U);
 }
 
