@@ -6,6 +6,11 @@
 #include <string>
 #include <utility>
 #include <vector>
+#if defined(_WIN32)
+#include <share.h>
+
+#include <cstdio>
+#endif
 
 #include "support/host.h"
 
@@ -243,6 +248,28 @@ TEST_F(DirectoryScan, ReadsFurtherDirectoriesOnlyBesideTheMainOne) {
   EXPECT_EQ(readSystem(), KOSTYLE_ERROR_DIRECTORY_MISSING);
   EXPECT_THAT(systemRecords(), IsEmpty());
 }
+
+TEST_F(DirectoryScan, ClosesTheFilesThatItRead) {
+  put("system/a.kostyle", "a");
+  writeFile(system / "broken.kostyle", "{");
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_TRUE(test::fs::remove(system / "a.kostyle"));
+  EXPECT_TRUE(test::fs::remove(system / "broken.kostyle"));
+}
+
+#if defined(_WIN32)
+
+TEST_F(DirectoryScan, PassesOverAFileThatIsLocked) {
+  put("system/a.kostyle", "a");
+  put("system/locked.kostyle", "locked");
+  std::FILE* const lock = _wfsopen((system / "locked.kostyle").c_str(), L"rb", _SH_DENYRW);
+  ASSERT_NE(lock, nullptr);
+  EXPECT_EQ(readSystem(), KOSTYLE_OK);
+  EXPECT_THAT(systemRecords(), ElementsAre(Pair("a", KOSTYLE_OK)));
+  std::fclose(lock);
+}
+
+#endif
 
 TEST_F(DirectoryScan, KeepsTheOrderOfTheFileSystem) {
   for (int i = 0; i < 100; ++i)
