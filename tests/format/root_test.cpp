@@ -110,9 +110,7 @@ TEST(Root, IdsAreStoredWholeAtAnyLength) {
 }
 
 TEST(Root, NamesOfUpTo100UnitsAreStored) {
-  const auto nameFrom = [](const std::string& name) {
-    return styleOf(R"({"id":"I","name":")" + name + R"(","audioEffect":{"E":{"parameter":{}}}})").name;
-  };
+  const auto nameFrom = [](const std::string& name) { return styleOf(test::document("I", name)).name; };
   EXPECT_EQ(nameFrom("x").size(), 1u);
   EXPECT_EQ(nameFrom(std::string(99, 'x')).size(), 99u);
   EXPECT_EQ(nameFrom(std::string(100, 'x')).size(), 100u);
@@ -123,14 +121,13 @@ TEST(Root, NamesOfUpTo100UnitsAreStored) {
 TEST(Root, NamesAreMeasuredInUtf16Units) {
   std::string fifty;
   for (int i = 0; i < 50; ++i) fifty += "\xF0\x9F\x98\x80";
-  const std::string rest = R"(","audioEffect":{"E":{"parameter":{}}}})";
-  const std::string start = R"({"id":"I","name":")";
-  EXPECT_EQ(styleOf(start + fifty + rest).name, test::text(fifty));
-  EXPECT_EQ(styleOf(start + fifty + "a" + rest).name, test::text(""));
+  const auto nameFrom = [](const std::string& name) { return styleOf(test::document("I", name)).name; };
+  EXPECT_EQ(nameFrom(fifty), test::text(fifty));
+  EXPECT_EQ(nameFrom(fifty + "a"), test::text(""));
   std::string hundred;
   for (int i = 0; i < 100; ++i) hundred += "\xC3\xA4";
-  EXPECT_EQ(styleOf(start + hundred + rest).name, test::text(hundred));
-  EXPECT_EQ(styleOf(start + hundred + "\\u0000" + rest).name, test::text(""));
+  EXPECT_EQ(nameFrom(hundred), test::text(hundred));
+  EXPECT_EQ(nameFrom(hundred + "\\u0000"), test::text(""));
 }
 
 TEST(Root, VendorIsTakenWhenItIsAString) {

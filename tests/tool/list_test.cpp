@@ -15,7 +15,7 @@ TEST_F(List, AlignsColumnsByDisplay) {
             R"({"id":"night","name":"港の夜","filter":{"languages":[4,1],"singerGroups":["Duo","Choir"],
                 "singerIDs":["0123456789abcdef"],"genres":["演歌"],"subGenres":["Bálade"],"colors":["red"]},
                 "audioEffect":{"A":{"parameter":{}}},"midiEffect":{"M":{"parameter":{}}}})");
-  writeFile(user_ / "b.kostyle", styleText("p", "Plain"));
+  writeFile(user_ / "b.kostyle", document("p", "Plain"));
   const Outcome outcome = runTool({"list", "--system", argument(system_), "--user", argument(user_)});
   expectSuccess(outcome);
   EXPECT_EQ(outcome.out,
@@ -25,16 +25,16 @@ TEST_F(List, AlignsColumnsByDisplay) {
 }
 
 TEST_F(List, KeepsControlCharactersFromTheTerminal) {
-  writeFile(system_ / "a.kostyle", styleText("a\\u001b[2J", "two\\nlines"));
+  writeFile(system_ / "a.kostyle", document("a\\u001b[2J", "two\\nlines"));
   const Outcome outcome = runTool({"list", "--system", argument(system_)});
   EXPECT_THAT(outcome.out, HasSubstr("system  two\\u000alines  a\\u001b[2J"));
 }
 
 TEST_F(List, SaysWhatWasRefusedAndWhy) {
-  writeFile(system_ / "good.kostyle", styleText("s", "Good"));
+  writeFile(system_ / "good.kostyle", document("s", "Good"));
   writeFile(user_ / "comma.kostyle", R"({"id":"x",})");
   writeFile(user_ / "nameless.kostyle", R"({"id":"x"})");
-  writeFile(user_ / "same.kostyle", styleText("s", "Same"));
+  writeFile(user_ / "same.kostyle", document("s", "Same"));
   const Outcome outcome = runTool({"list", "--system", argument(system_), "--user", argument(user_)});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_EQ(outcome.err, "");
@@ -103,11 +103,11 @@ TEST_F(List, PrintsRefusalsAsJson) {
 }
 
 TEST_F(List, ReadsFurtherDirectories) {
-  writeFile(system_ / "a.kostyle", styleText("a", "A"));
-  writeFile(directory_.folder("s1") / "b.kostyle", styleText("b", "B"));
-  writeFile(directory_.folder("s2") / "c.kostyle", styleText("c", "C"));
-  writeFile(user_ / "d.kostyle", styleText("d", "D"));
-  writeFile(directory_.folder("u1") / "e.kostyle", styleText("e", "E"));
+  writeFile(system_ / "a.kostyle", document("a", "A"));
+  writeFile(directory_.folder("s1") / "b.kostyle", document("b", "B"));
+  writeFile(directory_.folder("s2") / "c.kostyle", document("c", "C"));
+  writeFile(user_ / "d.kostyle", document("d", "D"));
+  writeFile(directory_.folder("u1") / "e.kostyle", document("e", "E"));
   const Outcome outcome =
       runTool({"list", "--json", "--system", argument(system_), "--system-extra",
                argument(directory_ / "s1"), "--system-extra", argument(directory_ / "s2"), "--user",
@@ -129,7 +129,7 @@ TEST_F(List, TakesRelativePathsWithForwardSlashes) {
 }
 
 TEST_F(List, LeavesDirectoriesAsTheyAre) {
-  writeFile(system_ / "a.kostyle", styleText("a", "A"));
+  writeFile(system_ / "a.kostyle", document("a", "A"));
   const auto before = contents(directory_.path());
   expectSuccess(runTool({"list", "--system", argument(system_)}));
   expectSuccess(runTool({"list", "--system", argument(system_), "--user", argument(user_)}));
@@ -195,7 +195,7 @@ exit $code)";
 
 TEST_F(List, ReportsDirectoriesThatCannotBeRead) {
   if (std::system("command -v setpriv > /dev/null") != 0) GTEST_SKIP() << "setpriv is missing";
-  writeFile(user_ / "a.kostyle", styleText("a", "A"));
+  writeFile(user_ / "a.kostyle", document("a", "A"));
   const Outcome outcome =
       runToolInScript(unprivileged, {"list", "--system", argument(system_), "--user", argument(user_)});
   EXPECT_EQ(outcome.exitCode, 1) << outcome.err;
@@ -213,7 +213,7 @@ TEST_F(List, WritesStrayBytesOfPathsAsTheyAre) {
 }
 
 TEST_F(List, ReportsOutputThatCannotBeWritten) {
-  writeFile(system_ / "a.kostyle", styleText("a", "A"));
+  writeFile(system_ / "a.kostyle", document("a", "A"));
   EXPECT_EQ(runToolWithoutOutput(directory_ / "err", {"list", "--system", argument(system_)}), 1);
   EXPECT_THAT(readFile(directory_ / "err"), HasSubstr("cannot be written"));
 }

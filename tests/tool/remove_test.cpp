@@ -10,8 +10,8 @@ class Remove : public testing::Test {
 };
 
 TEST_F(Remove, DeletesTheFileOfTheStyle) {
-  writeFile(user_ / "a.kostyle", styleText("A", "A"));
-  writeFile(user_ / "b.kostyle", styleText("B", "B"));
+  writeFile(user_ / "a.kostyle", document("A", "A"));
+  writeFile(user_ / "b.kostyle", document("B", "B"));
   const Outcome outcome = runTool({"remove", "A", "--user", argument(user_)});
   expectSuccess(outcome);
   EXPECT_EQ(outcome.out, "");
@@ -19,7 +19,7 @@ TEST_F(Remove, DeletesTheFileOfTheStyle) {
 }
 
 TEST_F(Remove, FindsStylesOfFurtherDirectories) {
-  writeFile(directory_.folder("more") / "a.kostyle", styleText("A", "A"));
+  writeFile(directory_.folder("more") / "a.kostyle", document("A", "A"));
   expectSuccess(runTool(
       {"remove", "A", "--user", argument(user_), "--user-extra", argument(directory_ / "more")}));
   EXPECT_TRUE(fs::is_empty(directory_ / "more"));
@@ -27,8 +27,8 @@ TEST_F(Remove, FindsStylesOfFurtherDirectories) {
 
 TEST_F(Remove, RefusesWhatIsNoUserStyle) {
   const auto system = directory_.folder("system");
-  writeFile(system / "s.kostyle", styleText("S", "S"));
-  writeFile(user_ / "a.kostyle", styleText("A", "A"));
+  writeFile(system / "s.kostyle", document("S", "S"));
+  writeFile(user_ / "a.kostyle", document("A", "A"));
   const auto before = contents(directory_.path());
   expectFailure(runTool({"remove", "S", "--user", argument(user_), "--system", argument(system)}), 1,
                 "S: a system style is never changed");

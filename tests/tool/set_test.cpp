@@ -103,7 +103,7 @@ TEST_F(Set, DeletesBeforeItAdds) {
 }
 
 TEST_F(Set, ChangesTheLayout) {
-  writeFile(file_, styleText("S", "N"));
+  writeFile(file_, document("S", "N"));
   expectSuccess(change({"--pretty"}));
   EXPECT_EQ(readFile(file_).substr(0, 16), "{\n    \"id\": \"S\",");
 }
@@ -196,7 +196,7 @@ TEST_F(Set, SaysThatTextsCannotBeCopied) {
 }
 
 TEST_F(Set, StyleWhoseNameWasTooLongNeedsANewOne) {
-  writeFile(file_, styleText("S", std::string(101, 'n')));
+  writeFile(file_, document("S", std::string(101, 'n')));
   expectFailure(change({"--add-genre", "Pop"}), 1, "the name is empty");
   expectSuccess(change({"--add-genre", "Pop", "--name", "Short"}));
   EXPECT_STREQ(show()["name"].GetString(), "Short");
@@ -204,8 +204,8 @@ TEST_F(Set, StyleWhoseNameWasTooLongNeedsANewOne) {
 
 TEST_F(Set, ChangesUserStylesOnly) {
   const auto system = directory_.folder("system");
-  writeFile(system / "s.kostyle", styleText("S", "System"));
-  writeFile(file_, styleText("S", "User"));
+  writeFile(system / "s.kostyle", document("S", "System"));
+  writeFile(file_, document("S", "User"));
   const auto before = contents(directory_.path());
   expectFailure(change({"--name", "X", "--system", argument(system)}), 1,
                 "S: a system style is never changed");
@@ -216,7 +216,7 @@ TEST_F(Set, ChangesUserStylesOnly) {
 
 TEST_F(Set, ChangesStylesOfFurtherDirectoriesInPlace) {
   const auto more = directory_.folder("more");
-  writeFile(more / "far.kostyle", styleText("far", "Far"));
+  writeFile(more / "far.kostyle", document("far", "Far"));
   const Outcome outcome = runTool(
       {"set", "far", "--user", argument(user_), "--user-extra", argument(more), "--name", "Near"});
   expectSuccess(outcome);
@@ -271,7 +271,7 @@ TEST_F(Set, ChangesStylesOnOtherVolumes) {
   if (!fs::is_directory(memory)) GTEST_SKIP() << "there is no other volume";
   const OtherTemporaryPath otherPath(memory);
   const TemporaryDirectory other;
-  writeFile(other / "far.kostyle", styleText("far", "Far"));
+  writeFile(other / "far.kostyle", document("far", "Far"));
   expectSuccess(runTool({"set", "far", "--user", argument(user_), "--user-extra",
                          argument(other.path()), "--name", "Near"}));
   EXPECT_THAT(readFile(other / "far.kostyle"), HasSubstr("\"name\":\"Near\""));

@@ -97,8 +97,8 @@ TEST_F(Show, PrintsInfiniteFloats) {
 }
 
 TEST_F(Show, ReadsAFileByItself) {
-  writeFile(system_ / "one.kostyle", styleText("same", "One"));
-  writeFile(system_ / "two.kostyle", styleText("same", "Two"));
+  writeFile(system_ / "one.kostyle", document("same", "One"));
+  writeFile(system_ / "two.kostyle", document("same", "Two"));
   for (const auto& [file, name] : {std::pair{"one.kostyle", "One"}, std::pair{"two.kostyle", "Two"}}) {
     const Outcome outcome = runTool({"show", argument(system_ / file), "--system", argument(system_)});
     expectSuccess(outcome);
@@ -110,7 +110,7 @@ TEST_F(Show, ReadsAFileByItself) {
 
 TEST_F(Show, ReadsAFileOfAnyName) {
   const auto path = directory_ / fs::u8path("夜.json");
-  writeFile(path, styleText("n", "Night"));
+  writeFile(path, document("n", "Night"));
   const auto style = parseJson(runTool({"show", argument(path), "--json"}).out);
   EXPECT_STREQ(style["id"].GetString(), "n");
   EXPECT_STREQ(style["kind"].GetString(), "file");
@@ -118,8 +118,8 @@ TEST_F(Show, ReadsAFileOfAnyName) {
 }
 
 TEST_F(Show, FindsIdentifiersInFurtherDirectories) {
-  writeFile(directory_.folder("s1") / "a.kostyle", styleText("Ж 1", "A"));
-  writeFile(directory_.folder("u1") / "b.kostyle", styleText("u/1", "B"));
+  writeFile(directory_.folder("s1") / "a.kostyle", document("Ж 1", "A"));
+  writeFile(directory_.folder("u1") / "b.kostyle", document("u/1", "B"));
   const Arguments directories{
       "--system", argument(system_), "--system-extra", argument(directory_ / "s1"),
       "--user",   argument(user_),   "--user-extra",   argument(directory_ / "u1")};
@@ -138,7 +138,7 @@ TEST_F(Show, SaysWhyAFileIsRefused) {
 }
 
 TEST_F(Show, RefusesUnknownStyles) {
-  writeFile(system_ / "a.kostyle", styleText("a", "A"));
+  writeFile(system_ / "a.kostyle", document("a", "A"));
   expectFailure(runTool({"show", "A", "--system", argument(system_)}), 1,
                 "A: no style has this identifier");
   expectFailure(runTool({"show", "", "--system", argument(system_)}), 1,
@@ -164,7 +164,7 @@ TEST_F(Show, DoesNotWaitForAPipe) {
 }
 
 TEST_F(Show, TakesPathsWithStrayBytes) {
-  writeFile(directory_ / "\xFF.kostyle", styleText("s", "Stray"));
+  writeFile(directory_ / "\xFF.kostyle", document("s", "Stray"));
   const Outcome outcome = runTool({"show", argument(directory_ / "\xFF.kostyle")});
   expectSuccess(outcome);
   EXPECT_THAT(outcome.out, HasSubstr("/\xFF.kostyle\n"));

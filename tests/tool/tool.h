@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "support/document.h"
 #include "tool/process.h"
 
 namespace test {
@@ -112,12 +113,6 @@ inline void expectFailure(const Outcome& outcome, int exitCode, const std::strin
 inline void expectSuccess(const Outcome& outcome) {
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_EQ(outcome.err, "");
-}
-
-/// A style with one audio effect.
-inline std::string styleText(const std::string& id, const std::string& name) {
-  return R"({"id":")" + id + R"(","name":")" + name +
-         R"(","audioEffect":{"Reverb":{"parameter":{"mix":0.5}}}})";
 }
 
 }  // namespace test
