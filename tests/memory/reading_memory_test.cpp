@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "support/encodings.h"
 #include "memory/failing_allocations.h"
+#include "support/encodings.h"
 #include "support/host.h"
 #include "support/stored_sets.h"
 #include "support/style_walk.h"
