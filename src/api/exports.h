@@ -3,7 +3,7 @@
 // against what hosts are told.
 #pragma once
 
-#include "api/interfaces.h"
+#include "interfaces/interfaces.h"
 
 using KoStyleManager = Tesk::KoStyle::IStyleManager;
 using KoStyleStyle = Tesk::KoStyle::IStyleBase;

@@ -4,7 +4,7 @@
 
 #include "api/exports.h"
 #include "api/handle.h"
-#include "api/manager_registry.h"
+#include "manager/manager_registry.h"
 #include "manager/style_manager.h"
 
 using namespace Tesk::KoStyle;
@@ -18,9 +18,9 @@ std::vector<Text> copyTexts(const Char* const* texts, int count) {
 
 // A style that is not in the set may be long gone, so it is compared before it is followed.
 template <class Target>
-Target* listedAs(const IStyleManager& manager, StyleKind kind, IStyleBase* style) {
-  const StyleSequence& set = static_cast<const StyleManager&>(manager).styles(kind);
-  return set.contains(style) ? dynamic_cast<Target*>(style) : nullptr;
+Target* listedAs(const IStyleManager& manager, bool (StyleManager::*lists)(const IStyleBase*) const,
+                 IStyleBase* style) {
+  return (static_cast<const StyleManager&>(manager).*lists)(style) ? cast<Target>(style) : nullptr;
 }
 
 }  // namespace
@@ -85,20 +85,22 @@ KoStyleStyle* StyleManager_userStyle(KoStyleManager* manager, size_t index) {
 }
 
 bool StyleManager_hasSystemStyle(KoStyleManager* manager, KoStyleStyle* style) try {
-  return manager && manager->hasSystemStyle(listedAs<ISystemStyle>(*manager, StyleKind::system, style));
+  return manager && manager->hasSystemStyle(
+                        listedAs<ISystemStyle>(*manager, &StyleManager::listsSystemStyle, style));
 } catch (...) {
   return false;
 }
 
 bool StyleManager_hasUserStyle(KoStyleManager* manager, KoStyleStyle* style) try {
-  return manager && manager->hasUserStyle(listedAs<IUserStyle>(*manager, StyleKind::user, style));
+  return manager &&
+         manager->hasUserStyle(listedAs<IUserStyle>(*manager, &StyleManager::listsUserStyle, style));
 } catch (...) {
   return false;
 }
 
 bool StyleManager_hasMutableStyle(KoStyleManager* manager, KoStyleStyle* style) try {
-  return manager &&
-         manager->hasMutableStyle(listedAs<IMutableStyle>(*manager, StyleKind::editable, style));
+  return manager && manager->hasMutableStyle(
+                        listedAs<IMutableStyle>(*manager, &StyleManager::listsMutableStyle, style));
 } catch (...) {
   return false;
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "api/cast.h"
 #include "platform/text.h"
 
 namespace Tesk::KoStyle {
@@ -23,13 +24,13 @@ Result direct(Base* handle, Operation operation, Result otherwise, const Argumen
 /// The handle is downcast to `Target`. A null handle and one of the wrong kind give `otherwise`.
 template <class Target, class Result, class Base, class Operation, class... Arguments>
 Result checked(Base* handle, Operation operation, Result otherwise, const Arguments&... arguments) {
-  return direct(dynamic_cast<Target*>(handle), operation, otherwise, arguments...);
+  return direct(cast<Target>(handle), operation, otherwise, arguments...);
 }
 
 /// As checked, for operations without a result.
 template <class Target, class Base, class Operation, class... Arguments>
 void checkedVoid(Base* handle, Operation operation, const Arguments&... arguments) {
-  if (auto* target = dynamic_cast<Target*>(handle)) std::invoke(operation, *target, arguments...);
+  if (auto* target = cast<Target>(handle)) std::invoke(operation, *target, arguments...);
 }
 
 /// As checked, for operations that give an interface: the result becomes the `Base` of its family.

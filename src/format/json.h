@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <new>
 
 // A document that breaks a rule of the parser's own is a bad document, never the end of the host.
@@ -13,8 +14,6 @@ using SizeType = std::size_t;
 }
 
 #include <rapidjson/document.h>
-#include <rapidjson/encodedstream.h>
-#include <rapidjson/filereadstream.h>
 #include <rapidjson/filewritestream.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
@@ -34,9 +33,22 @@ class ThrowingAllocator {
   static void Free(void* memory) noexcept { ::operator delete(memory); }
 };
 
+/// Memory for one stack after the other, which stays from one to the next.
+class StackMemory {
+ public:
+  static constexpr bool kNeedFree = false;
+  void* Malloc(std::size_t size) { return Realloc(nullptr, 0, size); }
+  void* Realloc(void* original, std::size_t originalSize, std::size_t newSize);
+  static void Free(void*) noexcept {}
+
+ private:
+  std::unique_ptr<char[]> memory_;
+  std::size_t capacity_ = 0;
+};
+
 using Encoding = rapidjson::UTF16<Char>;
 using Pool = rapidjson::MemoryPoolAllocator<ThrowingAllocator>;
-using Document = rapidjson::GenericDocument<Encoding, Pool, ThrowingAllocator>;
+using Document = rapidjson::GenericDocument<Encoding, Pool, StackMemory>;
 using Value = Document::ValueType;
 
 inline TextView view(const Value& string) { return {string.GetString(), string.GetStringLength()}; }

@@ -1,64 +1,49 @@
 #include "format/style_parser.h"
 
-#include <kostyle/codes.h>
-
-#include "format/countable_numbers.h"
+#include "format/file_encoding.h"
+#include "format/nesting_limit.h"
+#include "format/unit_stream.h"
 
 namespace Tesk::KoStyle {
 namespace {
 
-// Stands between the parser, which is recursive, and the document: ends the parse where a document
-// nests so deeply that the stack might not hold it.
-class NestingLimit {
- public:
-  using Ch = json::Document::Ch;
-
-  explicit NestingLimit(json::Document& document) : document_(document) {}
-
-  bool Null() { return document_.Null(); }
-  bool Bool(bool value) { return document_.Bool(value); }
-  bool Int(int value) { return document_.Int(value); }
-  bool Uint(unsigned value) { return document_.Uint(value); }
-  bool Int64(std::int64_t value) { return document_.Int64(value); }
-  bool Uint64(std::uint64_t value) { return document_.Uint64(value); }
-  bool Double(double value) { return document_.Double(value); }
-  bool RawNumber(const Ch* text, std::size_t length, bool copy) {
-    return document_.RawNumber(text, length, copy);
-  }
-  bool String(const Ch* text, std::size_t length, bool copy) {
-    return document_.String(text, length, copy);
-  }
-  bool Key(const Ch* text, std::size_t length, bool copy) { return document_.Key(text, length, copy); }
-  bool StartObject() { return enter() && document_.StartObject(); }
-  bool EndObject(std::size_t count) { return leave() && document_.EndObject(count); }
-  bool StartArray() { return enter() && document_.StartArray(); }
-  bool EndArray(std::size_t count) { return leave() && document_.EndArray(count); }
-
- private:
-  bool enter() { return ++level_ <= KOSTYLE_MAX_NESTING; }
-  bool leave() { return level_-- > 0; }
-
-  json::Document& document_;
-  int level_ = 0;
-};
+constexpr std::size_t chunkSize = 64 * 1024;
+constexpr std::size_t stackSize = 1024;
 
 }  // namespace
 
-rapidjson::ParseResult parseStyleDocument(std::FILE* file, json::Document& document) {
-  using ByteStream = rapidjson::FileReadStream;
-  using AnyEncoding = rapidjson::AutoUTF<unsigned>;
+StyleParser::StyleParser()
+    : firstChunk_(new char[chunkSize]),
+      pool_(firstChunk_.get(), chunkSize, chunkSize, &allocator_),
+      utf8_(&allocator_),
+      utf16_(&allocator_),
+      utf32_(&allocator_) {}
 
-  char buffer[256];
-  ByteStream bytes(file, buffer, sizeof buffer);
-  CountableNumbers<rapidjson::AutoUTFInputStream<unsigned, ByteStream>> characters(bytes);
-  rapidjson::GenericReader<AnyEncoding, json::Encoding, json::ThrowingAllocator> reader;
+rapidjson::ParseResult StyleParser::parse(std::FILE* file) {
+  document_.reset();
+  pool_.Clear();
+  document_.emplace(&pool_, stackSize, &stackMemory_);
+  const Block first(file);
+  const FileEncoding encoding = FileEncoding::of(first);
+  switch (encoding.unitSize) {
+    case 4:
+      return parse(utf32_, UnitStream<char32_t>(file, first, encoding.markSize, encoding.order));
+    case 2:
+      return parse(utf16_, UnitStream<char16_t>(file, first, encoding.markSize, encoding.order));
+    default:
+      return parse(utf8_, UnitStream<char>(file, first, encoding.markSize, encoding.order));
+  }
+}
+
+template <class Source, class Stream>
+rapidjson::ParseResult StyleParser::parse(Reader<Source>& reader, Stream&& units) {
   rapidjson::ParseResult result;
-  auto parse = [&](json::Document& target) {
-    NestingLimit handler(target);
-    result = reader.Parse<rapidjson::kParseDefaultFlags>(characters, handler);
+  auto parseInto = [&](json::Document& document) {
+    NestingLimit handler(document);
+    result = reader.template Parse<rapidjson::kParseDefaultFlags>(units, handler);
     return !result.IsError();
   };
-  document.Populate(parse);
+  document_->Populate(parseInto);
   return result;
 }
 

@@ -83,9 +83,9 @@ void enumerateFiles(const Text& directory, const std::size_t& depthLimit, const 
                     std::vector<Text>& files) {
   platform::enumerateDirectory(nativeLongPath(directory.c_str()), [&](DirectoryEntry&& entry) {
     Text entryPath = joinPath(directory, entry.name);
-    if (!entry.isDirectory) {
+    if (entry.isRegularFile) {
       files.push_back(std::move(entryPath));
-    } else if (depthLimit == 0 || depth + 1 < depthLimit) {
+    } else if (entry.isDirectory && (depthLimit == 0 || depth + 1 < depthLimit)) {
       enumerateFiles(entryPath, depthLimit, depth + 1, files);
     }
     return true;

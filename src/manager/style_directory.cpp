@@ -1,12 +1,13 @@
 #include "manager/style_directory.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
 #include <memory>
 #include <utility>
 
-#include "format/style_document.h"
-#include "format/style_reader.h"
+#include "format/style_keys.h"
 #include "manager/file_system.h"
-#include "manager/style_manager.h"
 #include "platform/platform.h"
 
 namespace Tesk::KoStyle {
@@ -17,47 +18,59 @@ bool hasStyleExtension(TextView path) {
   return lastDot != TextView::npos && path.substr(lastDot) == styleFileExtension;
 }
 
+// Most files fit, so that one read of the system takes them whole.
+constexpr std::size_t fileBufferSize = 16 * 1024;
+
+// Makes room for one more, so that appending it cannot throw.
+void reserveOneMore(CreationResults& results) {
+  if (results.size() == results.capacity())
+    results.reserve(std::max<std::size_t>(8, 2 * results.size()));
+}
+
 }  // namespace
 
-int readStyleDirectory(StyleManager& manager, const Char* directory,
-                       const std::vector<Text>& furtherDirectories, const StyleKind& kind,
-                       StyleSequence& styles) {
-  styles.clear();
-  if (!directory) return KOSTYLE_ERROR_ARGUMENT_MISSING;
-  if (!isDirectory(directory)) return KOSTYLE_ERROR_DIRECTORY_MISSING;
-  constexpr std::size_t filesOnly = 1;
-  for (const Text& path : listFiles(directory, filesOnly)) loadStyleFile(manager, path, kind, styles);
-  for (const Text& further : furtherDirectories) {
-    if (!isDirectory(further.c_str())) continue;
-    for (const Text& path : listFiles(further.c_str(), filesOnly))
-      loadStyleFile(manager, path, kind, styles);
+int readStyleDirectory(StyleSet& set, const ReadingManager& manager) {
+  CreationResults().swap(set.creationResults);
+  set.styles.clear();
+  if (!isDirectory(set.directory.c_str())) return KOSTYLE_ERROR_DIRECTORY_MISSING;
+  StyleLoader loader(set, manager);
+  const auto loadFilesOf = [&loader](const Text& directory) {
+    constexpr std::size_t filesOnly = 1;
+    for (const Text& path : listFiles(directory.c_str(), filesOnly)) loader.loadStyleFile(path);
+  };
+  loadFilesOf(set.directory);
+  for (const Text& further : set.furtherDirectories) {
+    if (isDirectory(further.c_str())) loadFilesOf(further);
   }
+  set.creationResults.shrink_to_fit();
   return KOSTYLE_OK;
 }
 
-bool loadStyleFile(StyleManager& manager, const Text& path, const StyleKind& kind,
-                   StyleSequence& styles) {
+StyleLoader::StyleLoader(StyleSet& set, const ReadingManager& manager)
+    : set_(set), manager_(manager), fileBuffer_(new char[fileBufferSize]) {}
+
+bool StyleLoader::loadStyleFile(const Text& path) {
   if (!hasStyleExtension(path)) return false;
   platform::File file = platform::openForReading(platform::nativePath(toLongPath(path.c_str())));
   if (!file) return false;
+  static_cast<void>(std::setvbuf(file.get(), fileBuffer_.get(), _IOFBF, fileBufferSize));
   StyleReadOutcome outcome;
-  std::unique_ptr<Style> style = readStyleFile(kind, &manager, file.get(), outcome);
+  std::unique_ptr<Style> style = reader_.read(set_.kind, manager_.owner, file.get(), outcome);
   file.reset();
 
   Text id = style ? Text(style->id()) : Text();
-  if (style && manager.isStyleIdInUse(id.c_str())) {
+  if (style && manager_.isIdInUse(id.c_str())) {
     outcome = StyleReadOutcome();
     outcome.error = KOSTYLE_ERROR_DUPLICATE_ID;
     style.reset();
   }
-  auto result = CreationResultSequence::prepare(
-      std::make_unique<StyleCreationResult>(&manager, path, std::move(id), kind, std::move(outcome)));
+  StyleCreationResult result(set_.creationResults, path, std::move(id), set_.kind, std::move(outcome));
+  reserveOneMore(set_.creationResults);
   if (style) {
     style->assignPath(path);
-    styles.append(StyleSequence::prepare(std::move(style)));
+    set_.styles.append(StyleSequence::makeNode(std::move(style)));
   }
-  if (CreationResultSequence* results = manager.creationResults(kind))
-    results->append(std::move(result));
+  set_.creationResults.push_back(std::move(result));
   return true;
 }
 

@@ -1,22 +1,39 @@
-// Reading the style directories of a manager into one of its sets.
+// Reading the directories of a style set.
 #pragma once
 
-#include <vector>
+#include <functional>
+#include <memory>
 
-#include "model/style_base.h"
+#include "format/style_reader.h"
+#include "manager/style_set.h"
 
 namespace Tesk::KoStyle {
 
-/// Empties `styles`, then loads every style file directly inside the directory and each of the further
-/// directories. Gives KOSTYLE_OK, or KOSTYLE_ERROR_ARGUMENT_MISSING or KOSTYLE_ERROR_DIRECTORY_MISSING
-/// when the directory is null or does not exist.
-int readStyleDirectory(StyleManager& manager, const Char* directory,
-                       const std::vector<Text>& furtherDirectories, const StyleKind& kind,
-                       StyleSequence& styles);
+/// What reading a set asks of its manager.
+struct ReadingManager {
+  StyleOwner* owner;
+  /// Whether a stored style of the manager has this identifier.
+  std::function<bool(const Char* id)> isIdInUse;
+};
 
-/// Reads one style file into `styles` and the manager's creation results of that kind. False when the
-/// file is passed over: it has another extension or cannot be opened.
-bool loadStyleFile(StyleManager& manager, const Text& path, const StyleKind& kind,
-                   StyleSequence& styles);
+/// Empties the set, then loads every style file directly inside its directory and each of its further
+/// directories. Gives KOSTYLE_OK, or KOSTYLE_ERROR_DIRECTORY_MISSING when the directory does not exist.
+int readStyleDirectory(StyleSet& set, const ReadingManager& manager);
+
+/// What reads the files of one set, one after the other.
+class StyleLoader {
+ public:
+  StyleLoader(StyleSet& set, const ReadingManager& manager);
+
+  /// Reads one style file into the set. False when the file is passed over: it has another extension or
+  /// cannot be opened.
+  bool loadStyleFile(const Text& path);
+
+ private:
+  StyleSet& set_;
+  const ReadingManager& manager_;
+  StyleReader reader_;
+  std::unique_ptr<char[]> fileBuffer_;
+};
 
 }  // namespace Tesk::KoStyle

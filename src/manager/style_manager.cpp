@@ -1,102 +1,98 @@
 #include "manager/style_manager.h"
 
-#include <memory>
 #include <utility>
 
-#include "api/manager_registry.h"
+#include "manager/file_system.h"
+#include "manager/manager_registry.h"
+#include "manager/property_editor.h"
 #include "manager/style_directory.h"
-#include "writer/style_saver.h"
+#include "manager/style_saver.h"
+#include "model/system_style.h"
 
 namespace Tesk::KoStyle {
+namespace {
+
+// A set holds styles of its own kind alone.
+SystemStyle* asSystem(Style* style) { return static_cast<SystemStyle*>(style); }
+UserStyle* asUser(Style* style) { return static_cast<UserStyle*>(style); }
+
+}  // namespace
 
 StyleManager::StyleManager(Text appID, Text systemStyleDirPath, Text userStyleDirPath,
                            std::vector<Text> systemStyleDirs, std::vector<Text> userStyleDirs)
     : appID_(std::move(appID)),
-      systemStyleDirPath_(std::move(systemStyleDirPath)),
-      userStyleDirPath_(std::move(userStyleDirPath)),
-      systemStyleDirs_(std::move(systemStyleDirs)),
-      userStyleDirs_(std::move(userStyleDirs)) {}
+      system_{StyleKind::system, std::move(systemStyleDirPath), std::move(systemStyleDirs), {}, {}},
+      user_{StyleKind::user, std::move(userStyleDirPath), std::move(userStyleDirs), {}, {}} {}
 
 void StyleManager::destroy() { StyleManagerRegistry::instance().destroy(this); }
 
 IStyleCreationResult* StyleManager::systemStyleCreationResult(const std::size_t& index) const {
-  return systemStyleCreationResults_.at(index);
+  return system_.creationResult(index);
 }
 
 ISystemStyle* StyleManager::systemStyle(const std::size_t& index) const {
-  return dynamic_cast<ISystemStyle*>(systemStyles_.at(index));
+  return asSystem(system_.styles.at(index));
 }
 
-bool StyleManager::hasSystemStyle(ISystemStyle* style) const { return systemStyles_.contains(style); }
-
 IStyleCreationResult* StyleManager::userStyleCreationResult(const std::size_t& index) const {
-  return userStyleCreationResults_.at(index);
+  return user_.creationResult(index);
 }
 
 IUserStyle* StyleManager::userStyle(const std::size_t& index) const {
-  return dynamic_cast<IUserStyle*>(userStyles_.at(index));
-}
-
-bool StyleManager::hasUserStyle(IUserStyle* style) const { return userStyles_.contains(style); }
-
-bool StyleManager::hasMutableStyle(IMutableStyle* style) const {
-  return mutableStyles_.contains(style);
-}
-
-int StyleManager::readSystemStyles() {
-  systemStyleCreationResults_.clear();
-  return readStyleDirectory(*this, systemStyleDirPath_.c_str(), systemStyleDirs_, StyleKind::system,
-                            systemStyles_);
-}
-
-int StyleManager::readUserStyles() {
-  userStyleCreationResults_.clear();
-  return readStyleDirectory(*this, userStyleDirPath_.c_str(), userStyleDirs_, StyleKind::user,
-                            userStyles_);
+  return asUser(user_.styles.at(index));
 }
 
 IMutableStyle* StyleManager::createMutableStyle() {
-  auto style = std::make_unique<MutableStyle>(this);
-  MutableStyle* const created = style.get();
-  mutableStyles_.append(StyleSequence::prepare(std::move(style)));
-  return created;
+  return &mutableStyles_.append(MutableStyles::makeNode(std::make_unique<MutableStyle>(this)));
 }
 
-const StyleSequence& StyleManager::styles(StyleKind kind) const {
-  switch (kind) {
-    case StyleKind::system:
-      return systemStyles_;
-    case StyleKind::user:
-      return userStyles_;
-    case StyleKind::editable:
-      break;
-  }
-  return mutableStyles_;
+int StyleManager::read(StyleSet& set) {
+  return readStyleDirectory(set, {this, [this](const Char* id) { return isStyleIdInUse(id); }});
 }
 
-CreationResultSequence* StyleManager::creationResults(StyleKind kind) {
-  switch (kind) {
-    case StyleKind::system:
-      return &systemStyleCreationResults_;
-    case StyleKind::user:
-      return &userStyleCreationResults_;
-    case StyleKind::editable:
-      break;
-  }
-  return nullptr;
+SystemStyle* StyleManager::next(const SystemStyle& style) const {
+  return asSystem(system_.styles.next(&style));
+}
+SystemStyle* StyleManager::previous(const SystemStyle& style) const {
+  return asSystem(system_.styles.previous(&style));
+}
+UserStyle* StyleManager::next(const UserStyle& style) const {
+  return asUser(user_.styles.next(&style));
+}
+UserStyle* StyleManager::previous(const UserStyle& style) const {
+  return asUser(user_.styles.previous(&style));
+}
+
+int StyleManager::remove(UserStyle& style) {
+  if (!user_.styles.contains(&style)) return KOSTYLE_ERROR_USER_STYLE_NOT_FOUND;
+  if (!removePath(style.path(), false)) return KOSTYLE_ERROR_DELETE_FAILED;
+  user_.styles.destroy(&style);
+  return KOSTYLE_OK;
+}
+
+std::unique_ptr<IPropertyEditor> StyleManager::makePropertyEditor(UserStyle& style) {
+  return std::make_unique<PropertyEditor>(style);
+}
+
+IUserStyle* StyleManager::save(MutableStyle& style, bool pretty, std::uint32_t& error) {
+  return saveNewStyle(*this, style, pretty, error);
+}
+
+IUserStyle* StyleManager::overwrite(const Char* targetID, MutableStyle& style, bool pretty,
+                                    std::uint32_t& error) {
+  return overwriteStyle(*this, targetID, style, pretty, error);
 }
 
 bool StyleManager::isStyleIdInUse(const Char* id) const {
-  return id && *id != 0 && (systemStyles_.findKey(id) || userStyles_.findKey(id));
+  return id && *id != 0 && (system_.styles.findKey(id) || user_.styles.findKey(id));
 }
 
-IUserStyle* StyleManager::saveNewStyle(MutableStyle& style, const bool& pretty, std::uint32_t* error) {
-  return KoStyle::saveNewStyle(*this, style, pretty, *error);
+UserStyle* StyleManager::findUserStyle(const Char* id) const {
+  return *id == 0 ? nullptr : asUser(user_.styles.findKey(id));
 }
 
-IUserStyle* StyleManager::overwriteStyle(const Char* targetID, MutableStyle& style, const bool& pretty,
-                                         std::uint32_t* error) {
-  return KoStyle::overwriteStyle(*this, targetID, style, pretty, *error);
+UserStyle& StyleManager::append(StyleSequence::NodeHandle style) noexcept {
+  return *asUser(&user_.styles.append(std::move(style)));
 }
 
 }  // namespace Tesk::KoStyle

@@ -4,40 +4,43 @@
 #include <memory>
 #include <utility>
 
-#include "model/mutable_parameter.h"
 #include "model/mutable_style.h"
 
 namespace Tesk::KoStyle {
 
-void MutableEffect::destroy() {
-  if (EffectChain* chain = editableChain()) chain->destroy(this);
-}
+void MutableEffect::destroy() { chain().destroy(this); }
 
-IMutableStyle* MutableEffect::parent() const { return dynamic_cast<IMutableStyle*>(owner()); }
-
-IMutableParameter* MutableEffect::parameter(const std::size_t& index) const {
-  return dynamic_cast<IMutableParameter*>(parameters().at(index));
-}
+IMutableStyle* MutableEffect::parent() const { return &parent_; }
 
 bool MutableEffect::move(const std::size_t& index) {
-  EffectChain* const chain = editableChain();
-  if (!chain || !chain->contains(this)) return false;
-  const std::size_t target = std::min(index, chain->size() - 1);
-  if (target != chain->position(this)) chain->insert(target, chain->take(this));
+  MutableChain& effects = chain();
+  if (!effects.contains(this)) return false;
+  const std::size_t target = std::min(index, effects.size() - 1);
+  if (target != effects.position(this)) effects.insert(target, effects.extract(this));
   return true;
 }
 
 IMutableParameter* MutableEffect::addParameter(const Char* name) {
-  if (!name || *name == 0 || parameters().containsName(name)) return nullptr;
-  auto parameter = std::make_unique<MutableParameter>(this);
-  parameter->assignName(name);
-  return dynamic_cast<IMutableParameter*>(parameters().append(std::move(parameter)));
+  if (!name || *name == 0) return nullptr;
+  return parameters_.append(std::make_unique<MutableParameter>(*this, name));
 }
 
-/// The chain that the effect may be moved in and taken from; null outside a mutable style.
-EffectChain* MutableEffect::editableChain() const {
-  auto* const style = dynamic_cast<MutableStyle*>(owner());
-  return style ? &style->chain(kind()) : nullptr;
+MutableChain& MutableEffect::chain() const noexcept { return parent_.chain(kind_); }
+
+// A chain holds effects of its own kind alone.
+
+IMutableAudioEffect* MutableAudioEffect::next() const {
+  return static_cast<MutableAudioEffect*>(chain().next(this));
+}
+IMutableAudioEffect* MutableAudioEffect::prev() const {
+  return static_cast<MutableAudioEffect*>(chain().previous(this));
+}
+
+IMutableMidiEffect* MutableMidiEffect::next() const {
+  return static_cast<MutableMidiEffect*>(chain().next(this));
+}
+IMutableMidiEffect* MutableMidiEffect::prev() const {
+  return static_cast<MutableMidiEffect*>(chain().previous(this));
 }
 
 }  // namespace Tesk::KoStyle

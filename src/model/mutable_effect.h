@@ -2,40 +2,76 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
-#include "model/effect_base.h"
+#include "containers/owned_sequence.h"
+#include "interfaces/interfaces.h"
+#include "model/effect_kind.h"
+#include "model/parameter_list.h"
 
 namespace Tesk::KoStyle {
 
-class MutableEffect : public virtual IMutableEffect, public EffectBase {
+class MutableEffect;
+class MutableStyle;
+
+struct EffectIdOf {
+  TextView operator()(const MutableEffect& effect) const noexcept;
+};
+
+/// A chain of a mutable style; identifiers are unique within it.
+using MutableChain = OwnedSequence<MutableEffect, IEffectBase, EffectIdOf>;
+
+class MutableEffect : public virtual IMutableEffect {
  public:
+  virtual ~MutableEffect() = default;
+
+  std::uint32_t type() const final { return static_cast<std::uint32_t>(kind_); }
+  const Char* id() const final { return id_.c_str(); }
+  std::size_t numParameter() const final { return parameters_.size(); }
+  bool hasParameter(IParameterBase* parameter) const final { return parameters_.contains(parameter); }
   void destroy() final;
   IMutableStyle* parent() const final;
-  IMutableParameter* parameter(const std::size_t& index) const final;
+  IMutableParameter* parameter(const std::size_t& index) const final { return parameters_.at(index); }
   bool move(const std::size_t& index) final;
   IMutableParameter* addParameter(const Char* name) final;
 
+  const Text& wholeId() const noexcept { return id_; }
+  ParameterList& parameters() noexcept { return parameters_; }
+  const ParameterList& parameters() const noexcept { return parameters_; }
+
  protected:
-  using EffectBase::EffectBase;
+  MutableEffect(MutableStyle& parent, EffectKind kind, const Char* id)
+      : parent_(parent), id_(id), kind_(kind) {}
+
+  MutableChain& chain() const noexcept;
 
  private:
-  EffectChain* editableChain() const;
+  MutableStyle& parent_;
+  const Text id_;
+  ParameterList parameters_;
+  const EffectKind kind_;
 };
 
-class MutableAudioEffect final : public IMutableAudioEffect, public MutableEffect {
- public:
-  explicit MutableAudioEffect(StyleBase* parent) : MutableEffect(parent, EffectKind::audio) {}
+inline TextView EffectIdOf::operator()(const MutableEffect& effect) const noexcept {
+  return effect.wholeId();
+}
 
-  IMutableAudioEffect* next() const override { return dynamic_cast<IMutableAudioEffect*>(following()); }
-  IMutableAudioEffect* prev() const override { return dynamic_cast<IMutableAudioEffect*>(preceding()); }
+class MutableAudioEffect final : public MutableEffect, public IMutableAudioEffect {
+ public:
+  static constexpr EffectKind kind = EffectKind::audio;
+  MutableAudioEffect(MutableStyle& parent, const Char* id) : MutableEffect(parent, kind, id) {}
+
+  IMutableAudioEffect* next() const override;
+  IMutableAudioEffect* prev() const override;
 };
 
-class MutableMidiEffect final : public IMutableMidiEffect, public MutableEffect {
+class MutableMidiEffect final : public MutableEffect, public IMutableMidiEffect {
  public:
-  explicit MutableMidiEffect(StyleBase* parent) : MutableEffect(parent, EffectKind::midi) {}
+  static constexpr EffectKind kind = EffectKind::midi;
+  MutableMidiEffect(MutableStyle& parent, const Char* id) : MutableEffect(parent, kind, id) {}
 
-  IMutableMidiEffect* next() const override { return dynamic_cast<IMutableMidiEffect*>(following()); }
-  IMutableMidiEffect* prev() const override { return dynamic_cast<IMutableMidiEffect*>(preceding()); }
+  IMutableMidiEffect* next() const override;
+  IMutableMidiEffect* prev() const override;
 };
 
 }  // namespace Tesk::KoStyle

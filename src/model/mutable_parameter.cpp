@@ -1,28 +1,32 @@
 #include "model/mutable_parameter.h"
 
-#include <utility>
-
 #include "model/mutable_effect.h"
 
 namespace Tesk::KoStyle {
 
-void MutableParameter::destroy() {
-  if (auto* effect = dynamic_cast<MutableEffect*>(owner())) effect->parameters().destroy(*this);
-}
+void MutableParameter::destroy() { parent_.parameters().destroy(*this); }
 
-IMutableEffect* MutableParameter::parent() const { return dynamic_cast<IMutableEffect*>(owner()); }
+IMutableEffect* MutableParameter::parent() const { return &parent_; }
+
+IMutableParameter* MutableParameter::next() const { return parent_.parameters().next(this); }
+
+IMutableParameter* MutableParameter::prev() const { return parent_.parameters().previous(this); }
 
 bool MutableParameter::setName(const Char* name) {
   if (!name || *name == 0) return false;
-  Text copy(name);
-  if (owner()) {
-    owner()->parameters().rename(*this, std::move(copy));
-  } else {
-    assignName(std::move(copy));
-  }
+  parent_.parameters().rename(*this, name);
   return true;
 }
 
-void MutableParameter::setValueString(const Char* value) { assignString(value ? Text(value) : Text()); }
+void MutableParameter::setValueString(const Char* value) {
+  assign(ParameterValue::of(TextView()), value ? Text(value) : Text());
+}
+
+void MutableParameter::assign(const ParameterValue& value, Text text) noexcept {
+  type_ = value.type;
+  valueInt_ = value.integer;
+  valueFloat_ = value.real;
+  valueString_ = std::move(text);
+}
 
 }  // namespace Tesk::KoStyle

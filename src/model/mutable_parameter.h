@@ -2,23 +2,50 @@
 #pragma once
 
 #include <cstdint>
+#include <utility>
 
-#include "model/parameter_base.h"
+#include "interfaces/interfaces.h"
+#include "model/parameter_value.h"
 
 namespace Tesk::KoStyle {
 
-class MutableParameter final : public IMutableParameter, public ParameterBase {
+class MutableEffect;
+
+class MutableParameter final : public IMutableParameter {
  public:
-  explicit MutableParameter(EffectBase* parent) : ParameterBase(parent) {}
+  MutableParameter(MutableEffect& parent, Text name) noexcept
+      : parent_(parent), name_(std::move(name)) {}
+
+  std::uint32_t type() const override { return static_cast<std::uint32_t>(type_); }
+  const Char* name() const override { return name_.c_str(); }
+  std::int32_t valueInt() const override { return valueInt_; }
+  float valueFloat() const override { return valueFloat_; }
+  const Char* valueString() const override { return valueString_.c_str(); }
 
   void destroy() override;
   IMutableEffect* parent() const override;
-  IMutableParameter* next() const override { return dynamic_cast<IMutableParameter*>(following()); }
-  IMutableParameter* prev() const override { return dynamic_cast<IMutableParameter*>(preceding()); }
+  IMutableParameter* next() const override;
+  IMutableParameter* prev() const override;
   bool setName(const Char* name) override;
-  void setValueInt(const std::int32_t& value) override { assignInt(value); }
-  void setValueFloat(const float& value) override { assignFloat(value); }
+  void setValueInt(const std::int32_t& value) override { assign(ParameterValue::of(value), {}); }
+  void setValueFloat(const float& value) override { assign(ParameterValue::of(value), {}); }
   void setValueString(const Char* value) override;
+
+  const Text& wholeName() const noexcept { return name_; }
+  ParameterValue value() const noexcept { return {type_, valueInt_, valueFloat_, valueString_}; }
+
+  /// Must not be called while the parameter is in a list.
+  void assignName(Text name) noexcept { name_ = std::move(name); }
+
+ private:
+  void assign(const ParameterValue& value, Text text) noexcept;
+
+  MutableEffect& parent_;
+  ParameterType type_ = ParameterType::integer;
+  Text name_;
+  std::int32_t valueInt_ = 0;
+  float valueFloat_ = 0;
+  Text valueString_;
 };
 
 }  // namespace Tesk::KoStyle

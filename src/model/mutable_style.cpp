@@ -1,62 +1,57 @@
 #include "model/mutable_style.h"
 
-#include <utility>
-
-#include "manager/style_manager.h"
-#include "model/mutable_effect.h"
+#include <memory>
 
 namespace Tesk::KoStyle {
 
 void MutableStyle::destroy() {
-  if (owner()) owner()->styles(StyleKind::editable).destroy(this);
+  if (owner()) owner()->destroy(*this);
 }
 
+// A chain holds effects of its own kind alone.
 IMutableAudioEffect* MutableStyle::audioEffect(const std::size_t& index) const {
-  return dynamic_cast<IMutableAudioEffect*>(chain(EffectKind::audio).at(index));
+  return static_cast<MutableAudioEffect*>(audioEffects().at(index));
 }
-
 IMutableMidiEffect* MutableStyle::midiEffect(const std::size_t& index) const {
-  return dynamic_cast<IMutableMidiEffect*>(chain(EffectKind::midi).at(index));
+  return static_cast<MutableMidiEffect*>(midiEffects().at(index));
 }
 
 bool MutableStyle::setName(const Char* name) {
   const TextView text = name ? TextView(name) : TextView();
   if (!isStyleName(text)) return false;
-  assignName(Text(text));
+  content().name = Text(text);
   return true;
 }
 
 bool MutableStyle::addLanguage(const std::int32_t& language) {
-  return attributes().addLanguage(language);
+  return content().attributes.languages.insert(language);
 }
 bool MutableStyle::deleteLanguage(const std::int32_t& language) {
-  return attributes().languages.erase(language);
+  return content().attributes.languages.erase(language);
 }
+
 bool MutableStyle::addSingerGroup(const Char* singerGroup) {
-  return singerGroup && attributes().addSingerGroup(singerGroup);
+  return add(Attribute::singerGroup, singerGroup);
 }
 bool MutableStyle::deleteSingerGroup(const Char* singerGroup) {
-  return singerGroup && attributes().singerGroups.erase(TextView(singerGroup));
+  return erase(Attribute::singerGroup, singerGroup);
 }
-bool MutableStyle::addSingerID(const Char* singerID) {
-  return singerID && attributes().addSingerID(singerID);
+bool MutableStyle::addSingerID(const Char* singerID) { return add(Attribute::singerID, singerID); }
+bool MutableStyle::deleteSingerID(const Char* singerID) { return erase(Attribute::singerID, singerID); }
+bool MutableStyle::addGenre(const Char* genre) { return add(Attribute::genre, genre); }
+bool MutableStyle::deleteGenre(const Char* genre) { return erase(Attribute::genre, genre); }
+bool MutableStyle::addSubGenre(const Char* subGenre) { return add(Attribute::subGenre, subGenre); }
+bool MutableStyle::deleteSubGenre(const Char* subGenre) { return erase(Attribute::subGenre, subGenre); }
+bool MutableStyle::addColor(const Char* color) { return add(Attribute::color, color); }
+bool MutableStyle::deleteColor(const Char* color) { return erase(Attribute::color, color); }
+
+bool MutableStyle::add(Attribute attribute, const Char* text) {
+  const TextView added = text ? TextView(text) : TextView();
+  return isAttributeText(attribute, added) && content().attributes[attribute].insert(added);
 }
-bool MutableStyle::deleteSingerID(const Char* singerID) {
-  return singerID && attributes().singerIDs.erase(TextView(singerID));
-}
-bool MutableStyle::addGenre(const Char* genre) { return genre && attributes().addGenre(genre); }
-bool MutableStyle::deleteGenre(const Char* genre) {
-  return genre && attributes().genres.erase(TextView(genre));
-}
-bool MutableStyle::addSubGenre(const Char* subGenre) {
-  return subGenre && attributes().addSubGenre(subGenre);
-}
-bool MutableStyle::deleteSubGenre(const Char* subGenre) {
-  return subGenre && attributes().subGenres.erase(TextView(subGenre));
-}
-bool MutableStyle::addColor(const Char* color) { return color && attributes().addColor(color); }
-bool MutableStyle::deleteColor(const Char* color) {
-  return color && attributes().colors.erase(TextView(color));
+
+bool MutableStyle::erase(Attribute attribute, const Char* text) {
+  return text && content().attributes[attribute].erase(TextView(text));
 }
 
 IMutableAudioEffect* MutableStyle::insertAudioEffect(const std::size_t& index, const Char* id) {
@@ -67,26 +62,24 @@ IMutableMidiEffect* MutableStyle::insertMidiEffect(const std::size_t& index, con
   return insertEffect<MutableMidiEffect>(index, id);
 }
 
-template <class MutableKind>
-MutableKind* MutableStyle::insertEffect(std::size_t index, const Char* id) {
-  if (!id || *id == 0) return nullptr;
-  auto effect = std::make_unique<MutableKind>(this);
-  effect->assignId(id);
-  MutableKind* const inserted = effect.get();
-  EffectChain& effects = chain(effect->kind());
-  if (effects.findKey(effect->wholeId())) return nullptr;
-  effects.insert(index, EffectChain::prepare(std::move(effect)));
+template <class EffectType>
+EffectType* MutableStyle::insertEffect(std::size_t index, const Char* id) {
+  MutableChain& effects = chain(EffectType::kind);
+  if (!id || *id == 0 || effects.findKey(id)) return nullptr;
+  auto effect = std::make_unique<EffectType>(*this, id);
+  EffectType* const inserted = effect.get();
+  effects.insert(index, MutableChain::makeNode(std::move(effect)));
   return inserted;
 }
 
 IUserStyle* MutableStyle::save(const bool& pretty, std::uint32_t* error) {
-  if (owner()) return owner()->saveNewStyle(*this, pretty, error);
+  if (owner()) return owner()->save(*this, pretty, *error);
   *error = KOSTYLE_ERROR_NO_MANAGER;
   return nullptr;
 }
 
 IUserStyle* MutableStyle::overwrite(const Char* targetID, const bool& pretty, std::uint32_t* error) {
-  if (owner()) return owner()->overwriteStyle(targetID, *this, pretty, error);
+  if (owner()) return owner()->overwrite(targetID, *this, pretty, *error);
   *error = KOSTYLE_ERROR_NO_MANAGER;
   return nullptr;
 }

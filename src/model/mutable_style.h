@@ -1,13 +1,26 @@
-// MutableStyle: the host's workspace for a new style or a changed copy of one.
+// MutableStyle: a style in memory that the host changes piece by piece and saves.
 #pragma once
 
-#include "model/style_base.h"
+#include <cstddef>
+#include <cstdint>
+
+#include "containers/sorted_set.h"
+#include "model/attributes.h"
+#include "model/mutable_effect.h"
+#include "model/style_with.h"
 
 namespace Tesk::KoStyle {
 
-class MutableStyle final : public IMutableStyle, public StyleBase {
+struct MutableContent {
+  Text name;
+  Attributes<SortedSet<Text>> attributes;
+  MutableChain audioEffects;
+  MutableChain midiEffects;
+};
+
+class MutableStyle final : public StyleWith<MutableContent>, public IMutableStyle {
  public:
-  explicit MutableStyle(StyleManager* parent) : StyleBase(parent, StyleKind::editable) {}
+  explicit MutableStyle(StyleOwner* owner) : StyleWith(owner, StyleKind::mutableStyle) {}
 
   void destroy() override;
   IMutableAudioEffect* audioEffect(const std::size_t& index) const override;
@@ -30,9 +43,15 @@ class MutableStyle final : public IMutableStyle, public StyleBase {
   IUserStyle* save(const bool& pretty, std::uint32_t* error) override;
   IUserStyle* overwrite(const Char* targetID, const bool& pretty, std::uint32_t* error) override;
 
+  MutableChain& chain(EffectKind kind) noexcept {
+    return kind == EffectKind::audio ? content().audioEffects : content().midiEffects;
+  }
+
  private:
-  template <class MutableKind>
-  MutableKind* insertEffect(std::size_t index, const Char* id);
+  bool add(Attribute attribute, const Char* text);
+  bool erase(Attribute attribute, const Char* text);
+  template <class EffectType>
+  EffectType* insertEffect(std::size_t index, const Char* id);
 };
 
 }  // namespace Tesk::KoStyle

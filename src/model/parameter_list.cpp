@@ -8,31 +8,31 @@ namespace Tesk::KoStyle {
 namespace {
 
 auto nameBefore(TextView name) {
-  return [name](const ParameterBase& parameter) { return parameter.wholeName() < name; };
+  return [name](const MutableParameter& parameter) { return parameter.wholeName() < name; };
 }
 
 auto nameNotAfter(TextView name) {
-  return [name](const ParameterBase& parameter) { return parameter.wholeName() <= name; };
+  return [name](const MutableParameter& parameter) { return parameter.wholeName() <= name; };
 }
 
 }  // namespace
 
-ParameterBase* ParameterList::append(std::unique_ptr<ParameterBase> parameter) {
+MutableParameter* ParameterList::append(std::unique_ptr<MutableParameter> parameter) {
   if (!parameter) return nullptr;
   const TextView name = parameter->wholeName();
   if (!name.empty() && containsName(name)) return nullptr;
-  auto prepared = parameters_.prepare(std::move(parameter));
+  auto node = parameters_.makeNode(std::move(parameter));
   sort();
-  return &parameters_.insert(parameters_.partitionPoint(nameNotAfter(name)), std::move(prepared));
+  return &parameters_.insert(parameters_.partitionPoint(nameNotAfter(name)), std::move(node));
 }
 
-void ParameterList::rename(ParameterBase& parameter, Text name) {
+void ParameterList::rename(MutableParameter& parameter, Text name) {
   if (!contains(&parameter)) return parameter.assignName(std::move(name));
   renamed_.insert(&parameter);
-  parameters_.rekey(&parameter, [&] { parameter.assignName(std::move(name)); });
+  parameters_.modifyKey(&parameter, [&] { parameter.assignName(std::move(name)); });
 }
 
-void ParameterList::destroy(ParameterBase& parameter) noexcept {
+void ParameterList::destroy(MutableParameter& parameter) noexcept {
   renamed_.erase(&parameter);
   parameters_.destroy(&parameter);
 }
@@ -42,12 +42,12 @@ void ParameterList::destroy(ParameterBase& parameter) noexcept {
 void ParameterList::sort() {
   if (renamed_.empty()) return;
   struct Move {
-    ParameterBase* parameter;
+    MutableParameter* parameter;
     std::size_t position;  // among all, then among the parameters that stay, then its target there
   };
   std::vector<Move> moves;
   moves.reserve(renamed_.size());
-  for (ParameterBase* parameter : renamed_)
+  for (MutableParameter* parameter : renamed_)
     moves.push_back({parameter, parameters_.position(parameter)});
   std::sort(moves.begin(), moves.end(),
             [](const Move& a, const Move& b) { return a.position < b.position; });
@@ -55,10 +55,10 @@ void ParameterList::sort() {
   std::stable_sort(moves.begin(), moves.end(), [](const Move& a, const Move& b) {
     return a.parameter->wholeName() < b.parameter->wholeName();
   });
-  std::vector<decltype(parameters_)::Prepared> taken;
+  std::vector<decltype(parameters_)::NodeHandle> taken;
   taken.reserve(moves.size());
 
-  for (const Move& move : moves) taken.push_back(parameters_.take(move.parameter));
+  for (const Move& move : moves) taken.push_back(parameters_.extract(move.parameter));
   for (Move& move : moves) {
     const TextView name = move.parameter->wholeName();
     move.position = std::clamp(move.position, parameters_.partitionPoint(nameBefore(name)),

@@ -9,8 +9,8 @@
 #include <memory>
 #include <set>
 
-#include "model/owned_sequence.h"
-#include "model/parameter_base.h"
+#include "containers/owned_sequence.h"
+#include "model/mutable_parameter.h"
 
 namespace Tesk::KoStyle {
 
@@ -19,11 +19,11 @@ class ParameterList {
   std::size_t size() const noexcept { return parameters_.size(); }
   auto begin() const noexcept { return parameters_.begin(); }
   auto end() const noexcept { return parameters_.end(); }
-  ParameterBase* at(std::size_t position) const noexcept { return parameters_.at(position); }
-  ParameterBase* next(const IParameterBase* parameter) const noexcept {
+  MutableParameter* at(std::size_t position) const noexcept { return parameters_.at(position); }
+  MutableParameter* next(const IParameterBase* parameter) const noexcept {
     return parameters_.next(parameter);
   }
-  ParameterBase* previous(const IParameterBase* parameter) const noexcept {
+  MutableParameter* previous(const IParameterBase* parameter) const noexcept {
     return parameters_.previous(parameter);
   }
   bool contains(const IParameterBase* parameter) const noexcept {
@@ -32,23 +32,25 @@ class ParameterList {
   bool containsName(TextView name) const noexcept { return parameters_.findKey(name) != nullptr; }
 
   /// Appends a parameter and sorts. Null or a name that is here already: nothing is appended, null.
-  ParameterBase* append(std::unique_ptr<ParameterBase> parameter);
+  MutableParameter* append(std::unique_ptr<MutableParameter> parameter);
 
   /// Renames a parameter; one that is not in this list too.
-  void rename(ParameterBase& parameter, Text name);
+  void rename(MutableParameter& parameter, Text name);
 
   /// Destroys a parameter of this list; ignores others.
-  void destroy(ParameterBase& parameter) noexcept;
+  void destroy(MutableParameter& parameter) noexcept;
 
  private:
   struct NameOf {
-    TextView operator()(const ParameterBase& parameter) const noexcept { return parameter.wholeName(); }
+    TextView operator()(const MutableParameter& parameter) const noexcept {
+      return parameter.wholeName();
+    }
   };
 
   void sort();
 
-  OwnedSequence<ParameterBase, IParameterBase, NameOf> parameters_;
-  std::set<ParameterBase*> renamed_;  // since the list was sorted last
+  OwnedSequence<MutableParameter, IParameterBase, NameOf> parameters_;
+  std::set<MutableParameter*> renamed_;  // since the list was sorted last
 };
 
 }  // namespace Tesk::KoStyle

@@ -2,12 +2,10 @@
 
 namespace Tesk::KoStyle {
 
-IAudioEffect* Style::audioEffect(const std::size_t& index) const {
-  return dynamic_cast<IAudioEffect*>(chain(EffectKind::audio).at(index));
-}
-
-IMidiEffect* Style::midiEffect(const std::size_t& index) const {
-  return dynamic_cast<IMidiEffect*>(chain(EffectKind::midi).at(index));
+void Style::exchangeProperties(StyleProperties& properties) noexcept {
+  exchangeName(properties.name);
+  content().attributes[Attribute::subGenre].swap(properties.subGenres);
+  content().attributes[Attribute::color].swap(properties.colors);
 }
 
 }  // namespace Tesk::KoStyle

@@ -1,20 +1,37 @@
 // Style: a style that is stored in a file, read-only to the host.
 #pragma once
 
-#include "model/style_base.h"
+#include <cstddef>
+#include <utility>
+
+#include "model/stored_content.h"
+#include "model/style_with.h"
 
 namespace Tesk::KoStyle {
 
-class Style : public virtual IStyle, public StyleBase {
+/// What a property editor changes of a style.
+struct StyleProperties {
+  Text name;
+  FrozenTexts subGenres;
+  FrozenTexts colors;
+};
+
+class Style : public StyleWith<StoredContent>, public virtual IStyle {
  public:
   const Char* vendor() const final { return vendor_.c_str(); }
-  IAudioEffect* audioEffect(const std::size_t& index) const final;
-  IMidiEffect* midiEffect(const std::size_t& index) const final;
+  IAudioEffect* audioEffect(const std::size_t& index) const final { return audioEffects().at(index); }
+  IMidiEffect* midiEffect(const std::size_t& index) const final { return midiEffects().at(index); }
 
-  void assignVendor(Text vendor) noexcept { vendor_.swap(vendor); }
+  void assignVendor(Text vendor) noexcept { vendor_ = std::move(vendor); }
+
+  /// Exchanges the content for another, whose effects must have been made for this style.
+  void exchangeContent(StoredContent& other) noexcept { std::swap(content(), other); }
+
+  void exchangeProperties(StyleProperties& properties) noexcept;
+  void exchangeName(Text& name) noexcept { content().name.swap(name); }
 
  protected:
-  using StyleBase::StyleBase;
+  using StyleWith::StyleWith;
 
  private:
   Text vendor_;

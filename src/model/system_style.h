@@ -5,9 +5,9 @@
 
 namespace Tesk::KoStyle {
 
-class SystemStyle final : public ISystemStyle, public Style {
+class SystemStyle final : public Style, public ISystemStyle {
  public:
-  explicit SystemStyle(StyleManager* parent) : Style(parent, StyleKind::system) {}
+  explicit SystemStyle(StyleOwner* owner) : Style(owner, StyleKind::system) {}
 
   ISystemStyle* next() const override;
   ISystemStyle* prev() const override;

@@ -7,9 +7,9 @@
 
 namespace Tesk::KoStyle {
 
-class UserStyle final : public IUserStyle, public Style {
+class UserStyle final : public Style, public IUserStyle {
  public:
-  explicit UserStyle(StyleManager* parent) : Style(parent, StyleKind::user) {}
+  explicit UserStyle(StyleOwner* owner) : Style(owner, StyleKind::user) {}
 
   IUserStyle* next() const override;
   IUserStyle* prev() const override;

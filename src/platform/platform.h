@@ -40,6 +40,8 @@ EntryKind entryKind(const NativePath& path) noexcept;
 struct DirectoryEntry {
   Text name;
   bool isDirectory = false;
+  /// Whether the entry is a regular file or leads to one; only these are opened.
+  bool isRegularFile = false;
   /// Whether the entry is a link that can be deleted without touching what it leads to.
   bool isLink = false;
 };
@@ -72,7 +74,8 @@ struct FileCloser {
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
-/// Opens an existing file to be read; null when that fails.
+/// Opens a file that enumerateDirectory() found to be a regular one, to be read; null when that fails,
+/// and when something else has taken its place since.
 File openForReading(const NativePath& path) noexcept;
 
 /// Opens a file to be written, empty; null when that fails.

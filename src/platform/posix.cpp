@@ -1,10 +1,11 @@
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/random.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <uuid/uuid.h>
 
 #include <cerrno>
+#include <new>
 #include <string_view>
 #include <utility>
 
@@ -24,6 +25,7 @@ bool isDirectory(const struct stat& status) { return S_ISDIR(status.st_mode); }
 // No terminal becomes ours, and a pipe that took a file's place just now keeps nobody waiting.
 constexpr int quietly = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
 
+// Opening a pipe or a device has effects of its own, so it is not even tried.
 bool isRegularFile(const NativePath& path) noexcept {
   struct stat status {};
   return stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
@@ -39,12 +41,24 @@ File streamOver(int descriptor, const char* mode) noexcept {
   return File(stream);
 }
 
-// A link counts as what it leads to.
-DirectoryEntry describe(int directory, const char* name) {
-  DirectoryEntry entry{textFromName(name), false, false};
+// What the file system says of an entry by itself; where it does not say, or says that the entry is a
+// link, the system is asked. A link counts as what it leads to.
+DirectoryEntry describe(int directory, const dirent& found) {
+  const char* const name = found.d_name;
+  DirectoryEntry entry;
+  entry.name = textFromName(name);
+  entry.isDirectory = found.d_type == DT_DIR;
+  entry.isRegularFile = found.d_type == DT_REG;
+  entry.isLink = found.d_type == DT_LNK;
+  if (found.d_type != DT_UNKNOWN && !entry.isLink) return entry;
   struct stat status {};
-  entry.isLink = fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(status.st_mode);
-  entry.isDirectory = fstatat(directory, name, &status, 0) == 0 && isDirectory(status);
+  if (!entry.isLink)
+    entry.isLink =
+        fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(status.st_mode);
+  if (fstatat(directory, name, &status, 0) == 0) {
+    entry.isDirectory = isDirectory(status);
+    entry.isRegularFile = S_ISREG(status.st_mode);
+  }
   return entry;
 }
 
@@ -71,7 +85,7 @@ bool enumerateDirectory(const NativePath& directory,
   while (const dirent* entry = readdir(stream.get())) {
     const std::string_view name = entry->d_name;
     if (name == "." || name == "..") continue;
-    if (!visit(describe(dirfd(stream.get()), entry->d_name))) break;
+    if (!visit(describe(dirfd(stream.get()), *entry))) break;
   }
   return true;
 }
@@ -89,9 +103,8 @@ bool renameFile(const NativePath& from, const NativePath& to) noexcept {
   return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
-// Regular files only: opening a pipe or a device has effects of its own.
 File openForReading(const NativePath& path) noexcept {
-  return isRegularFile(path) ? streamOver(open(path.c_str(), O_RDONLY | quietly), "rb") : nullptr;
+  return streamOver(open(path.c_str(), O_RDONLY | quietly), "rb");
 }
 
 // The file is emptied last, and goes again if it came with this call, so that a failure changes
@@ -107,12 +120,21 @@ File openForWriting(const NativePath& path) noexcept {
   return nullptr;
 }
 
+// Version 4: random but for the digits that say so.
 Text makeUuid() {
-  uuid_t uuid;
-  uuid_generate_random(uuid);
-  char digits[UUID_STR_LEN];
-  uuid_unparse_lower(uuid, digits);
-  return textFromName(digits);
+  unsigned char bytes[16];
+  if (getrandom(bytes, sizeof bytes, 0) != static_cast<ssize_t>(sizeof bytes)) throw std::bad_alloc();
+  bytes[6] = static_cast<unsigned char>((bytes[6] & 0x0FU) | 0x40U);
+  bytes[8] = static_cast<unsigned char>((bytes[8] & 0x3FU) | 0x80U);
+  Text uuid;
+  for (const unsigned char byte : bytes) {
+    constexpr char digits[] = "0123456789abcdef";
+    const std::size_t length = uuid.size();
+    if (length == 8 || length == 13 || length == 18 || length == 23) uuid += u'-';
+    uuid += static_cast<Char>(digits[byte >> 4U]);
+    uuid += static_cast<Char>(digits[byte & 0x0FU]);
+  }
+  return uuid;
 }
 
 }  // namespace Tesk::KoStyle::platform

@@ -50,7 +50,7 @@ bool enumerateDirectory(const NativePath& directory,
   const Search search = findFirst(directory + L"\\*", found);
   if (!search) return false;
   do {
-    DirectoryEntry entry{found.cFileName, isDirectory(found), false};
+    DirectoryEntry entry{found.cFileName, isDirectory(found), !isDirectory(found), false};
     if (entry.isDirectory && (entry.name == L"." || entry.name == L"..")) continue;
     if (!visit(std::move(entry))) break;
   } while (FindNextFileW(search.get(), &found));

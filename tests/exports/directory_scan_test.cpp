@@ -10,6 +10,14 @@
 #include <share.h>
 
 #include <cstdio>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <chrono>
+#include <thread>
 #endif
 
 #include "support/host.h"
@@ -297,5 +305,30 @@ TEST_F(DirectoryScan, ReadsNamesFromEveryPlane) {
     EXPECT_EQ(Style_path(style), expected);
   }
 }
+
+#if !defined(_WIN32)
+
+// Whoever waits for a pipe's other end goes on waiting. The pauses give a fault time to show.
+TEST_F(DirectoryScan, DoesNotOpenAPipeNorALinkToOne) {
+  const test::fs::path pipe = user / "pipe.kostyle";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  test::fs::create_symlink(pipe, user / "link.kostyle");
+  std::atomic<bool> released{false};
+  std::thread writer([&] {
+    const int end = open(pipe.c_str(), O_WRONLY);
+    released = true;
+    close(end);
+  });
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  EXPECT_EQ(readUser(), KOSTYLE_OK);
+  EXPECT_EQ(StyleManager_numUserStyleCreationResult(*manager), 0u);
+  std::this_thread::sleep_for(std::chrono::milliseconds(50));
+  EXPECT_FALSE(released);
+  const int otherEnd = open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+  writer.join();
+  close(otherEnd);
+}
+
+#endif
 
 }  // namespace

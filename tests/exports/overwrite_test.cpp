@@ -56,6 +56,19 @@ TEST_F(Overwrite, KeepsHandlePathIdentifierAndPlace) {
                 R"("audioEffect":{"E":{"parameter":{"p":1}}},"midiEffect":{"M":{}}})");
 }
 
+TEST_F(Overwrite, LeavesTheTextsOfIdentifierAndPathWhereTheyAre) {
+  for (const std::string& id : {std::string("u"), std::string(100, 'u')}) {
+    KoStyleStyle* user = host.addUserStyle(id);
+    const KoStyleChar* const idBefore = Style_id(user);
+    const KoStyleChar* const pathBefore = Style_path(user);
+    int error = -1;
+    ASSERT_EQ(MutableStyle_overwrite(host.createMutableStyle("new"), idBefore, false, &error), user);
+    EXPECT_EQ(Style_id(user), idBefore);
+    EXPECT_EQ(Style_path(user), pathBefore);
+    EXPECT_EQ(utf8(idBefore), id);
+  }
+}
+
 TEST_F(Overwrite, WritesPrettyOnRequest) {
   KoStyleStyle* user = host.addUserStyle("u");
   ASSERT_EQ(overwrite(host.createMutableStyle("new"), "u", true), user);

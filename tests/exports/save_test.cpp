@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <kostyle/kostyle.h>
 
+#include <cstdlib>
 #include <set>
 #include <string>
 #include <vector>
@@ -155,6 +156,16 @@ TEST_F(Save, WritesANameThatReadingReplaces) {
   EXPECT_EQ(utf8(Parameter_name(Effect_parameter(Style_audioEffect(saved, 0), 0))), "Tarn");
   saved = reread(saved);
   EXPECT_EQ(utf8(Parameter_name(Effect_parameter(Style_audioEffect(saved, 0), 0))), "Tarn630");
+}
+
+TEST_F(Save, LeavesTheHostsRandomNumbersAlone) {
+  const auto numbers = [] { return std::vector<int>{std::rand(), std::rand(), std::rand()}; };
+  std::srand(1);
+  const std::vector<int> expected = numbers();
+  KoStyleStyle* style = host.createMutableStyle("N");
+  std::srand(1);
+  test::Host::save(style);
+  EXPECT_EQ(numbers(), expected);
 }
 
 TEST_F(Save, GivesAStyleThatCanBeRemovedAtOnce) {

@@ -73,7 +73,6 @@ INSTANTIATE_TEST_SUITE_P(
     Each, EditingWithoutMemory,
     testing::Values(
         Edit{"setName", [](KoStyleStyle* style) { return MutableStyle_setName(style, longText); }},
-        Edit{"addLanguage", [](KoStyleStyle* style) { return MutableStyle_addLanguage(style, 0); }},
         Edit{"addSingerGroup",
              [](KoStyleStyle* style) { return MutableStyle_addSingerGroup(style, longText); }},
         Edit{"addSingerID",

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "model/parameter.h"
+#include "model/mutable_style.h"
 #include "support/text.h"
 
 namespace Tesk::KoStyle {
@@ -17,19 +17,19 @@ namespace {
 using test::text;
 using testing::ElementsAre;
 
-std::unique_ptr<Parameter> named(Text name) {
-  auto parameter = std::make_unique<Parameter>(nullptr);
-  parameter->assignName(std::move(name));
-  return parameter;
+std::unique_ptr<MutableParameter> named(Text name) {
+  static MutableStyle style(nullptr);
+  static MutableAudioEffect parent(style, KOSTYLE_TEXT("e"));
+  return std::make_unique<MutableParameter>(parent, std::move(name));
 }
 
-ParameterBase* append(ParameterList& list, const std::string& name) {
+MutableParameter* append(ParameterList& list, const std::string& name) {
   return list.append(named(text(name)));
 }
 
 std::vector<std::string> namesOf(const ParameterList& list) {
   std::vector<std::string> names;
-  for (const ParameterBase& parameter : list) names.push_back(test::utf8(parameter.wholeName()));
+  for (const MutableParameter& parameter : list) names.push_back(test::utf8(parameter.wholeName()));
   return names;
 }
 

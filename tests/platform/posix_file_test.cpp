@@ -11,6 +11,7 @@
 #include <cstring>
 #include <map>
 #include <string>
+#include <tuple>
 
 #include "native_path.h"
 
@@ -136,16 +137,19 @@ TEST_F(PosixFiles, EnumerationTellsLinksAndWhatTheyLeadTo) {
   test::fs::create_symlink("file", directory_ / "to-file");
   test::fs::create_directory_symlink("folder", directory_ / "to-folder");
   test::fs::create_symlink("missing", directory_ / "dangling");
-  std::map<std::string, std::pair<bool, bool>> entries;
+  ASSERT_EQ(mkfifo(at("pipe").c_str(), 0600), 0);
+  test::fs::create_symlink("pipe", directory_ / "to-pipe");
+  using Facts = std::tuple<bool, bool, bool>;  // a directory, a regular file, a link
+  std::map<std::string, Facts> entries;
   enumerateDirectory(directory_.path().native(), [&](DirectoryEntry&& entry) {
-    entries[test::utf8(entry.name)] = {entry.isDirectory, entry.isLink};
+    entries[test::utf8(entry.name)] = {entry.isDirectory, entry.isRegularFile, entry.isLink};
     return true;
   });
-  const std::map<std::string, std::pair<bool, bool>> expected = {{"file", {false, false}},
-                                                                 {"folder", {true, false}},
-                                                                 {"to-file", {false, true}},
-                                                                 {"to-folder", {true, true}},
-                                                                 {"dangling", {false, true}}};
+  const std::map<std::string, Facts> expected = {
+      {"file", {false, true, false}},    {"folder", {true, false, false}},
+      {"to-file", {false, true, true}},  {"to-folder", {true, false, true}},
+      {"pipe", {false, false, false}},   {"to-pipe", {false, false, true}},
+      {"dangling", {false, false, true}}};
   EXPECT_EQ(entries, expected);
 }
 

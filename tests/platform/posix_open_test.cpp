@@ -66,8 +66,14 @@ TEST_F(PosixOpen, OldContentIsGoneOnceTheFileIsOpen) {
   EXPECT_EQ(test::readFile(directory / "old"), "");
 }
 
+TEST_F(PosixOpen, AnotherThanTheRegularFileThatWasListedIsNotRead) {
+  ASSERT_EQ(mkfifo((directory / "pipe").c_str(), 0600), 0);
+  EXPECT_FALSE(platform::openForReading(path("pipe")));
+  EXPECT_FALSE(platform::openForReading(path(".")));
+}
+
 // Whoever waits for a pipe's other end goes on waiting. The pauses give a fault time to show.
-TEST_F(PosixOpen, PipeIsNotOpenedAtAll) {
+TEST_F(PosixOpen, PipeIsNotOpenedForWritingAtAll) {
   ASSERT_EQ(mkfifo((directory / "pipe").c_str(), 0600), 0);
   std::atomic<bool> released{false};
   std::thread writer([&] {
@@ -76,7 +82,6 @@ TEST_F(PosixOpen, PipeIsNotOpenedAtAll) {
     close(end);
   });
   std::this_thread::sleep_for(std::chrono::milliseconds(50));
-  EXPECT_FALSE(platform::openForReading(path("pipe")));
   EXPECT_FALSE(platform::openForWriting(path("pipe")));
   std::this_thread::sleep_for(std::chrono::milliseconds(50));
   EXPECT_FALSE(released);

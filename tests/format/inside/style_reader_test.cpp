@@ -15,21 +15,22 @@ using namespace Tesk::KoStyle;
 
 const std::string sample = test::documentWith("");
 
-class StyleReader : public testing::Test {
+class StyleReaderTest : public testing::Test {
  protected:
   void open(const std::string& content) {
     test::writeFile(directory / "file", content);
     file = platform::openForReading(platform::nativePath(test::pathText(directory / "file")));
     ASSERT_TRUE(file);
   }
-  auto read(StyleKind kind) { return readStyleFile(kind, nullptr, file.get(), outcome); }
+  auto read(StyleKind kind) { return reader.read(kind, nullptr, file.get(), outcome); }
 
   test::TemporaryDirectory directory;
   platform::File file;
+  StyleReader reader;
   StyleReadOutcome outcome;
 };
 
-TEST_F(StyleReader, OtherKindsGiveNoStyle) {
+TEST_F(StyleReaderTest, OtherKindsGiveNoStyle) {
   for (const unsigned kind : {unsigned{KOSTYLE_KIND_MUTABLE}, unsigned{KOSTYLE_KIND_NONE}, ~0u}) {
     open(sample);
     EXPECT_EQ(read(StyleKind{kind}), nullptr) << kind;
@@ -38,7 +39,7 @@ TEST_F(StyleReader, OtherKindsGiveNoStyle) {
   }
 }
 
-TEST_F(StyleReader, SyntaxIsCheckedBeforeTheKind) {
+TEST_F(StyleReaderTest, SyntaxIsCheckedBeforeTheKind) {
   open("");
   read(StyleKind{KOSTYLE_KIND_MUTABLE});
   EXPECT_EQ(outcome.error, unsigned{KOSTYLE_ERROR_JSON_SYNTAX});
@@ -48,17 +49,36 @@ TEST_F(StyleReader, SyntaxIsCheckedBeforeTheKind) {
   EXPECT_EQ(outcome.error, unsigned{KOSTYLE_ERROR_NO_STYLE_FOR_KIND});
 }
 
-TEST_F(StyleReader, LeavesTheFileOpen) {
+TEST_F(StyleReaderTest, LeavesTheFileOpen) {
   open(sample);
   EXPECT_NE(read(StyleKind::user), nullptr);
   ASSERT_EQ(std::fseek(file.get(), 0, SEEK_SET), 0);
   EXPECT_EQ(std::fgetc(file.get()), '{');
 }
 
-TEST_F(StyleReader, ReadsFromWhereTheFileStands) {
+TEST_F(StyleReaderTest, ReadsFromWhereTheFileStands) {
   open("skipped" + sample);
   ASSERT_EQ(std::fseek(file.get(), 7, SEEK_SET), 0);
   EXPECT_NE(read(StyleKind::user), nullptr);
+}
+
+// What one file leaves behind in the reader's memory shows in no other.
+TEST_F(StyleReaderTest, ReadsOneFileAfterTheOther) {
+  open("{\"id\":\"" + std::string(1 << 20, 'x') + "\", \"name\":\"n\"}");
+  EXPECT_EQ(read(StyleKind::user), nullptr);
+  EXPECT_EQ(outcome.error, unsigned{KOSTYLE_ERROR_NO_EFFECT});
+  open("[1,");
+  EXPECT_EQ(read(StyleKind::user), nullptr);
+  EXPECT_EQ(outcome.error, unsigned{KOSTYLE_ERROR_JSON_SYNTAX});
+  for (int i = 0; i < 3; ++i) {
+    open(test::documentWith(R"("filter":{"genres":["a"],"languages":[1]})"));
+    const auto style = read(StyleKind::user);
+    ASSERT_NE(style, nullptr);
+    EXPECT_EQ(style->numGenre(), 1U);
+    EXPECT_EQ(style->numLanguage(), 1U);
+    open(sample);
+    EXPECT_EQ(read(StyleKind::system)->numGenre(), 0U);
+  }
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // The serializer's builders, as only the code sees them.
-#include "writer/style_serializer.h"
+#include "format/style_serializer.h"
 
 #include <gmock/gmock.h>
 
@@ -7,9 +7,8 @@
 #include <memory>
 #include <string>
 
-#include "model/effect.h"
-#include "model/mutable_effect.h"
-#include "model/mutable_parameter.h"
+#include "model/style_builder.h"
+#include "model/user_style.h"
 #include "platform/platform.h"
 #include "support/temporary_directory.h"
 #include "support/text.h"
@@ -20,15 +19,14 @@ using namespace Tesk::KoStyle;
 using test::text;
 
 struct Serializer : testing::Test {
-  IMutableEffect* addEffect(const char* id) { return style.insertAudioEffect(99, text(id).c_str()); }
+  Serializer() { style.insertAudioEffect(0, KOSTYLE_TEXT("E")); }
 
   // The bytes of the file that writing leaves.
-  std::string write() {
+  std::string write(const StyleDocument& document) {
     const auto path = directory / "written";
     {
       const platform::File file = platform::openForWriting(platform::nativePath(test::pathText(path)));
-      EXPECT_EQ(writeStyleFile(StyleDocument(style, KOSTYLE_TEXT("X")), false, file.get()),
-                std::uint32_t{KOSTYLE_OK});
+      EXPECT_EQ(writeStyleFile(document, false, file.get()), std::uint32_t{KOSTYLE_OK});
     }
     return test::readFile(path);
   }
@@ -42,67 +40,64 @@ struct Serializer : testing::Test {
 
 TEST_F(Serializer, BuildersRefuseTargetsThatAreNotObjects) {
   auto& pool = holder.GetAllocator();
-  const MutableAudioEffect effect(nullptr);
+  const MutableEffect& effect = *style.chain(EffectKind::audio).begin();
   EXPECT_EQ(writeFilter(style.attributes(), notAnObject, pool),
             std::uint32_t{KOSTYLE_ERROR_WRITE_FILTER_TARGET});
-  EXPECT_EQ(writeEffectChain<IMutableAudioEffect>(style.chain(EffectKind::audio), notAnObject, pool),
+  EXPECT_EQ(writeEffectChain(style.audioEffects(), notAnObject, pool),
             std::uint32_t{KOSTYLE_ERROR_WRITE_CHAIN_TARGET});
   EXPECT_EQ(writeParameters(&effect, notAnObject, pool),
             std::uint32_t{KOSTYLE_ERROR_WRITE_PARAMETER_TARGET});
-  EXPECT_EQ(writeParameters(nullptr, object, pool),
+  EXPECT_EQ(writeParameters<MutableEffect>(nullptr, object, pool),
             std::uint32_t{KOSTYLE_ERROR_WRITE_NO_EFFECT_OBJECT});
 }
 
 TEST_F(Serializer, MissingEffectIsReportedBeforeTheTarget) {
-  EXPECT_EQ(writeParameters(nullptr, notAnObject, holder.GetAllocator()),
+  EXPECT_EQ(writeParameters<Effect>(nullptr, notAnObject, holder.GetAllocator()),
             std::uint32_t{KOSTYLE_ERROR_WRITE_NO_EFFECT_OBJECT});
 }
 
-TEST_F(Serializer, ChainPassesOverEffectsOfOtherInterfacesAndWithoutId) {
-  EffectChain chain;
-  const auto append = [&](std::unique_ptr<EffectBase> effect, const char* id) {
-    effect->assignId(text(id));
-    chain.append(EffectChain::prepare(std::move(effect)));
-  };
-  append(std::make_unique<MutableAudioEffect>(&style), "taken");
-  append(std::make_unique<AudioEffect>(&style), "stored");
-  append(std::make_unique<MutableMidiEffect>(&style), "midi");
-  append(std::make_unique<MutableAudioEffect>(&style), "");
-  EXPECT_EQ(writeEffectChain<IMutableAudioEffect>(chain, object, holder.GetAllocator()),
-            std::uint32_t{KOSTYLE_OK});
+TEST_F(Serializer, ChainPassesOverEffectsWithoutId) {
+  const UserStyle owner(nullptr);
+  FrozenArray<AudioEffect> chain(2);
+  chain.emplace(owner, KOSTYLE_TEXT("taken"), ParameterRange());
+  chain.emplace(owner, KOSTYLE_TEXT(""), ParameterRange());
+  EXPECT_EQ(writeEffectChain(chain, object, holder.GetAllocator()), std::uint32_t{KOSTYLE_OK});
   ASSERT_EQ(object.MemberCount(), 1U);
   EXPECT_EQ(json::view(object.MemberBegin()->name), text("taken"));
 }
 
+TEST_F(Serializer, ParametersWithoutNameAndEmptyTextsAreDropped) {
+  auto& pool = holder.GetAllocator();
+  style.chain(EffectKind::audio)
+      .begin()
+      ->parameters()
+      .append(std::make_unique<MutableParameter>(*style.chain(EffectKind::audio).begin(), Text()));
+  EXPECT_EQ(writeParameters(&*style.audioEffects().begin(), object, pool), std::uint32_t{KOSTYLE_OK});
+  Attributes<SortedSet<Text>> attributes;
+  attributes[Attribute::color].insert(TextView());
+  EXPECT_EQ(writeFilter(attributes, object, pool), std::uint32_t{KOSTYLE_OK});
+  EXPECT_TRUE(object.ObjectEmpty());
+}
+
 TEST_F(Serializer, EmptyIdentifierIsReportedBeforeTheEmptyName) {
-  EXPECT_EQ(StyleDocument(style, TextView()).code(), std::uint32_t{KOSTYLE_ERROR_WRITE_EMPTY_ID});
-  EXPECT_EQ(StyleDocument(style, KOSTYLE_TEXT("X")).code(),
+  MutableStyle empty(nullptr);
+  EXPECT_EQ(StyleDocument(empty, TextView()).code(), std::uint32_t{KOSTYLE_ERROR_WRITE_EMPTY_ID});
+  EXPECT_EQ(StyleDocument(empty, KOSTYLE_TEXT("X")).code(),
             std::uint32_t{KOSTYLE_ERROR_WRITE_EMPTY_NAME});
-  style.setName(KOSTYLE_TEXT("N"));
-  EXPECT_EQ(StyleDocument(style, KOSTYLE_TEXT("X")).code(), std::uint32_t{KOSTYLE_ERROR_NO_EFFECT});
-}
-
-TEST_F(Serializer, LanguagesOutsideTheRangeAreDropped) {
-  style.setName(KOSTYLE_TEXT("N"));
-  addEffect("E");
-  for (const int language : {2, 7, -1}) style.attributes().languages.insert(language);
-  EXPECT_EQ(write(), R"({"id":"X","name":"N","filter":{"languages":[2]},"audioEffect":{"E":{}}})");
-  style.attributes().languages.erase(2);
-  EXPECT_EQ(write(), R"({"id":"X","name":"N","audioEffect":{"E":{}}})");
-}
-
-TEST_F(Serializer, EmptyTextsAndNamesAreDropped) {
-  style.setName(KOSTYLE_TEXT("N"));
-  style.attributes().colors.insert(TextView());
-  auto* effect = dynamic_cast<EffectBase*>(addEffect("E"));
-  effect->parameters().append(std::make_unique<MutableParameter>(effect));
-  EXPECT_EQ(write(), R"({"id":"X","name":"N","audioEffect":{"E":{}}})");
+  empty.setName(KOSTYLE_TEXT("N"));
+  EXPECT_EQ(StyleDocument(empty, KOSTYLE_TEXT("X")).code(), std::uint32_t{KOSTYLE_ERROR_NO_EFFECT});
 }
 
 TEST_F(Serializer, LongNameIsWrittenWhole) {
-  style.assignName(Text(1000, Char('n')));
-  addEffect("E");
-  EXPECT_EQ(write(), R"({"id":"X","name":")" + std::string(1000, 'n') + R"(","audioEffect":{"E":{}}})");
+  UserStyle stored(nullptr);
+  StyleBuilder builder;
+  builder.addEffect(EffectKind::midi, KOSTYLE_TEXT("E"));
+  StoredContent content = builder.freeze(stored);
+  content.name = Text(1000, Char('n'));
+  stored.exchangeContent(content);
+  stored.assignId(text("X"));
+  EXPECT_EQ(write(StyleDocument(stored)),
+            R"({"id":"X","name":")" + std::string(1000, 'n') + R"(","midiEffect":{"E":{}}})");
 }
 
 }  // namespace

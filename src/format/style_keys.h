@@ -1,0 +1,41 @@
+// The names that stand in a style document. Whoever reads or writes one takes them from here.
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "model/attributes.h"
+#include "model/effect_kind.h"
+#include "platform/text.h"
+
+namespace Tesk::KoStyle {
+
+inline constexpr TextView styleFileExtension = KOSTYLE_TEXT(".kostyle");
+
+}  // namespace Tesk::KoStyle
+
+namespace Tesk::KoStyle::key {
+
+inline constexpr TextView id = KOSTYLE_TEXT("id");
+inline constexpr TextView name = KOSTYLE_TEXT("name");
+inline constexpr TextView vendor = KOSTYLE_TEXT("vendor");
+inline constexpr TextView filter = KOSTYLE_TEXT("filter");
+
+/// The chain of a kind.
+constexpr TextView chain(EffectKind kind) {
+  return kind == EffectKind::audio ? KOSTYLE_TEXT("audioEffect") : KOSTYLE_TEXT("midiEffect");
+}
+
+// In an effect object.
+inline constexpr TextView parameter = KOSTYLE_TEXT("parameter");
+
+// In the filter object, the languages first.
+inline constexpr TextView languages = KOSTYLE_TEXT("languages");
+constexpr TextView list(Attribute attribute) {
+  constexpr std::array<TextView, textAttributes.size()> keys = {
+      KOSTYLE_TEXT("singerGroups"), KOSTYLE_TEXT("singerIDs"), KOSTYLE_TEXT("genres"),
+      KOSTYLE_TEXT("subGenres"), KOSTYLE_TEXT("colors")};
+  return keys[static_cast<std::size_t>(attribute)];
+}
+
+}  // namespace Tesk::KoStyle::key

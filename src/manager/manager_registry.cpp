@@ -1,0 +1,62 @@
+#include "manager/manager_registry.h"
+
+#include <memory>
+#include <utility>
+
+#include "manager/file_system.h"
+
+namespace Tesk::KoStyle {
+
+namespace {
+
+// Needs no code to come into being, so it is there before any of the host's objects. It must also be
+// there after them: a static object of the host may destroy its manager. So it is not destroyed among
+// static objects, whose order depends on when the library was loaded, but by the library's own last
+// step.
+union Registry {
+  constexpr Registry() : value() {}
+  ~Registry() {}
+  StyleManagerRegistry value;
+} registry;
+
+#if defined(__GNUC__)
+[[gnu::destructor]] void destroyRegistry() { registry.value.~StyleManagerRegistry(); }
+#else
+const struct AtUnload {
+  ~AtUnload() { registry.value.~StyleManagerRegistry(); }
+} atUnload;
+#endif
+
+}  // namespace
+
+StyleManagerRegistry& StyleManagerRegistry::instance() noexcept { return registry.value; }
+
+IStyleManager* StyleManagerRegistry::findOrCreate(const Char* appID, const Char* systemStyleDirPath,
+                                                  const Char* userStyleDirPath,
+                                                  std::vector<Text> systemStyleDirs,
+                                                  std::vector<Text> userStyleDirs, int& error) {
+  const std::lock_guard guard(lock_);
+  const auto fail = [&](int code) {
+    error = code;
+    return nullptr;
+  };
+  if (!appID || *appID == 0) return fail(KOSTYLE_ERROR_APP_ID_MISSING);
+  if (StyleManager* manager = managers_.findKey(appID)) {
+    error = KOSTYLE_OK;
+    return manager;
+  }
+  if (!isDirectory(systemStyleDirPath)) return fail(KOSTYLE_ERROR_SYSTEM_DIRECTORY_MISSING);
+  if (!ensureDirectory(userStyleDirPath)) return fail(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
+  auto manager = std::make_unique<StyleManager>(appID, systemStyleDirPath, userStyleDirPath,
+                                                std::move(systemStyleDirs), std::move(userStyleDirs));
+  IStyleManager* const registered = &managers_.append(managers_.makeNode(std::move(manager)));
+  error = KOSTYLE_OK;
+  return registered;
+}
+
+void StyleManagerRegistry::destroy(const IStyleManager* manager) {
+  const std::lock_guard guard(lock_);
+  managers_.destroy(manager);
+}
+
+}  // namespace Tesk::KoStyle

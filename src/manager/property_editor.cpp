@@ -1,0 +1,52 @@
+#include "manager/property_editor.h"
+
+#include <optional>
+#include <utility>
+
+#include "format/style_serializer.h"
+#include "platform/platform.h"
+
+namespace Tesk::KoStyle {
+
+bool PropertyEditor::setStyleName(const Char* name) {
+  if (!name || *name == 0) return false;
+  name_ = name;
+  return true;
+}
+
+bool PropertyEditor::addSubGenre(const Char* subGenre) {
+  return subGenre && *subGenre != 0 && subGenres_.insert(TextView(subGenre));
+}
+
+bool PropertyEditor::addColor(const Char* color) {
+  return color && *color != 0 && colors_.insert(TextView(color));
+}
+
+// Writes in place and always indented, whatever the argument.
+bool PropertyEditor::save(const bool&) {
+  if (!isStyleName(name_)) return false;
+  StyleProperties properties{name_, FrozenTexts(subGenres_), FrozenTexts(colors_)};
+  const platform::NativePath path = platform::nativePath(style_.path());
+  style_.exchangeProperties(properties);
+  std::optional<StyleDocument> document;
+  try {
+    document.emplace(style_);
+  } catch (...) {
+    style_.exchangeProperties(properties);
+    throw;
+  }
+
+  // Opening empties the file, also for a style that then cannot be written.
+  const platform::File file = platform::openForWriting(path);
+  if (file && writeStyleFile(*document, true, file.get()) == KOSTYLE_OK) return true;
+  restore(properties);
+  return false;
+}
+
+// A style without a name of its own, which a file with too long a name gives, keeps the new one.
+void PropertyEditor::restore(StyleProperties& properties) noexcept {
+  style_.exchangeProperties(properties);
+  if (!isStyleName(style_.wholeName())) style_.exchangeName(properties.name);
+}
+
+}  // namespace Tesk::KoStyle

@@ -1,0 +1,76 @@
+// StyleBuilder: collects what a stored style is to hold, applies the rules by which a style takes it,
+// and freezes what is left.
+//
+// Of effects with one identifier in a chain, and of parameters with one name in an effect, the first
+// stays. Effects keep their order; parameters and attribute texts sort. The texts handed in are not
+// copied before freeze(), so they must live until then.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+#include "model/attributes.h"
+#include "model/effect_kind.h"
+#include "model/name_order.h"
+#include "model/parameter_value.h"
+#include "model/stored_content.h"
+
+namespace Tesk::KoStyle {
+
+class StyleBuilder {
+ public:
+  /// Starts anew, keeping the memory.
+  void clear() noexcept;
+
+  /// A name that no style may have is left out.
+  void setName(TextView name) noexcept { name_ = isStyleName(name) ? name : TextView(); }
+
+  // A value that the attribute cannot have is left out.
+  void addLanguage(int language) noexcept { languages_.insert(language); }
+  void addText(Attribute attribute, TextView text);
+
+  /// An effect without parameters. The identifier must not be empty.
+  void addEffect(EffectKind kind, TextView id);
+
+  /// A parameter of the effect that was added last. The name must not be empty.
+  void addParameter(TextView name, const ParameterValue& value) {
+    parameters_.push_back({{name}, value});
+  }
+
+  bool hasEffects() const noexcept { return !effects_.empty(); }
+
+  /// The content of `style`, for Style::exchangeContent().
+  StoredContent freeze(const Style& style);
+
+ private:
+  struct ParameterEntry : Named {
+    ParameterValue value;
+  };
+  struct EffectEntry : Named {
+    EffectKind kind;
+    std::size_t firstParameter;  // in parameters_
+    bool taken = false;
+    std::size_t firstKey = 0;  // in parameterKeys_, once taken
+    std::size_t numKeys = 0;
+  };
+
+  void takeEffects(EffectKind kind);
+  void orderParameters();
+  std::size_t countUnits() const noexcept;
+  template <class EffectType>
+  void freezeChain(EffectKind kind, const Style& style, FrozenArray<EffectType>& chain,
+                   FrozenArray<Parameter>& parameters, Char*& texts) const;
+  FrozenTexts freezeTexts(Attribute attribute);
+
+  TextView name_;
+  LanguageSet languages_;
+  std::array<std::vector<Named>, textAttributes.size()> texts_;
+  std::vector<EffectEntry> effects_;
+  std::vector<ParameterEntry> parameters_;
+  std::vector<NameKey> parameterKeys_;
+  std::vector<NameKey> keys_;
+  std::vector<TextView> distinctTexts_;
+};
+
+}  // namespace Tesk::KoStyle
