@@ -24,7 +24,7 @@ KOSTYLE_API KoStyleCreationResult* StyleCreationResult_prev(KoStyleCreationResul
  */
 KOSTYLE_API int StyleCreationResult_error(KoStyleCreationResult* result);
 
-/** The path of the file, as listed. */
+/** The path of the file: the directory as it was given, a separator and the file's name. */
 KOSTYLE_API const KoStyleChar* StyleCreationResult_filePath(KoStyleCreationResult* result);
 
 /**
@@ -49,8 +49,11 @@ KOSTYLE_API const KoStyleChar* StyleCreationResult_jsonPath(KoStyleCreationResul
 KOSTYLE_API int StyleCreationResult_parseError(KoStyleCreationResult* result);
 
 /**
- * After KOSTYLE_ERROR_JSON_SYNTAX, the number of bytes of the file that the parser had taken when
- * it found the error, a byte-order mark included; otherwise 0. SIZE_MAX for a null handle.
+ * After KOSTYLE_ERROR_JSON_SYNTAX, where the error is: the number of bytes of the file up to and
+ * including the character at fault, a byte-order mark included; the length of the file when the file
+ * ends too early. Of a number that is too big, an escape and an encoding that is not valid, the
+ * character at fault is the first one; of KOSTYLE_PARSE_TERMINATED it is the one behind the bracket.
+ * Otherwise 0. SIZE_MAX for a null handle.
  */
 KOSTYLE_API size_t StyleCreationResult_parseErrorOffset(KoStyleCreationResult* result);
 
