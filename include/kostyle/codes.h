@@ -109,7 +109,7 @@ enum KoStyleParseError {
   KOSTYLE_PARSE_NO_CREATION_RESULT = 18
 };
 
-/** Kind of a style (Style_type()) and of the read that made a record (StyleCreationResult_type()). */
+/** Kind of a style (Style_type()) and of the set of a creation result (StyleCreationResult_type()). */
 enum KoStyleKind {
   /** Read from a system style directory; never changed by the library. */
   KOSTYLE_KIND_SYSTEM = 0,

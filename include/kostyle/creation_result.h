@@ -1,6 +1,6 @@
 /*
- * KoStyle: creation results. Reading a style set leaves one record for each style file that was
- * opened, whether its style was taken or not. A record never changes and lives until its set is read
+ * KoStyle: creation results. Reading a style set leaves one for each style file that was opened,
+ * whether its style was taken or not. It never changes, and lives with its texts until its set is read
  * again or its manager is destroyed.
  */
 #ifndef KOSTYLE_CREATION_RESULT_H
@@ -8,10 +8,10 @@
 
 #include "types.h"
 
-/** The record after this one of the same set, in reading order; NULL at the end. */
+/** The creation result after this one of the same set, in reading order; NULL at the end. */
 KOSTYLE_API KoStyleCreationResult* StyleCreationResult_next(KoStyleCreationResult* result);
 
-/** The record before this one of the same set; NULL at the front. */
+/** The creation result before this one of the same set; NULL at the front. */
 KOSTYLE_API KoStyleCreationResult* StyleCreationResult_prev(KoStyleCreationResult* result);
 
 /**

@@ -76,9 +76,9 @@ KOSTYLE_API const KoStyleChar* StyleManager_userStyleDirPath(KoStyleManager* man
  *
  * Bad files do not fail the read: each opened file leaves one creation result that says whether its
  * style was taken. Files that cannot be opened, further directories that do not exist and directories
- * that exist but cannot be listed are passed over without a record: the code is KOSTYLE_OK. The order
- * of the styles is that of the directories, and within one directory the order in which the file system
- * enumerates the files.
+ * that exist but cannot be listed are passed over without a creation result: the code is KOSTYLE_OK.
+ * The order of the styles is that of the directories, and within one directory the order in which the
+ * file system enumerates the files.
  *
  * Identifiers are unique over the system and the user styles together: a file whose identifier a style
  * of either set has is refused with KOSTYLE_ERROR_DUPLICATE_ID, so the order of the two reads decides
