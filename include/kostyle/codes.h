@@ -11,17 +11,17 @@
 enum KoStyleCode {
   /** Success. */
   KOSTYLE_OK = 0,
-  /** Null directory path on a read, empty name on a save, or null identifier on an overwrite. */
+  /** Empty name on a save, or null identifier on an overwrite. */
   KOSTYLE_ERROR_ARGUMENT_MISSING = 1,
-  /** Null handle or a handle of the wrong kind. */
+  /** Null handle, a handle of the wrong kind, or a removal that ran out of memory. */
   KOSTYLE_ERROR_INVALID_HANDLE = 2,
-  /** No style can be made for the kind that was asked for. */
+  /** No style can be made for the kind that was asked for. Never reported to a host. */
   KOSTYLE_ERROR_NO_STYLE_FOR_KIND = 3,
-  /** The style belongs to no manager. */
+  /** The style belongs to no manager. Never reported to a host. */
   KOSTYLE_ERROR_NO_MANAGER = 4,
-  /** The user style is not in its manager's list, or no user style has the identifier. */
+  /** No user style of the manager has the identifier. */
   KOSTYLE_ERROR_USER_STYLE_NOT_FOUND = 5,
-  /** The mutable style belongs to another manager. */
+  /** The mutable style belongs to another manager. Never reported to a host. */
   KOSTYLE_ERROR_FOREIGN_MUTABLE_STYLE = 6,
   /** The directory to read does not exist or is not a directory. */
   KOSTYLE_ERROR_DIRECTORY_MISSING = 7,
@@ -49,17 +49,17 @@ enum KoStyleCode {
   KOSTYLE_ERROR_EMPTY_STRING = 21,
   /** The manager already holds a style with the same identifier. */
   KOSTYLE_ERROR_DUPLICATE_ID = 22,
-  /** The style holds neither an audio nor a MIDI effect. */
+  /** The file read, or the style to be written, holds neither an audio nor a MIDI effect. */
   KOSTYLE_ERROR_NO_EFFECT = 23,
-  /** Writing: the identifier is empty. */
+  /** Writing: the identifier is empty. Never reported to a host. */
   KOSTYLE_ERROR_WRITE_EMPTY_ID = 24,
-  /** Writing: the name is empty. */
+  /** Writing: the name is empty. Only an overwrite reports it. */
   KOSTYLE_ERROR_WRITE_EMPTY_NAME = 25,
-  /** Writing: the document has no members. */
+  /** Writing: the document has no members. Never reported to a host. */
   KOSTYLE_ERROR_WRITE_EMPTY_DOCUMENT = 26,
-  /** Writing: the value to hold the attribute lists is not an object. */
+  /** Writing: the value to hold the attribute lists is not an object. Never reported to a host. */
   KOSTYLE_ERROR_WRITE_FILTER_TARGET = 27,
-  /** Writing: the value to hold an effect chain is not an object. */
+  /** Writing: the value to hold an effect chain is not an object. Never reported to a host. */
   KOSTYLE_ERROR_WRITE_CHAIN_TARGET = 28,
   /** Writing: the value to hold an effect's parameters is not an object. Never reported to a host. */
   KOSTYLE_ERROR_WRITE_PARAMETER_TARGET = 29,
@@ -89,7 +89,7 @@ enum KoStyleParseError {
   KOSTYLE_PARSE_ESCAPE_NOT_HEXADECIMAL = 8,
   /** A high surrogate escape is not followed by a low one. */
   KOSTYLE_PARSE_SURROGATE_INVALID = 9,
-  /** Not an escape character. */
+  /** A string holds a backslash that starts no escape, or a raw control character: line break, tab. */
   KOSTYLE_PARSE_ESCAPE_INVALID = 10,
   /** A string has no closing quotation mark. */
   KOSTYLE_PARSE_QUOTATION_MARK_MISSING = 11,
@@ -109,13 +109,13 @@ enum KoStyleParseError {
   KOSTYLE_PARSE_NO_CREATION_RESULT = 18
 };
 
-/** Kind of a style (Style_type()) and of the read that made a record (StyleCreationResult_type()). */
+/** Kind of a style (Style_type()) and of the set of a creation result (StyleCreationResult_type()). */
 enum KoStyleKind {
   /** Read from a system style directory; never changed by the library. */
   KOSTYLE_KIND_SYSTEM = 0,
   /** Read from or saved to a user style directory. */
   KOSTYLE_KIND_USER = 1,
-  /** A workspace in memory (styles only). */
+  /** Built in memory and not stored yet (styles only). */
   KOSTYLE_KIND_MUTABLE = 2,
   /** The null-handle default. */
   KOSTYLE_KIND_NONE = 3
@@ -143,7 +143,8 @@ enum KoStyleParameterType {
   KOSTYLE_PARAMETER_NONE = 3
 };
 
-/** Fixed limits. Style_minLangID(), Style_maxLangID() and Style_singerIDLength() answer three of them.
+/**
+ * Fixed limits. Style_minLangID(), Style_maxLangID() and Style_singerIDLength() answer three of them.
  */
 enum KoStyleLimit {
   /** Smallest language identifier. */

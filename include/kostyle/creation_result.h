@@ -1,6 +1,6 @@
 /*
- * KoStyle: creation results. Reading a style set leaves one record for each style file that was
- * opened, whether its style was taken or not. A record never changes and lives until its set is read
+ * KoStyle: creation results. Reading a style set leaves one for each style file that was opened,
+ * whether its style was taken or not. It never changes, and lives with its texts until its set is read
  * again or its manager is destroyed.
  */
 #ifndef KOSTYLE_CREATION_RESULT_H
@@ -8,10 +8,10 @@
 
 #include "types.h"
 
-/** The record after this one of the same set, in reading order; NULL at the end. */
+/** The creation result after this one of the same set, in reading order; NULL at the end. */
 KOSTYLE_API KoStyleCreationResult* StyleCreationResult_next(KoStyleCreationResult* result);
 
-/** The record before this one of the same set; NULL at the front. */
+/** The creation result before this one of the same set; NULL at the front. */
 KOSTYLE_API KoStyleCreationResult* StyleCreationResult_prev(KoStyleCreationResult* result);
 
 /**
@@ -24,7 +24,7 @@ KOSTYLE_API KoStyleCreationResult* StyleCreationResult_prev(KoStyleCreationResul
  */
 KOSTYLE_API int StyleCreationResult_error(KoStyleCreationResult* result);
 
-/** The path of the file, as listed. */
+/** The path of the file: the directory as it was given, a separator and the file's name. */
 KOSTYLE_API const KoStyleChar* StyleCreationResult_filePath(KoStyleCreationResult* result);
 
 /**
@@ -49,8 +49,11 @@ KOSTYLE_API const KoStyleChar* StyleCreationResult_jsonPath(KoStyleCreationResul
 KOSTYLE_API int StyleCreationResult_parseError(KoStyleCreationResult* result);
 
 /**
- * After KOSTYLE_ERROR_JSON_SYNTAX, the number of bytes of the file that the parser had taken when
- * it found the error, a byte-order mark included; otherwise 0. SIZE_MAX for a null handle.
+ * After KOSTYLE_ERROR_JSON_SYNTAX, where the error is: the number of bytes of the file up to and
+ * including the character at fault, a byte-order mark included; the length of the file when the file
+ * ends too early. Of a number that is too big, an escape and an encoding that is not valid, the
+ * character at fault is the first one; of KOSTYLE_PARSE_TERMINATED it is the one behind the bracket.
+ * Otherwise 0. SIZE_MAX for a null handle.
  */
 KOSTYLE_API size_t StyleCreationResult_parseErrorOffset(KoStyleCreationResult* result);
 

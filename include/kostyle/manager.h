@@ -11,13 +11,14 @@
  * Returns the manager of an application identifier, creating it when there is none yet.
  *
  * When a manager with the identifier exists, it is returned and the directories are ignored, though the
- * arrays must be valid.
- * A new manager starts empty: call StyleManager_readSystemStyles() and StyleManager_readUserStyles().
- * May be called from any thread at any time.
+ * arrays must be valid. A new manager starts empty: call StyleManager_readSystemStyles() and
+ * StyleManager_readUserStyles(). May be called from any thread at any time.
  *
  * @param appID application identifier; not empty; compared exactly.
  * @param systemStyleDirPath directory of the styles shipped with the host; must exist.
- * @param userStyleDirPath directory of the user's styles; created with all missing parents.
+ * @param userStyleDirPath directory of the user's styles; created with all missing parents. A plain
+ *        file in its place is taken for it: the code is KOSTYLE_OK, then StyleManager_readUserStyles()
+ *        gives KOSTYLE_ERROR_DIRECTORY_MISSING and MutableStyle_save() KOSTYLE_ERROR_OPEN_FAILED.
  * @param systemStyleDirs further directories read as system styles, or NULL.
  * @param numSystemStyleDirs number of entries of systemStyleDirs; none when 0 or less. No entry may
  *        be NULL.
@@ -26,8 +27,9 @@
  * @param error receives KOSTYLE_OK, or the first that applies of KOSTYLE_ERROR_APP_ID_MISSING,
  *        KOSTYLE_ERROR_SYSTEM_DIRECTORY_MISSING and KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE. May be
  *        NULL.
- * @return the manager, owned by the library until StyleManager_destroy() or the end of the process;
- *         NULL on failure.
+ * @return the manager, owned by the library until StyleManager_destroy() or until the library is
+ *         unloaded, which at the end of a process comes after the host's own static objects; NULL on
+ *         failure.
  */
 KOSTYLE_API KoStyleManager* CreateStyleManager(
     const KoStyleChar* appID, const KoStyleChar* systemStyleDirPath,
@@ -50,9 +52,9 @@ KOSTYLE_API bool HasStyleManager(KoStyleManager* manager);
 KOSTYLE_API bool Module_hasStyleManager(KoStyleManager* manager);
 
 /**
- * Destroys a manager with everything that it owns. All components that share the application
- * identifier share the manager, so the first call destroys it for all of them. May be called from any
- * thread, but not while another uses the manager.
+ * Destroys a manager with everything that it owns; all handles and texts reached through it end. All
+ * components that share the application identifier share the manager, so the first call destroys it for
+ * all of them. May be called from any thread, but not while another uses the manager.
  *
  * @return true; false for a null handle.
  */
@@ -70,19 +72,31 @@ KOSTYLE_API const KoStyleChar* StyleManager_userStyleDirPath(KoStyleManager* man
 /**
  * Reads the system styles anew: every file directly inside the system style directory and the further
  * system directories whose extension is exactly ".kostyle". The system styles and system creation
- * results of an earlier read are destroyed first.
+ * results of an earlier read are destroyed first, whatever the outcome.
  *
  * Bad files do not fail the read: each opened file leaves one creation result that says whether its
- * style was taken. Files that cannot be opened and further directories that do not exist are passed
- * over. The order of the styles is that of the directories, and within one directory the order in
- * which the file system enumerates the files.
+ * style was taken. Files that cannot be opened, further directories that do not exist and directories
+ * that exist but cannot be listed are passed over without a creation result: the code is KOSTYLE_OK.
+ * The order of the styles is that of the directories, and within one directory the order in which the
+ * file system enumerates the files.
  *
- * @return KOSTYLE_OK; KOSTYLE_ERROR_DIRECTORY_MISSING when the system style directory does not exist
- *         (the set is then empty); KOSTYLE_ERROR_INVALID_HANDLE for a null handle.
+ * Identifiers are unique over the system and the user styles together: a file whose identifier a style
+ * of either set has is refused with KOSTYLE_ERROR_DUPLICATE_ID, so the order of the two reads decides
+ * which of two such files is taken. When memory runs out, the set and its creation results hold what
+ * was read so far.
+ *
+ * @return KOSTYLE_OK; KOSTYLE_ERROR_DIRECTORY_MISSING when the system style directory does not exist or
+ *         is not a directory (the set is then empty); KOSTYLE_ERROR_INVALID_HANDLE for a null handle.
  */
 KOSTYLE_API int StyleManager_readSystemStyles(KoStyleManager* manager);
 
-/** Reads the user styles anew, as StyleManager_readSystemStyles() does with the user directories. */
+/**
+ * Reads the user styles anew, from the user style directory and the further user directories, as
+ * StyleManager_readSystemStyles() does; the property editors end with the styles.
+ *
+ * @return KOSTYLE_OK; KOSTYLE_ERROR_DIRECTORY_MISSING when the user style directory does not exist or
+ *         is not a directory (the set is then empty); KOSTYLE_ERROR_INVALID_HANDLE for a null handle.
+ */
 KOSTYLE_API int StyleManager_readUserStyles(KoStyleManager* manager);
 
 /** Number of creation results of the last read of the system styles; SIZE_MAX for a null handle. */
@@ -102,13 +116,13 @@ KOSTYLE_API KoStyleCreationResult* StyleManager_userStyleCreationResult(KoStyleM
 /** Number of system styles; SIZE_MAX for a null handle. */
 KOSTYLE_API size_t StyleManager_numSystemStyle(KoStyleManager* manager);
 
-/** The system style at an index. */
+/** The system style at an index, in reading order. */
 KOSTYLE_API KoStyleStyle* StyleManager_systemStyle(KoStyleManager* manager, size_t index);
 
 /** Number of user styles; SIZE_MAX for a null handle. */
 KOSTYLE_API size_t StyleManager_numUserStyle(KoStyleManager* manager);
 
-/** The user style at an index. */
+/** The user style at an index: in reading order, then in the order in which styles were saved. */
 KOSTYLE_API KoStyleStyle* StyleManager_userStyle(KoStyleManager* manager, size_t index);
 
 /** Whether a style is one of the manager's system styles. The style is only compared. */
@@ -121,7 +135,7 @@ KOSTYLE_API bool StyleManager_hasUserStyle(KoStyleManager* manager, KoStyleStyle
 KOSTYLE_API bool StyleManager_hasMutableStyle(KoStyleManager* manager, KoStyleStyle* style);
 
 /**
- * Creates an empty mutable style: the workspace for a new style or for a changed copy of one.
+ * Creates an empty mutable style, to become a new user style or the new content of one.
  *
  * @return the style, owned by the manager until MutableStyle_destroy(), a successful
  *         MutableStyle_save() or MutableStyle_overwrite(), or the manager's end.

@@ -8,7 +8,10 @@
 
 #include "types.h"
 
-/** Destroys the style with its effects and their parameters. Lets no exception out. */
+/**
+ * Destroys the style with its effects and their parameters; all its handles and texts end. Lets no
+ * exception out.
+ */
 KOSTYLE_API void MutableStyle_destroy(KoStyleStyle* style);
 
 /** The effect at an index of the audio chain. */
@@ -17,7 +20,10 @@ KOSTYLE_API KoStyleEffect* MutableStyle_audioEffect(KoStyleStyle* style, size_t 
 /** The effect at an index of the MIDI chain. */
 KOSTYLE_API KoStyleEffect* MutableStyle_midiEffect(KoStyleStyle* style, size_t index);
 
-/** Sets the name, of 1 to KOSTYLE_MAX_NAME_LENGTH units; false when it is refused. */
+/**
+ * Sets the name, of 1 to KOSTYLE_MAX_NAME_LENGTH units; the old name's text ends. false when the name
+ * is refused and the old one stays.
+ */
 KOSTYLE_API bool MutableStyle_setName(KoStyleStyle* style, const KoStyleChar* name);
 
 /** Adds a language; false when it is below Style_minLangID(), above Style_maxLangID() or present. */
@@ -71,41 +77,49 @@ KOSTYLE_API KoStyleEffect* MutableStyle_insertMidiEffect(KoStyleStyle* style, si
                                                          const KoStyleChar* id);
 
 /**
- * Writes the style as a new file of the user style directory, under a new identifier, and adds it to
- * the manager's user styles. On success the mutable style is destroyed; on failure nothing changes,
- * but that the user directory may exist now.
+ * Writes the style as a new file of the user style directory, under a new UUID as identifier and file
+ * name, and adds it at the end of the manager's user styles, without a creation result. On success the
+ * mutable style is destroyed: its handle, those of its effects and parameters, and all their texts end.
+ * On failure nothing changes, but that the user directory may exist now.
  *
- * An effect without parameters is written, but reading the file again skips it. What goes wrong while
- * the file is being written, a full disk for instance, gives no error (see the conventions).
+ * An effect without parameters is written, but reading the file again skips it, and refuses a style
+ * whose effects are all so. A parameter "Tarn" is read again as "Tarn630". What goes wrong while the
+ * file is being written, a full disk for instance, gives no error (see the conventions).
  *
  * @param pretty true for one line per member, indented by 4 spaces; false for no white space.
- * @param error receives KOSTYLE_OK, KOSTYLE_ERROR_ARGUMENT_MISSING (the style has no name),
- *        KOSTYLE_ERROR_NO_MANAGER, KOSTYLE_ERROR_FOREIGN_MUTABLE_STYLE,
- *        KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE, KOSTYLE_ERROR_OPEN_FAILED, or a code of the
- *        writer: KOSTYLE_ERROR_NO_EFFECT or KOSTYLE_ERROR_WRITE_*. When it is NULL nothing is done.
- *        Not written for an invalid handle.
+ * @param error receives KOSTYLE_OK, or the first that applies of KOSTYLE_ERROR_ARGUMENT_MISSING (the
+ *        style has no name), KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE, KOSTYLE_ERROR_OPEN_FAILED and
+ *        KOSTYLE_ERROR_NO_EFFECT. When it is NULL nothing is done. Not written for an invalid handle.
  * @return the new user style; NULL on failure.
  */
 KOSTYLE_API KoStyleStyle* MutableStyle_save(KoStyleStyle* style, bool pretty, int* error);
 
 /**
- * Writes the style over the file of a user style, which keeps its identifier, its file name and its
- * handle and takes the new contents. On success the mutable style is destroyed; on failure nothing
- * changes, but that the user directory may exist now. The handles of the user style's old effects and
- * parameters become invalid.
+ * Writes the style over the file of a user style, which takes the new content. On failure nothing
+ * changes in memory, and every handle and text of both styles stays; on disk only the user directory
+ * may be new. On success
  *
- * The new file is written into the user style directory, the old one is deleted and the new one takes
- * its name. When the system refuses that, as it does for a style of a further directory on another
- * volume, the call still succeeds, but the file stays in the user style directory under a bare UUID,
- * where no read finds it. What goes wrong while the file is being written gives no error either.
+ *  - stay: the user style's handle and its place among the user styles; the texts of its Style_id(),
+ *    Style_path() and Style_vendor(), at their addresses; its property editor with what it collected;
+ *  - end: the texts of the user style's name and attributes, and the handles and texts of its effects
+ *    and their parameters; the mutable style, with all its handles and texts.
+ *
+ * The new file is written into the user style directory under a UUID without extension, the old file is
+ * deleted, and the new one is renamed to its path. The result of the renaming is not looked at: when it
+ * fails, the code is KOSTYLE_OK, the style in memory is the new one, the old file is gone, and the new
+ * one stays under its UUID, where no read finds it. That happens on Linux for a style of a further
+ * directory on another file system; on Windows the renaming copies to another volume. What goes wrong
+ * while the file is being written gives no error either; see the conventions for what a careful host
+ * does.
  *
  * @param targetID the identifier of the user style to overwrite; an empty one finds none.
  * @param pretty as for MutableStyle_save().
- * @param error receives KOSTYLE_OK, KOSTYLE_ERROR_ARGUMENT_MISSING (targetID is null),
- *        KOSTYLE_ERROR_NO_MANAGER, KOSTYLE_ERROR_USER_STYLE_NOT_FOUND,
- *        KOSTYLE_ERROR_FOREIGN_MUTABLE_STYLE, KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE,
- *        KOSTYLE_ERROR_OPEN_FAILED, KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE, or a code of the writer as
- *        for MutableStyle_save(). When it is NULL nothing is done. Not written for an invalid handle.
+ * @param error receives KOSTYLE_OK, or the first that applies of KOSTYLE_ERROR_ARGUMENT_MISSING
+ *        (targetID is null), KOSTYLE_ERROR_USER_STYLE_NOT_FOUND,
+ *        KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE, KOSTYLE_ERROR_OPEN_FAILED (of the new file),
+ *        KOSTYLE_ERROR_WRITE_EMPTY_NAME (the style has no name), KOSTYLE_ERROR_NO_EFFECT and
+ *        KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE. When it is NULL nothing is done. Not written for an
+ *        invalid handle.
  * @return the overwritten user style; NULL on failure.
  */
 KOSTYLE_API KoStyleStyle* MutableStyle_overwrite(KoStyleStyle* style, const KoStyleChar* targetID,

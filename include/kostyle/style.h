@@ -12,10 +12,15 @@ KOSTYLE_API KoStyleManager* Style_parent(KoStyleStyle* style);
 /** The style's kind, a value of enum KoStyleKind; KOSTYLE_KIND_NONE for a null handle. */
 KOSTYLE_API int Style_type(KoStyleStyle* style);
 
-/** The style's identifier; empty for a mutable style. */
+/**
+ * The style's identifier, unique over the manager's system and user styles; empty for a mutable style.
+ */
 KOSTYLE_API const KoStyleChar* Style_id(KoStyleStyle* style);
 
-/** The full path of the style's file; empty for a mutable style. */
+/**
+ * The path of the style's file: the directory as it was given, a separator and the file's name. Empty
+ * for a mutable style.
+ */
 KOSTYLE_API const KoStyleChar* Style_path(KoStyleStyle* style);
 
 /**
@@ -48,7 +53,10 @@ KOSTYLE_API const KoStyleChar* Style_singerGroup(KoStyleStyle* style, size_t ind
 /** Number of singer identifiers; SIZE_MAX for a null handle. */
 KOSTYLE_API size_t Style_numSingerID(KoStyleStyle* style);
 
-/** The singer identifier at an index, in ascending order; Style_singerIDLength() units long. */
+/**
+ * The singer identifier at an index, in ascending order; Style_singerIDLength() units long, fewer for
+ * the host when a file's holds U+0000 (see the conventions).
+ */
 KOSTYLE_API const KoStyleChar* Style_singerID(KoStyleStyle* style, size_t index);
 
 /** The length of every singer identifier, in UTF-16 units: KOSTYLE_SINGER_ID_LENGTH. */
@@ -78,15 +86,16 @@ KOSTYLE_API size_t Style_numAudioEffect(KoStyleStyle* style);
 /** Number of effects in the MIDI chain; SIZE_MAX for a null handle. */
 KOSTYLE_API size_t Style_numMidiEffect(KoStyleStyle* style);
 
-/** Whether an effect is in the style's audio chain. The effect is only compared. */
+/** Whether an effect is in the style's audio chain. The effect is only compared; NULL gives false. */
 KOSTYLE_API bool Style_hasAudioEffect(KoStyleStyle* style, KoStyleEffect* effect);
 
-/** Whether an effect is in the style's MIDI chain. The effect is only compared. */
+/** Whether an effect is in the style's MIDI chain. The effect is only compared; NULL gives false. */
 KOSTYLE_API bool Style_hasMidiEffect(KoStyleStyle* style, KoStyleEffect* effect);
 
 /**
  * The vendor text of a system or user style; empty when the file has none. NULL for a mutable style.
- * The library never writes it: a style that it saves or edits loses the text in its file.
+ * The library never writes it: a style that it overwrites or edits loses the text in its file, and
+ * keeps it in memory until the set is read again.
  */
 KOSTYLE_API const KoStyleChar* Style_vendor(KoStyleStyle* style);
 
@@ -109,12 +118,13 @@ KOSTYLE_API KoStyleStyle* UserStyle_next(KoStyleStyle* style);
 KOSTYLE_API KoStyleStyle* UserStyle_prev(KoStyleStyle* style);
 
 /**
- * Deletes a user style's file and the style, with every handle reached through it. Creation results
- * stay. On any code but KOSTYLE_OK nothing has changed. Lets no exception out.
+ * Deletes a user style's file and the style, with every handle and text reached through it. Creation
+ * results stay. A directory in the file's place is removed when it is empty. On any code but KOSTYLE_OK
+ * nothing has changed. Lets no exception out.
  *
  * @return KOSTYLE_OK; KOSTYLE_ERROR_INVALID_HANDLE when the handle is null or not a user style, or an
- *         exception was contained; KOSTYLE_ERROR_NO_MANAGER; KOSTYLE_ERROR_USER_STYLE_NOT_FOUND;
- *         KOSTYLE_ERROR_DELETE_FAILED when the file is missing or the system refuses.
+ *         exception was contained; KOSTYLE_ERROR_DELETE_FAILED when the file is missing or the system
+ *         refuses.
  */
 KOSTYLE_API int UserStyle_remove(KoStyleStyle* style);
 
@@ -126,7 +136,7 @@ KOSTYLE_API int UserStyle_remove(KoStyleStyle* style);
  */
 KOSTYLE_API KoStylePropertyEditor* UserStyle_createPropertyEditor(KoStyleStyle* style);
 
-/** Destroys the user style's property editor, if it has one. */
+/** Destroys the user style's property editor, if it has one, with what it collected. */
 KOSTYLE_API void UserStyle_destroyPropertyEditor(KoStyleStyle* style);
 
 #endif

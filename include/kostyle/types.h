@@ -39,7 +39,7 @@ typedef struct KoStyleStyle KoStyleStyle;
 typedef struct KoStyleEffect KoStyleEffect;
 /** A parameter of an effect, of a stored or of a mutable style. */
 typedef struct KoStyleParameter KoStyleParameter;
-/** The record that reading one style file left behind. */
+/** A creation result: what reading one style file left behind. */
 typedef struct KoStyleCreationResult KoStyleCreationResult;
 /** The editor of a user style's name, sub-genres and colours. */
 typedef struct KoStylePropertyEditor KoStylePropertyEditor;

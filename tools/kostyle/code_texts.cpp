@@ -80,7 +80,7 @@ const char* parseErrorText(int parseError) {
     case KOSTYLE_PARSE_SURROGATE_INVALID:
       return "a high surrogate escape is not followed by a low one";
     case KOSTYLE_PARSE_ESCAPE_INVALID:
-      return "not an escape character";
+      return "a string holds a raw control character or a backslash that starts no escape";
     case KOSTYLE_PARSE_QUOTATION_MARK_MISSING:
       return "a string has no closing quotation mark";
     case KOSTYLE_PARSE_ENCODING_INVALID:
