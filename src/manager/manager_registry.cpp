@@ -9,12 +9,11 @@ namespace Tesk::KoStyle {
 
 namespace {
 
-// Needs no code to come into being, so it is there before any of the host's objects. It must also be
-// there after them: a static object of the host may destroy its manager. So it is not destroyed among
-// static objects, whose order depends on when the library was loaded, but by the library's own last
-// step.
+// Made when the library is loaded. It must also be there after the host's static objects, for one of
+// them may destroy its manager. So it is not destroyed among static objects, whose order depends on
+// when the library was loaded, but by the library's own last step.
 union Registry {
-  constexpr Registry() : value() {}
+  Registry() : value() {}
   ~Registry() {}
   StyleManagerRegistry value;
 } registry;

@@ -13,8 +13,6 @@ namespace Tesk::KoStyle {
 /// them.
 class StyleManagerRegistry {
  public:
-  constexpr StyleManagerRegistry() = default;
-
   /// There from when the library is loaded until it is unloaded, which destroys the managers that are
   /// left.
   static StyleManagerRegistry& instance() noexcept;

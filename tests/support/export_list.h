@@ -1,6 +1,7 @@
 // The list of exported names that the export tables are made from.
 #pragma once
 
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <set>
@@ -11,7 +12,7 @@ namespace test {
 
 /// Each exported name with the entry point that it is bound to; its own name when it shares none.
 inline std::map<std::string, std::string> readExportList() {
-  std::ifstream file(KOSTYLE_EXPORT_LIST);
+  std::ifstream file(std::filesystem::u8path(KOSTYLE_EXPORT_LIST));
   if (!file) throw std::runtime_error("cannot read the list of exports");
   std::map<std::string, std::string> entries;
   for (std::string line; std::getline(file, line);) {

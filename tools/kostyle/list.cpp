@@ -17,7 +17,7 @@
 namespace tool {
 namespace {
 
-struct Options {
+struct ListOptions {
   StyleDirectories directories;
   bool json = false;
 };
@@ -62,7 +62,7 @@ std::string listText(const Listing& listing) {
   return text;
 }
 
-int list(const Options& options) {
+int list(const ListOptions& options) {
   requireExisting(options.directories);
   const Manager manager(options.directories);
   const auto results = manager.results();
@@ -76,7 +76,7 @@ int list(const Options& options) {
 }  // namespace
 
 void addListCommand(CLI::App& app, Command& chosen) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<ListOptions>();
   CLI::App* command = app.add_subcommand("list", "Lists the styles of directories");
   addDirectoryOptions(*command, options->directories);
   command->get_option("--system")->required();

@@ -13,12 +13,12 @@
 namespace tool {
 namespace {
 
-struct Options {
+struct NewOptions {
   StyleDirectories directories;
   StyleEdits edits;
 };
 
-int create(const Options& options) {
+int create(const NewOptions& options) {
   requireExistingButUser(options.directories);
   MissingDirectories made(*options.directories.user);
   const Manager manager(options.directories);
@@ -33,7 +33,7 @@ int create(const Options& options) {
 }  // namespace
 
 void addNewCommand(CLI::App& app, Command& chosen) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<NewOptions>();
   CLI::App* command = app.add_subcommand("new", "Creates a user style");
   addDirectoryOptions(*command, options->directories);
   command->get_option("--user")->required();

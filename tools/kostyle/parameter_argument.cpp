@@ -38,13 +38,13 @@ Number numberOf(std::string_view text, const char* type) {
   return parsed.value;
 }
 
-Value valueOf(const std::string& text) {
+Value parsedValue(const std::string& text) {
   if (parse<int>(text).isNumber) return numberOf<int>(text, "int");
   if (parse<float>(text).isNumber) return numberOf<float>(text, "float");
   return fromUtf8(text);
 }
 
-Value valueOf(const std::string& text, const std::string& type) {
+Value parsedValue(const std::string& text, const std::string& type) {
   if (type == "int") return numberOf<int>(text, "int");
   if (type == "float") return numberOf<float>(text, "float");
   if (type == "text") return fromUtf8(text);
@@ -100,8 +100,8 @@ Assignment parseAssignment(const std::string& text) {
   const std::string name = text.substr(0, equals);
   const std::string value = text.substr(equals + 1);
   const std::size_t colon = name.rfind(':');
-  if (colon == name.npos) return {name, valueOf(value)};
-  return {name.substr(0, colon), valueOf(value, name.substr(colon + 1))};
+  if (colon == name.npos) return {name, parsedValue(value)};
+  return {name.substr(0, colon), parsedValue(value, name.substr(colon + 1))};
 }
 
 }  // namespace tool

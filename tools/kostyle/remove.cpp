@@ -13,12 +13,12 @@
 namespace tool {
 namespace {
 
-struct Options {
+struct RemoveOptions {
   std::string id;
   StyleDirectories directories;
 };
 
-int remove(const Options& options) {
+int remove(const RemoveOptions& options) {
   requireExisting(options.directories);
   const Manager manager(options.directories);
   KoStyleStyle* style = manager.userStyle(fromUtf8(options.id));
@@ -31,7 +31,7 @@ int remove(const Options& options) {
 }  // namespace
 
 void addRemoveCommand(CLI::App& app, Command& chosen) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<RemoveOptions>();
   CLI::App* command = app.add_subcommand("remove", "Deletes a user style and its file");
   command->add_option("ID", options->id, "Identifier of the style")->required();
   addDirectoryOptions(*command, options->directories);

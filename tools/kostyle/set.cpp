@@ -14,7 +14,7 @@
 namespace tool {
 namespace {
 
-struct Options {
+struct SetOptions {
   std::string id;
   StyleDirectories directories;
   StyleEdits edits;
@@ -29,7 +29,7 @@ StyleDirectories besideStyle(const StyleDirectories& directories, const Text& id
   return own;
 }
 
-int change(const Options& options) {
+int change(const SetOptions& options) {
   if (changesNothing(options.edits)) throw WrongUse("nothing is to be changed");
   requireExisting(options.directories);
   const Text id = fromUtf8(options.id);
@@ -48,7 +48,7 @@ int change(const Options& options) {
 }  // namespace
 
 void addSetCommand(CLI::App& app, Command& chosen) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<SetOptions>();
   CLI::App* command = app.add_subcommand("set", "Changes a user style");
   command->add_option("ID", options->id, "Identifier of the style")->required();
   addDirectoryOptions(*command, options->directories);

@@ -15,7 +15,7 @@
 namespace tool {
 namespace {
 
-struct Options {
+struct ShowOptions {
   std::string style;
   StyleDirectories directories;
   bool json = false;
@@ -26,12 +26,12 @@ bool isFile(const fs::path& path) {
   return fs::is_regular_file(path, ignored);
 }
 
-void print(const Options& options, KoStyleStyle* style, const StyleSource& source) {
+void print(const ShowOptions& options, KoStyleStyle* style, const StyleSource& source) {
   const auto write = options.json ? styleJson : styleTree;
   fmt::print("{}", write(style, source));
 }
 
-int show(const Options& options) {
+int show(const ShowOptions& options) {
   const StyleDirectories& directories = options.directories;
   requireExisting(directories);
   const fs::path path = pathOf(options.style);
@@ -51,7 +51,7 @@ int show(const Options& options) {
 }  // namespace
 
 void addShowCommand(CLI::App& app, Command& chosen) {
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<ShowOptions>();
   CLI::App* command = app.add_subcommand("show", "Shows one style whole");
   command->add_option("STYLE", options->style, "Path of a style file, or identifier of a style")
       ->required();
