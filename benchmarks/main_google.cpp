@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "all_rows.h"
+#include "heap.h"
 
 namespace {
 
@@ -28,6 +29,7 @@ void measure(benchmark::State& state, const bench::Row& row) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  bench::keepFreedMemory();
   benchmark::Initialize(&argc, argv);
   std::vector<char*> others;
   const bench::Settings settings = bench::parseSettings(argc - 1, argv + 1, others);

@@ -39,7 +39,7 @@ std::vector<EffectContent> makeChain(Random& random, std::size_t count, std::siz
     chain[e].id = pick(random, words) + pick(random, words) + number(e);
     for (std::size_t p = 0; p < parameters; ++p) {
       chain[e].parameters.push_back(
-          {pick(random, words) + pick(random, words) + number(p), makeValue(random, p)});
+          {pick(random, words) + number(p), makeValue(random, p)});
     }
   }
   return chain;

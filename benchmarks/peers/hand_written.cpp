@@ -14,22 +14,27 @@ struct StyleFile {
   using Effect = HandWritten::Effect;
   using Parameter = HandWritten::Parameter;
 
-  static void takeTexts(const Json& filter, const char* key, std::vector<std::string>& texts) {
-    filter.at(key).get_to(texts);
-    std::sort(texts.begin(), texts.end());
+  static Text text(const Json& value) { return utf16(value.get_ref<const std::string&>()); }
+
+  static std::vector<Text> texts(const Json& list) {
+    std::vector<Text> sorted;
+    sorted.reserve(list.size());
+    for (const Json& element : list) sorted.push_back(text(element));
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
   }
 
   static Parameter readParameter(const std::string& name, const Json& value) {
-    if (value.is_number_integer()) return {name, value.get<int>()};
-    if (value.is_number_float()) return {name, value.get<float>()};
-    return {name, value.get<std::string>()};
+    if (value.is_number_integer()) return {utf16(name), value.get<int>()};
+    if (value.is_number_float()) return {utf16(name), value.get<float>()};
+    return {utf16(name), text(value)};
   }
 
   static std::vector<Effect> readChain(const Json& chain) {
     std::vector<Effect> effects;
     for (const auto& [id, effect] : chain.items()) {
       const Json& source = effect.at("parameter");
-      Effect read{id, {}};
+      Effect read{utf16(id), {}};
       read.parameters.reserve(source.size());
       for (const auto& [name, value] : source.items()) {
         read.parameters.push_back(readParameter(name, value));
@@ -45,18 +50,18 @@ struct StyleFile {
     std::ifstream file(path);
     const Json root = Json::parse(file);
     Style style;
-    root.at("id").get_to(style.id);
-    root.at("name").get_to(style.name);
-    root.at("vendor").get_to(style.vendor);
+    style.id = text(root.at("id"));
+    style.name = text(root.at("name"));
+    style.vendor = text(root.at("vendor"));
     style.path = path;
     const Json& filter = root.at("filter");
     filter.at("languages").get_to(style.languages);
     std::sort(style.languages.begin(), style.languages.end());
-    takeTexts(filter, "singerGroups", style.singerGroups);
-    takeTexts(filter, "singerIDs", style.singerIDs);
-    takeTexts(filter, "genres", style.genres);
-    takeTexts(filter, "subGenres", style.subGenres);
-    takeTexts(filter, "colors", style.colors);
+    style.singerGroups = texts(filter.at("singerGroups"));
+    style.singerIDs = texts(filter.at("singerIDs"));
+    style.genres = texts(filter.at("genres"));
+    style.subGenres = texts(filter.at("subGenres"));
+    style.colors = texts(filter.at("colors"));
     style.audioEffects = readChain(root.at("audioEffect"));
     style.midiEffects = readChain(root.at("midiEffect"));
     return style;
@@ -64,7 +69,7 @@ struct StyleFile {
 };
 
 std::size_t HandWritten::read() {
-  std::unordered_set<std::string> identifiers;
+  std::unordered_set<Text> identifiers;
   for (const auto& entry : std::filesystem::directory_iterator(directory_)) {
     if (entry.path().extension() != ".kostyle") continue;
     Style style = StyleFile::read(entry.path());

@@ -1,11 +1,14 @@
 // A loader as an application would write it for itself: std::filesystem and nlohmann-json, into plain
-// structs. The order of effects is that of the file.
+// structs that hold what the library holds: text in UTF-16, effects in the order of the file, the rest
+// sorted.
 #pragma once
 
 #include <filesystem>
 #include <string>
 #include <variant>
 #include <vector>
+
+#include "text.h"
 
 namespace bench {
 
@@ -17,24 +20,24 @@ class HandWritten {
 
  private:
   struct Parameter {
-    std::string name;
-    std::variant<int, float, std::string> value;
+    Text name;
+    std::variant<int, float, Text> value;
   };
   struct Effect {
-    std::string id;
+    Text id;
     std::vector<Parameter> parameters;
   };
   struct Style {
-    std::string id;
-    std::string name;
-    std::string vendor;
+    Text id;
+    Text name;
+    Text vendor;
     std::filesystem::path path;
     std::vector<int> languages;
-    std::vector<std::string> singerGroups;
-    std::vector<std::string> singerIDs;
-    std::vector<std::string> genres;
-    std::vector<std::string> subGenres;
-    std::vector<std::string> colors;
+    std::vector<Text> singerGroups;
+    std::vector<Text> singerIDs;
+    std::vector<Text> genres;
+    std::vector<Text> subGenres;
+    std::vector<Text> colors;
     std::vector<Effect> audioEffects;
     std::vector<Effect> midiEffects;
   };

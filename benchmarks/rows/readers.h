@@ -6,7 +6,7 @@
 #include <optional>
 #include <stdexcept>
 
-#include "memory_in_use.h"
+#include "heap.h"
 #include "workload.h"
 
 namespace bench {
@@ -18,10 +18,7 @@ class ReaderWorkload : public Workload {
       : directory_(std::move(directory)), files_(files) {}
 
  protected:
-  void make() {
-    reader_.emplace(directory_);
-    releaseFreeMemory();
-  }
+  void make() { reader_.emplace(directory_); }
   void read() {
     if (reader_->read() != files_) throw std::runtime_error("not all files were read");
   }
@@ -34,11 +31,21 @@ class ReaderWorkload : public Workload {
   std::optional<Reader> reader_;
 };
 
-template <class Reader>
+enum class Heap { warm, fresh };
+
+template <class Reader, Heap heap = Heap::warm>
 class Reading : public ReaderWorkload<Reader> {
  public:
   using ReaderWorkload<Reader>::ReaderWorkload;
-  void prepare() override { this->make(); }
+  void prepare() override {
+    constexpr std::size_t enoughForOneFile = 48U << 10;
+    this->make();
+    if (heap == Heap::warm) {
+      warmHeap(this->files() * enoughForOneFile);
+    } else {
+      chillHeap();
+    }
+  }
   Done run() override {
     this->read();
     return {this->files()};

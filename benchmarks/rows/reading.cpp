@@ -9,6 +9,20 @@
 #include "rows/rows.h"
 
 namespace bench {
+namespace {
+
+// The same in a process whose memory still has to come from the system, page by page.
+void addFreshRows(Rows& rows, const Settings& settings) {
+  const auto directory = settings.data / "sets" / "typical";
+  const std::string name = "reading/typical-fresh/";
+  addRow<Reading<Library, Heap::fresh>>(rows, name + "library", Runs::once, directory, settings.files);
+  addRow<Reading<RapidjsonParse, Heap::fresh>>(rows, name + "parse", Runs::once, directory,
+                                               settings.files);
+  addRow<Reading<HandWritten, Heap::fresh>>(rows, name + "hand-written", Runs::once, directory,
+                                            settings.files);
+}
+
+}  // namespace
 
 void addReadingRows(Rows& rows, const Settings& settings) {
   for (const std::string set : {"typical", "compact", "utf16", "small"}) {
@@ -22,6 +36,7 @@ void addReadingRows(Rows& rows, const Settings& settings) {
     addRow<Reading<SimdjsonDom>>(rows, name + "simdjson", Runs::once, directory, files);
     addRow<Reading<HandWritten>>(rows, name + "hand-written", Runs::once, directory, files);
   }
+  addFreshRows(rows, settings);
   addRow<Reading<LilvPresets>>(rows, "reading/typical/lilv", Runs::once, settings.data / "bundles",
                                settings.bundles);
 }

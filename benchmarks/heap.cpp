@@ -1,4 +1,4 @@
-#include "memory_in_use.h"
+#include "heap.h"
 
 #if defined(_WIN32)
 
@@ -33,13 +33,20 @@ std::size_t memoryInUse() {
   return bytes;
 }
 
-void releaseFreeMemory() {}
+// What follows matters to reading only, which is not measured here.
+void keepFreedMemory() {}
+void warmHeap(std::size_t) {}
+void chillHeap() {}
 
 }  // namespace bench
 
 #else
 
 #include <malloc.h>
+
+#include <climits>
+#include <memory>
+#include <vector>
 
 namespace bench {
 
@@ -48,7 +55,23 @@ std::size_t memoryInUse() {
   return info.uordblks + info.hblkhd;
 }
 
-void releaseFreeMemory() { malloc_trim(0); }
+void keepFreedMemory() {
+  constexpr int largestMmapThreshold = 32 << 20;
+  mallopt(M_TRIM_THRESHOLD, INT_MAX);
+  mallopt(M_MMAP_THRESHOLD, largestMmapThreshold);
+}
+
+void warmHeap(std::size_t bytes) {
+  constexpr std::size_t block = 1U << 16;
+  constexpr std::size_t page = 1U << 12;
+  std::vector<std::unique_ptr<volatile char[]> > blocks;
+  for (std::size_t taken = 0; taken < bytes; taken += block) {
+    blocks.emplace_back(new volatile char[block]);
+    for (std::size_t i = 0; i < block; i += page) blocks.back()[i] = 1;
+  }
+}
+
+void chillHeap() { malloc_trim(0); }
 
 }  // namespace bench
 

@@ -1,0 +1,109 @@
+// Runs the rows where Google Benchmark is not to be had. Understands the arguments that the benchmark's
+// scripts give it, and writes the same JSON as far as they read it. Times are those of the wall clock:
+// the processor time that Windows gives is counted in ticks of ten milliseconds and more.
+#include <rapidjson/filewritestream.h>
+#include <rapidjson/prettywriter.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <exception>
+#include <random>
+#include <regex>
+#include <stdexcept>
+#include <string_view>
+
+#include "all_rows.h"
+
+namespace {
+
+struct Options {
+  std::string filter;
+  std::string output;
+  double leastTime = 0.02;
+};
+
+Options parseOptions(const std::vector<char*>& arguments) {
+  Options options;
+  for (const std::string_view argument : arguments) {
+    const std::size_t equals = argument.find('=');
+    const std::string_view name = argument.substr(0, equals);
+    const std::string value(argument.substr(equals + 1));
+    if (name == "--benchmark_filter") options.filter = value;
+    if (name == "--benchmark_out") options.output = value;
+    if (name == "--benchmark_min_time") options.leastTime = std::stod(value);
+  }
+  return options;
+}
+
+struct Measured {
+  std::size_t runs = 0;
+  double seconds = 0;
+  bench::Done total{0, 0};
+};
+
+Measured measure(const bench::Row& row, double leastTime) {
+  using Clock = std::chrono::steady_clock;
+  const auto workload = row.make();
+  Measured measured;
+  do {
+    workload->prepare();
+    const auto start = Clock::now();
+    const bench::Done done = workload->run();
+    measured.seconds += std::chrono::duration<double>(Clock::now() - start).count();
+    workload->tidy();
+    ++measured.runs;
+    measured.total.operations += done.operations;
+    measured.total.bytes += done.bytes;
+  } while (row.runs == bench::Runs::many && measured.seconds < leastTime);
+  return measured;
+}
+
+template <class Writer>
+void write(Writer& writer, const bench::Row& row, const Measured& measured) {
+  const auto runs = static_cast<double>(measured.runs);
+  writer.StartObject();
+  writer.Key("name");
+  writer.String(row.name.c_str());
+  writer.Key("cpu_time");
+  writer.Double(measured.seconds * 1e9 / runs);
+  writer.Key("time_unit");
+  writer.String("ns");
+  writer.Key("operations");
+  writer.Double(static_cast<double>(measured.total.operations) / runs);
+  writer.Key("bytes");
+  writer.Double(static_cast<double>(measured.total.bytes) / runs);
+  writer.EndObject();
+}
+
+void measureAll(bench::Rows rows, const Options& options) {
+  const std::regex filter(options.filter);
+  const auto unwanted = [&](const bench::Row& row) { return !std::regex_search(row.name, filter); };
+  rows.erase(std::remove_if(rows.begin(), rows.end(), unwanted), rows.end());
+  std::shuffle(rows.begin(), rows.end(), std::mt19937(std::random_device()()));
+
+  std::FILE* const file = std::fopen(options.output.c_str(), "wb");
+  if (!file) throw std::runtime_error("cannot write " + options.output);
+  char buffer[4096];
+  rapidjson::FileWriteStream stream(file, buffer, sizeof buffer);
+  rapidjson::PrettyWriter<rapidjson::FileWriteStream> writer(stream);
+  writer.StartObject();
+  writer.Key("benchmarks");
+  writer.StartArray();
+  for (const bench::Row& row : rows) write(writer, row, measure(row, options.leastTime));
+  writer.EndArray();
+  writer.EndObject();
+  std::fclose(file);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) try {
+  std::vector<char*> others;
+  const bench::Settings settings = bench::parseSettings(argc - 1, argv + 1, others);
+  measureAll(bench::allRows(settings), parseOptions(others));
+  return 0;
+} catch (const std::exception& error) {
+  std::fprintf(stderr, "bench-kostyle: %s\n", error.what());
+  return 1;
+}
