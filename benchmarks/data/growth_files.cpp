@@ -80,12 +80,15 @@ void makeManyFiles(const std::filesystem::path& folder, std::size_t size, const 
 
 }  // namespace
 
+void makeGrowth(const std::filesystem::path& data, const std::vector<std::size_t>& sizes) {
+  for (const std::size_t size : sizes) makeLargeFiles(data / "growth", size);
+}
+
 void makeGrowthFiles(const std::filesystem::path& data, const std::vector<std::size_t>& sizes) {
-  const auto growth = data / "growth";
+  const auto folder = data / "growth-files";
   for (const std::size_t size : sizes) {
-    makeLargeFiles(growth, size);
-    makeManyFiles(growth / "files", size, ordered);
-    makeManyFiles(growth / "repeated-identifier", size, [](std::size_t) { return "same"; });
+    makeManyFiles(folder / "distinct", size, ordered);
+    makeManyFiles(folder / "repeated", size, [](std::size_t) { return "same"; });
   }
 }
 

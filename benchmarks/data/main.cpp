@@ -14,7 +14,8 @@ int main(int argc, char** argv) try {
   const std::map<std::string, std::function<void()>> makers = {
       {"sets", [&] { bench::makeSets(settings.data, settings.files); }},
       {"bundles", [&] { bench::makeBundles(settings.data, settings.bundles); }},
-      {"growth", [&] { bench::makeGrowthFiles(settings.data, settings.sizes); }},
+      {"growth", [&] { bench::makeGrowth(settings.data, settings.sizes); }},
+      {"growth-files", [&] { bench::makeGrowthFiles(settings.data, settings.sizes); }},
       {"hostile", [&] { bench::makeHostileFiles(settings.data, settings.hostileBytes); }},
   };
   for (const char* part : parts) makers.at(part)();

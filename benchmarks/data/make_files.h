@@ -13,7 +13,11 @@ void makeSets(const std::filesystem::path& data, std::size_t files);
 /// bundles: presets in Turtle with as many values as a typical style.
 void makeBundles(const std::filesystem::path& data, std::size_t bundles);
 
-/// growth/NAME/SIZE: folders of many small files, and of one file that is large in one way.
+/// growth/NAME/SIZE: folders of one file that is large in one way.
+void makeGrowth(const std::filesystem::path& data, const std::vector<std::size_t>& sizes);
+
+/// growth-files/NAME/SIZE: folders of many small files, each with an identifier of its own (distinct)
+/// or all with the same (repeated).
 void makeGrowthFiles(const std::filesystem::path& data, const std::vector<std::size_t>& sizes);
 
 /// hostile/NAME: folders of one file of `bytes` bytes each.

@@ -38,8 +38,7 @@ std::vector<EffectContent> makeChain(Random& random, std::size_t count, std::siz
   for (std::size_t e = 0; e < count; ++e) {
     chain[e].id = pick(random, words) + pick(random, words) + number(e);
     for (std::size_t p = 0; p < parameters; ++p) {
-      chain[e].parameters.push_back(
-          {pick(random, words) + number(p), makeValue(random, p)});
+      chain[e].parameters.push_back({pick(random, words) + number(p), makeValue(random, p)});
     }
   }
   return chain;

@@ -16,6 +16,8 @@ class Library {
     return host_->read();
   }
 
+  KoStyleManager* manager() const { return host_->manager(); }
+
  private:
   Text directory_;
   std::optional<Host> host_;

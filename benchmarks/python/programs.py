@@ -19,6 +19,9 @@ def arguments(scale: Scale) -> list:
 
 
 def make_data(folder: Path, parts: set, scale: Scale) -> None:
+    if not parts:
+        return
+    print(f"making data: {', '.join(sorted(parts))}", flush=True)
     program = ROOT / "build/bench/bin/bench-data"
     subprocess.run([program, *sorted(parts), f"--data={folder}", *arguments(scale)], check=True)
 
@@ -45,8 +48,8 @@ class Windows:
 
     def __init__(self, scratch: Path, library: Path | None):
         built = ROOT / "build/bench-windows/bin"
-        folder = scratch / "windows"
-        folder.mkdir()
+        folder = scratch / self.name / "program"
+        folder.mkdir(parents=True)
         for name in ("bench-kostyle.exe", "plain.dll", "KoStyle.dll"):
             shutil.copy(built / name, folder)
         if library:

@@ -2,16 +2,18 @@
 """Makes the data, measures section by section, and reports. scripts/bench builds first and then runs this."""
 
 import argparse
+import itertools
 import os
 import platform as machine
 import tempfile
 from pathlib import Path
 
+import plots
 import results as measured
 import table
 import targets
 from programs import ROOT, Native, Windows, make_data, run_round
-from sections import FULL, QUICK, SECTIONS, windows_scale
+from sections import FULL, QUICK, SECTIONS, Scale, windows_scale
 
 
 def parse_arguments() -> argparse.Namespace:
@@ -44,36 +46,35 @@ def processor() -> str:
 
 def measure(options: argparse.Namespace, scratch: Path, fast: Path | None) -> measured.Results:
     scale = QUICK if options.quick else FULL
-    data = scratch / "data"
-    parts = {part for section in options.sections for part in section.parts}
-    print("making data:", ", ".join(sorted(parts)) or "none", flush=True)
-    make_data(data, parts, scale)
-
-    folders = {"data": data, "scratch": scratch / "written"}
+    both = options.native == options.windows
+    folders = {"scratch": scratch / "written"}
     if fast:
         folders["fast-scratch"] = fast
-    both = options.native == options.windows
     results = measured.Results()
     if options.native or both:
-        measure_on(Native(scratch, options.library), scale, options, folders, results)
+        parts = {section.name: section.parts for section in options.sections}
+        measure_on(Native(scratch, options.library), parts, scale, options, folders, results)
     if options.windows or both:
-        windows = windows_scale(scale)
-        few = scratch / "few"
-        make_data(few, parts - {"bundles"}, windows)
-        measure_on(Windows(scratch, options.dll), windows, options, folders | {"data": few}, results)
+        parts = {section.name: section.windows_parts for section in options.sections
+                 if section.windows_parts is not None}
+        measure_on(Windows(scratch, options.dll), parts, windows_scale(scale), options, folders, results)
     return results
 
 
-def measure_on(platform, scale, options, folders, results) -> None:
+def measure_on(platform, parts: dict, scale: Scale, options, folders: dict, results) -> None:
+    """Measures the sections that `parts` names, each with its parts of the data."""
+    scratch = folders["scratch"].parent
+    data = scratch / platform.name / "data"
+    make_data(data, set(itertools.chain(*parts.values())), scale)
     for section in options.sections:
-        if platform.name == "windows" and not section.on_windows:
+        if section.name not in parts:
             continue
         rounds = options.rounds or (section.quick_rounds if options.quick else section.rounds)
         print(f"measuring {section.name}, {platform.name}:", end="", flush=True)
         for number in range(rounds):
             print(f" {number + 1}", end="", flush=True)
-            output = folders["scratch"].parent / "round.json"
-            results.add_round(platform.name, run_round(platform, section, scale, folders, output))
+            rows = run_round(platform, section, scale, folders | {"data": data}, scratch / "round.json")
+            results.add_round(platform.name, rows)
         print(flush=True)
 
 
@@ -92,7 +93,10 @@ def main() -> None:
     measured.save(options.results, about, results, rows)
     table.print_medians(results)
     table.print_targets(rows)
-    print(f"\n{options.results}")
+    folder = options.results.parent
+    plots.plot_peers(folder / "performance-peers.svg", results)
+    plots.plot_growth(folder / "performance-growth.svg", results)
+    print(f"\nresults and plots are in {folder}")
 
 
 if __name__ == "__main__":

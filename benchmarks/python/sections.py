@@ -7,17 +7,22 @@ from dataclasses import dataclass
 class Section:
     name: str
     parts: tuple = ()  # of the data
+    windows_parts: tuple | None = None  # None: it is not measured there
     rounds: int = 9
     quick_rounds: int = 5
     least_time: float = 0.02  # seconds for each row that is not run once
-    on_windows: bool = True
 
 
 SECTIONS = [
-    Section("reading", parts=("sets", "bundles"), on_windows=False),
-    Section("memory", parts=("sets",), rounds=3, quick_rounds=1),
-    Section("destroying", parts=("sets",)),
-    Section("walking", parts=("sets",)),
+    Section("reading", ("sets", "bundles")),
+    Section("memory", ("sets",), ("sets",), rounds=3, quick_rounds=1),
+    Section("destroying", ("sets",), ("sets",)),
+    Section("walking", ("sets",), ("sets",)),
+    Section("calls", ("sets",), ("sets",)),
+    Section("editing", (), ()),
+    Section("saving"),
+    Section("growth", ("growth", "growth-files"), ("growth",), rounds=3, quick_rounds=1, least_time=0.005),
+    Section("hostile", ("hostile",), rounds=5, quick_rounds=3),
 ]
 
 

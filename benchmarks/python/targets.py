@@ -42,7 +42,22 @@ def walking(by: str) -> Target:
                   f"walking/{by}/plain", 3, platforms=BOTH)
 
 
-RATIOS = [
+def call(name: str, other: str) -> Target:
+    return Target(f"{name.split('/')[1]} over {other.split('/')[-1]}", f"calls/{name}", f"calls/{other}", 2,
+                  platforms=BOTH)
+
+
+def saving(place: str, form: str) -> Target:
+    return Target(f"saving {form} files on {place}, over RapidJSON alone", f"saving/{place}/{form}/library",
+                  f"saving/{place}/{form}/rapidjson", 1.25)
+
+
+def hostile(kind: str) -> Target:
+    return Target(f"hostile file, {kind}, over an honest one", f"hostile/{kind}/library",
+                  "hostile/honest/library", 2)
+
+
+TARGETS = [
     over_parse("typical", 1.15),
     over_parse("compact", 1.30),
     over_parse("utf16", 1.30),
@@ -54,17 +69,36 @@ RATIOS = [
            "destroying/typical/hand-written", 0.25, platforms=BOTH),
     walking("index"),
     walking("next"),
+    call("direct/Style_name", "virtual"),
+    call("direct/Effect_id", "virtual"),
+    call("direct/Parameter_name", "virtual"),
+    call("checked/Style_vendor", "direct/Style_name"),
+    call("converting/Effect_parent", "direct/Effect_id"),
+    call("converting/Parameter_parent", "direct/Parameter_name"),
+    call("converting/MutableEffect_parent", "direct/Effect_id-mutable"),
+    call("converting/MutableParameter_parent", "direct/Parameter_name-mutable"),
+    *(saving(place, form) for place in ("memory", "disk") for form in ("indented", "compact")),
+    *(hostile(kind) for kind in ("objects", "arrays", "numbers", "strings", "duplicate-effects",
+                                 "duplicate-parameters", "duplicate-values", "skipped-members",
+                                 "one-string", "one-number", "white-space")),
 ]
+STEEPEST = 1.1  # of every row of growth
 
 
 def rows_of_table(results: Results) -> list:
     """The targets that were measured, with their values."""
     table = []
-    for target in RATIOS:
+    for target in TARGETS:
         for platform in target.platforms:
             value = target.value(results, platform)
             if value is not None:
                 table.append({"work": target.work, "platform": platform, "value": value,
                               "limit": target.limit, "at least": target.at_least,
                               "unit": target.unit, "met": target.met(value)})
+    for platform in results.rows:
+        for work in sorted(results.grown_rows(platform)):
+            slope = results.slope(platform, work)
+            if slope is not None:
+                table.append({"work": f"growth, {work}", "platform": platform, "value": slope,
+                              "limit": STEEPEST, "at least": False, "unit": "", "met": slope <= STEEPEST})
     return table

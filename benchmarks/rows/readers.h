@@ -36,12 +36,13 @@ enum class Heap { warm, fresh };
 template <class Reader, Heap heap = Heap::warm>
 class Reading : public ReaderWorkload<Reader> {
  public:
-  using ReaderWorkload<Reader>::ReaderWorkload;
+  Reading(std::filesystem::path directory, std::size_t files, std::size_t heapForFile = 48U << 10)
+      : ReaderWorkload<Reader>(std::move(directory), files), heapForFile_(heapForFile) {}
+
   void prepare() override {
-    constexpr std::size_t enoughForOneFile = 48U << 10;
     this->make();
     if (heap == Heap::warm) {
-      warmHeap(this->files() * enoughForOneFile);
+      warmHeap(this->files() * heapForFile_);
     } else {
       chillHeap();
     }
@@ -51,6 +52,9 @@ class Reading : public ReaderWorkload<Reader> {
     return {this->files()};
   }
   void tidy() override { this->destroy(); }
+
+ private:
+  std::size_t heapForFile_;
 };
 
 template <class Reader>

@@ -13,7 +13,6 @@ void addWalkingRows(Rows& rows, const Settings& settings);
 void addCallRows(Rows& rows, const Settings& settings);
 void addEditingRows(Rows& rows, const Settings& settings);
 void addSavingRows(Rows& rows, const Settings& settings);
-void addGrowthRows(Rows& rows, const Settings& settings);
 void addHostileRows(Rows& rows, const Settings& settings);
 
 }  // namespace bench
