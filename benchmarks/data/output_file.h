@@ -18,7 +18,11 @@ class OutputFile {
   }
 
   std::FILE* get() const { return file_.get(); }
-  void write(std::string_view text) { std::fwrite(text.data(), 1, text.size(), file_.get()); }
+  void write(std::string_view text) {
+    if (std::fwrite(text.data(), 1, text.size(), file_.get()) != text.size()) {
+      throw std::runtime_error("cannot write all of a file");
+    }
+  }
 
  private:
   struct Closer {

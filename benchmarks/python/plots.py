@@ -59,7 +59,7 @@ def plot_growth(path: Path, results: Results) -> None:
               "saving, overwriting, removing": ("save", "overwrite", "remove")}
     if not works:
         return
-    figure, grid = pyplot.subplots(2, 2, figsize=(11, 9))
+    figure, grid = pyplot.subplots(2, 2, figsize=(13, 9))
     for axes, (title, prefixes) in zip(grid.flat, panels.items()):
         axes.set_title(title, loc="left")
         for number, work in enumerate(sorted(work for work in works if work.startswith(prefixes))):
@@ -68,7 +68,7 @@ def plot_growth(path: Path, results: Results) -> None:
             axes.loglog([n for n, _ in points], [time / 1e6 for _, time in points], marker="o", markersize=3,
                         linewidth=1, linestyle="-" if number < 10 else "--",
                         label=f"{work.removeprefix('read/')}: {slope:.2f}")
-        axes.legend(fontsize=7, title="slope", frameon=False)
+        axes.legend(fontsize=7, title="slope", frameon=False, loc="upper left", bbox_to_anchor=(1, 1))
         axes.set_xlabel("elements")
         axes.set_ylabel("milliseconds for all of them")
     write(figure, path)

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Makes the data, measures section by section, and reports. scripts/bench builds first and then runs this."""
 
 import argparse

@@ -8,7 +8,7 @@ class Section:
     name: str
     parts: tuple = ()  # of the data
     windows_parts: tuple | None = None  # None: it is not measured there
-    rounds: int = 9
+    rounds: int = 7
     quick_rounds: int = 5
     least_time: float = 0.02  # seconds for each row that is not run once
 
