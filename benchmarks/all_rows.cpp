@@ -11,6 +11,7 @@ Rows allRows(const Settings& settings) {
   addSavingRows(rows, settings);
   addHostileRows(rows, settings);
   addGrowthFileRows(rows, settings);
+  addGrowthReadingRows(rows, settings);
   addGrowthSavingRows(rows, settings);
 #endif
   addMemoryRows(rows, settings);
@@ -18,7 +19,7 @@ Rows allRows(const Settings& settings) {
   addWalkingRows(rows, settings);
   addCallRows(rows, settings);
   addEditingRows(rows, settings);
-  addGrowthContentRows(rows, settings);
+  addGrowthWalkingRows(rows, settings);
   addGrowthEditingRows(rows, settings);
   return rows;
 }

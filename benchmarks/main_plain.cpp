@@ -37,42 +37,42 @@ Options parseOptions(const std::vector<char*>& arguments) {
 }
 
 struct Measured {
-  std::size_t runs = 0;
-  double seconds = 0;
-  bench::Done total{0, 0};
+  double seconds;  // of the median run
+  bench::Done done;
 };
 
 Measured measure(const bench::Row& row, double leastTime) {
   using Clock = std::chrono::steady_clock;
+  constexpr std::size_t leastRuns = 3;
   const auto workload = row.make();
-  Measured measured;
+  std::vector<double> seconds;
+  double total = 0;
+  bench::Done done;
   do {
     workload->prepare();
     const auto start = Clock::now();
-    const bench::Done done = workload->run();
-    measured.seconds += std::chrono::duration<double>(Clock::now() - start).count();
+    done = workload->run();
+    seconds.push_back(std::chrono::duration<double>(Clock::now() - start).count());
     workload->tidy();
-    ++measured.runs;
-    measured.total.operations += done.operations;
-    measured.total.bytes += done.bytes;
-  } while (row.runs == bench::Runs::many && measured.seconds < leastTime);
-  return measured;
+    total += seconds.back();
+  } while (row.runs == bench::Runs::many && (total < leastTime || seconds.size() < leastRuns));
+  std::sort(seconds.begin(), seconds.end());
+  return {seconds[seconds.size() / 2], done};
 }
 
 template <class Writer>
 void write(Writer& writer, const bench::Row& row, const Measured& measured) {
-  const auto runs = static_cast<double>(measured.runs);
   writer.StartObject();
   writer.Key("name");
   writer.String(row.name.c_str());
   writer.Key("cpu_time");
-  writer.Double(measured.seconds * 1e9 / runs);
+  writer.Double(measured.seconds * 1e9);
   writer.Key("time_unit");
   writer.String("ns");
   writer.Key("operations");
-  writer.Double(static_cast<double>(measured.total.operations) / runs);
+  writer.Double(static_cast<double>(measured.done.operations));
   writer.Key("bytes");
-  writer.Double(static_cast<double>(measured.total.bytes) / runs);
+  writer.Double(static_cast<double>(measured.done.bytes));
   writer.EndObject();
 }
 

@@ -48,8 +48,8 @@ class Windows:
 
     def __init__(self, scratch: Path, library: Path | None):
         built = ROOT / "build/bench-windows/bin"
-        folder = scratch / self.name / "program"
-        folder.mkdir(parents=True)
+        folder = scratch / "program"
+        folder.mkdir()
         for name in ("bench-kostyle.exe", "plain.dll", "KoStyle.dll"):
             shutil.copy(built / name, folder)
         if library:
@@ -62,9 +62,10 @@ class Windows:
         return "Z:" + str(path).replace("/", "\\")
 
 
-def run_round(platform, section: Section, scale: Scale, folders: dict, output: Path) -> list:
+def run_round(platform, section: Section, scale: Scale, folders: dict, output_folder: Path) -> list:
     """One round of a section: every row once, in random order. Returns the rows as the program wrote
     them."""
+    output = output_folder / "round.json"
     folder_arguments = [f"--{name}={platform.path(path)}" for name, path in folders.items()]
     command = [*platform.command, *folder_arguments, *arguments(scale),
                f"--benchmark_filter=^{section.name}/",

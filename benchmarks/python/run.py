@@ -5,14 +5,15 @@ import argparse
 import itertools
 import os
 import platform as machine
-import tempfile
+import shutil
 from pathlib import Path
 
 import plots
-import results as measured
 import table
 import targets
+from places import Places, temporary_places
 from programs import ROOT, Native, Windows, make_data, run_round
+from results import Results, save
 from sections import FULL, QUICK, SECTIONS, Scale, windows_scale
 
 
@@ -44,28 +45,26 @@ def processor() -> str:
     return machine.processor()
 
 
-def measure(options: argparse.Namespace, scratch: Path, fast: Path | None) -> measured.Results:
+def measure(options: argparse.Namespace, places: Places) -> Results:
     scale = QUICK if options.quick else FULL
     both = options.native == options.windows
-    folders = {"scratch": scratch / "written"}
-    if fast:
-        folders["fast-scratch"] = fast
-    results = measured.Results()
+    results = Results()
     if options.native or both:
         parts = {section.name: section.parts for section in options.sections}
-        measure_on(Native(scratch, options.library), parts, scale, options, folders, results)
+        measure_on(Native(places.disk, options.library), parts, scale, options, places, results)
     if options.windows or both:
         parts = {section.name: section.windows_parts for section in options.sections
                  if section.windows_parts is not None}
-        measure_on(Windows(scratch, options.dll), parts, windows_scale(scale), options, folders, results)
+        measure_on(Windows(places.disk, options.dll), parts, windows_scale(scale), options, places, results)
     return results
 
 
-def measure_on(platform, parts: dict, scale: Scale, options, folders: dict, results) -> None:
+def measure_on(platform, parts: dict, scale: Scale, options, places: Places, results: Results) -> None:
     """Measures the sections that `parts` names, each with its parts of the data."""
-    scratch = folders["scratch"].parent
-    data = scratch / platform.name / "data"
-    make_data(data, set(itertools.chain(*parts.values())), scale)
+    folders = {"data": places.data / platform.name, "scratch": places.disk / "written"}
+    if places.memory:
+        folders["fast-scratch"] = places.memory / "written"
+    make_data(folders["data"], set(itertools.chain(*parts.values())), scale)
     for section in options.sections:
         if section.name not in parts:
             continue
@@ -73,30 +72,30 @@ def measure_on(platform, parts: dict, scale: Scale, options, folders: dict, resu
         print(f"measuring {section.name}, {platform.name}:", end="", flush=True)
         for number in range(rounds):
             print(f" {number + 1}", end="", flush=True)
-            rows = run_round(platform, section, scale, folders | {"data": data}, scratch / "round.json")
-            results.add_round(platform.name, rows)
+            results.add_round(platform.name, run_round(platform, section, scale, folders, places.disk))
         print(flush=True)
+    if folders["data"].exists():
+        shutil.rmtree(folders["data"])
 
 
-def main() -> None:
-    options = parse_arguments()
-    with tempfile.TemporaryDirectory(prefix="kostyle-bench-") as folder:
-        memory = Path("/dev/shm")
-        if memory.is_dir() and os.access(memory, os.W_OK):
-            with tempfile.TemporaryDirectory(prefix="kostyle-bench-", dir=memory) as fast:
-                results = measure(options, Path(folder), Path(fast))
-        else:
-            results = measure(options, Path(folder), None)
+def report(options: argparse.Namespace, results: Results) -> None:
     about = {"processor": processor(), "processors": os.cpu_count(), "system": machine.system(),
              "quick": options.quick, "load": os.getloadavg()}
     rows = targets.rows_of_table(results)
-    measured.save(options.results, about, results, rows)
+    save(options.results, about, results, rows)
     table.print_medians(results)
     table.print_targets(rows)
     folder = options.results.parent
     plots.plot_peers(folder / "performance-peers.svg", results)
     plots.plot_growth(folder / "performance-growth.svg", results)
     print(f"\nresults and plots are in {folder}")
+
+
+def main() -> None:
+    options = parse_arguments()
+    with temporary_places() as places:
+        results = measure(options, places)
+    report(options, results)
 
 
 if __name__ == "__main__":

@@ -48,7 +48,8 @@ def call(name: str, other: str) -> Target:
 
 
 def saving(place: str, form: str) -> Target:
-    return Target(f"saving {form} files on {place}, over RapidJSON alone", f"saving/{place}/{form}/library",
+    """In memory, since the system's work for a disk would hide the library's."""
+    return Target(f"saving {form} files in {place}, over RapidJSON alone", f"saving/{place}/{form}/library",
                   f"saving/{place}/{form}/rapidjson", 1.25)
 
 
@@ -77,7 +78,8 @@ TARGETS = [
     call("converting/Parameter_parent", "direct/Parameter_name"),
     call("converting/MutableEffect_parent", "direct/Effect_id-mutable"),
     call("converting/MutableParameter_parent", "direct/Parameter_name-mutable"),
-    *(saving(place, form) for place in ("memory", "disk") for form in ("indented", "compact")),
+    saving("memory", "indented"),
+    saving("memory", "compact"),
     *(hostile(kind) for kind in ("objects", "arrays", "numbers", "strings", "duplicate-effects",
                                  "duplicate-parameters", "duplicate-values", "skipped-members",
                                  "one-string", "one-number", "white-space")),

@@ -20,7 +20,8 @@ inline Text orderedName(std::size_t i) {
 }
 
 void addGrowthFileRows(Rows& rows, const Settings& settings);     // many files
-void addGrowthContentRows(Rows& rows, const Settings& settings);  // one large file
+void addGrowthReadingRows(Rows& rows, const Settings& settings);  // one large file
+void addGrowthWalkingRows(Rows& rows, const Settings& settings);  // what it holds
 void addGrowthEditingRows(Rows& rows, const Settings& settings);
 void addGrowthSavingRows(Rows& rows, const Settings& settings);
 

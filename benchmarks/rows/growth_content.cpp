@@ -62,21 +62,27 @@ void addParameterVisits(Rows& rows, const std::filesystem::path& directory, std:
   });
 }
 
+std::filesystem::path folder(const Settings& settings, const std::string& content, std::size_t size) {
+  return settings.data / "growth" / content / std::to_string(size);
+}
+
 }  // namespace
 
-void addGrowthContentRows(Rows& rows, const Settings& settings) {
+void addGrowthReadingRows(Rows& rows, const Settings& settings) {
   for (const std::size_t size : settings.sizes) {
-    const auto folder = [&](const std::string& name) {
-      return settings.data / "growth" / name / std::to_string(size);
-    };
     for (const char* content :
          {"effects", "repeated-effect", "parameters-sorted", "parameters-reversed", "parameters-random",
           "repeated-parameter", "values", "repeated-value"}) {
       addRow<ReadingElements>(rows, growthName(std::string("read/") + content, size), Runs::many,
-                              folder(content), size);
+                              folder(settings, content, size), size);
     }
-    addEffectVisits(rows, folder("effects"), size);
-    addParameterVisits(rows, folder("parameters-random"), size);
+  }
+}
+
+void addGrowthWalkingRows(Rows& rows, const Settings& settings) {
+  for (const std::size_t size : settings.sizes) {
+    addEffectVisits(rows, folder(settings, "effects", size), size);
+    addParameterVisits(rows, folder(settings, "parameters-random", size), size);
   }
 }
 
