@@ -1,6 +1,7 @@
 // Runs the rows where Google Benchmark is not to be had. Understands the arguments that the benchmark's
-// scripts give it, and writes the same JSON as far as they read it. Times are those of the wall clock:
-// the processor time that Windows gives is counted in ticks of ten milliseconds and more.
+// scripts give it, and writes the same JSON as far as they read it. Times are those of the clock, since
+// the processor time of Windows is counted in ticks of ten milliseconds and more; of several runs the
+// shortest counts, which was interrupted least.
 #include <rapidjson/filewritestream.h>
 #include <rapidjson/prettywriter.h>
 
