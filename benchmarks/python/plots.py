@@ -22,7 +22,7 @@ def bars(axes, title: str, results: Results, platform: str, prefix: str, scale: 
     axes.barh([name for name, _ in found], [value for _, value in found],
               color=[OWN if name == "library" else OTHER for name, _ in found])
     for place, (_, value) in enumerate(found):
-        axes.text(value, place, f" {value:.3g} {unit}", va="center")
+        axes.text(value, place, f" {value:,.0f} {unit}" if value >= 100 else f" {value:.3g} {unit}", va="center")
     axes.set_xticks([])
     axes.spines["bottom"].set_visible(False)
     axes.margins(x=0.25)
