@@ -9,10 +9,11 @@
 
 namespace Tesk::KoStyle {
 
+inline constexpr std::size_t unitsOfFront = sizeof(std::uint64_t) / sizeof(Char);
+
 inline std::uint64_t frontOf(TextView text) noexcept {
-  constexpr std::size_t units = sizeof(std::uint64_t) / sizeof(Char);
   std::uint64_t front = 0;
-  for (std::size_t i = 0; i < units; ++i)
+  for (std::size_t i = 0; i < unitsOfFront; ++i)
     front = front << 16 | (i < text.size() ? static_cast<std::uint16_t>(text[i]) : 0U);
   return front;
 }

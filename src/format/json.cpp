@@ -1,26 +1,15 @@
 #include "format/json.h"
 
-#include <algorithm>
-#include <cstring>
-#include <utility>
-
 namespace Tesk::KoStyle::json {
 
-void* ThrowingAllocator::Realloc(void* original, std::size_t originalSize, std::size_t newSize) {
-  void* const memory = Malloc(newSize);
-  if (original && memory) std::memcpy(memory, original, std::min(originalSize, newSize));
-  Free(original);
-  return memory;
-}
-
-void* StackMemory::Realloc(void* original, std::size_t originalSize, std::size_t newSize) {
+void* StackMemory::Realloc(void*, std::size_t, std::size_t newSize) {
   if (newSize > capacity_) {
-    std::unique_ptr<char[]> larger(new char[newSize]);
-    if (original) std::memcpy(larger.get(), original, originalSize);
-    memory_ = std::move(larger);
+    void* const larger = std::realloc(memory_, newSize);
+    if (!larger) throw std::bad_alloc();
+    memory_ = larger;
     capacity_ = newSize;
   }
-  return memory_.get();
+  return memory_;
 }
 
 const Value* findMember(const Value& object, TextView key) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
+#include <cstdlib>
 #include <new>
 
 // A document that breaks a rule of the parser's own is a bad document, never the end of the host.
@@ -23,26 +23,31 @@ using SizeType = std::size_t;
 
 namespace Tesk::KoStyle::json {
 
-/// Memory for the parser. Throws where RapidJSON's own allocator answers null, which its pools and
+/// Memory for documents. Throws where RapidJSON's own allocator answers null, which its pools and
 /// stacks do not look at.
 class ThrowingAllocator {
  public:
   static constexpr bool kNeedFree = true;
   void* Malloc(std::size_t size) { return size == 0 ? nullptr : ::operator new(size); }
-  void* Realloc(void* original, std::size_t originalSize, std::size_t newSize);
   static void Free(void* memory) noexcept { ::operator delete(memory); }
 };
 
-/// Memory for one stack after the other, which stays from one to the next.
+/// Memory for one stack after the other, which stays from one to the next. It grows by realloc, since
+/// the system moves a large block without copying it. Throws likewise.
 class StackMemory {
  public:
   static constexpr bool kNeedFree = false;
+  StackMemory() = default;
+  StackMemory(const StackMemory&) = delete;
+  StackMemory& operator=(const StackMemory&) = delete;
+  ~StackMemory() { std::free(memory_); }
+
   void* Malloc(std::size_t size) { return Realloc(nullptr, 0, size); }
   void* Realloc(void* original, std::size_t originalSize, std::size_t newSize);
   static void Free(void*) noexcept {}
 
  private:
-  std::unique_ptr<char[]> memory_;
+  void* memory_ = nullptr;
   std::size_t capacity_ = 0;
 };
 

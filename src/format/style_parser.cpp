@@ -13,11 +13,7 @@ constexpr std::size_t stackSize = 1024;
 }  // namespace
 
 StyleParser::StyleParser()
-    : firstChunk_(new char[chunkSize]),
-      pool_(firstChunk_.get(), chunkSize, chunkSize, &allocator_),
-      utf8_(&allocator_),
-      utf16_(&allocator_),
-      utf32_(&allocator_) {}
+    : firstChunk_(new char[chunkSize]), pool_(firstChunk_.get(), chunkSize, chunkSize, &allocator_) {}
 
 rapidjson::ParseResult StyleParser::parse(std::FILE* file) {
   document_.reset();

@@ -24,7 +24,7 @@ class StyleParser {
 
  private:
   template <class Source>
-  using Reader = rapidjson::GenericReader<Source, json::Encoding, json::ThrowingAllocator>;
+  using Reader = rapidjson::GenericReader<Source, json::Encoding, json::StackMemory>;
 
   template <class Source, class Stream>
   rapidjson::ParseResult parse(Reader<Source>& reader, Stream&& units);

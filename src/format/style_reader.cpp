@@ -100,8 +100,7 @@ void StyleReader::readChain(EffectKind kind) {
     if (id.empty() || !member->value.IsObject()) continue;
     const Value* const parameters = findMember(member->value, key::parameter);
     if (!parameters) continue;
-    builder_.addEffect(kind, id);
-    readParameters(*parameters);
+    if (builder_.addEffect(kind, id)) readParameters(*parameters);
   }
 }
 

@@ -11,10 +11,10 @@ namespace {
 using json::Pool;
 using json::Value;
 
-Value makeString(TextView text, Pool& pool) { return Value(text.data(), text.size(), pool); }
+Value makeString(TextView text) { return Value(rapidjson::StringRef(text.data(), text.size())); }
 
 void addMember(Value& object, TextView key, Value&& value, Pool& pool) {
-  object.AddMember(makeString(key, pool), std::move(value), pool);
+  object.AddMember(makeString(key), std::move(value), pool);
 }
 
 void addUnlessEmpty(Value& object, TextView key, Value&& value, Pool& pool) {
@@ -26,12 +26,12 @@ template <class Texts>
 void addTexts(Value& filter, TextView key, const Texts& texts, Pool& pool) {
   Value array(rapidjson::kArrayType);
   for (const TextView text : texts) {
-    if (!text.empty()) array.PushBack(makeString(text, pool), pool);
+    if (!text.empty()) array.PushBack(makeString(text), pool);
   }
   addUnlessEmpty(filter, key, std::move(array), pool);
 }
 
-Value makeValue(const ParameterValue& value, Pool& pool) {
+Value makeValue(const ParameterValue& value) {
   switch (value.type) {
     case ParameterType::integer:
       return Value(value.integer);
@@ -40,7 +40,7 @@ Value makeValue(const ParameterValue& value, Pool& pool) {
     case ParameterType::text:
       break;
   }
-  return makeString(value.text, pool);
+  return makeString(value.text);
 }
 
 template <class Chain>
@@ -57,8 +57,8 @@ std::uint32_t buildDocument(const StyleType& style, TextView id, json::Document&
   if (style.wholeName().empty()) return KOSTYLE_ERROR_WRITE_EMPTY_NAME;
   Pool& pool = root.GetAllocator();
   root.SetObject();
-  addMember(root, key::id, makeString(id, pool), pool);
-  addMember(root, key::name, makeString(style.wholeName(), pool), pool);
+  addMember(root, key::id, makeString(id), pool);
+  addMember(root, key::name, makeString(style.wholeName()), pool);
   Value filter(rapidjson::kObjectType);
   if (const auto code = writeFilter(style.attributes(), filter, pool)) return code;
   addUnlessEmpty(root, key::filter, std::move(filter), pool);
@@ -148,7 +148,7 @@ std::uint32_t writeParameters(const EffectType* effect, Value& target, Pool& poo
   Value object(rapidjson::kObjectType);
   for (const auto& parameter : effect->parameters()) {
     if (parameter.wholeName().empty()) continue;
-    addMember(object, parameter.wholeName(), makeValue(parameter.value(), pool), pool);
+    addMember(object, parameter.wholeName(), makeValue(parameter.value()), pool);
   }
   addUnlessEmpty(target, key::parameter, std::move(object), pool);
   return KOSTYLE_OK;

@@ -101,12 +101,12 @@ IUserStyle* saveNewStyle(StyleManager& manager, MutableStyle& style, bool pretty
 
   FreshName name = chooseStyleName(manager);
   const TargetFile target(name.path);
-  const StyleDocument document(style, name.uuid);
   auto saved = std::make_unique<UserStyle>(&manager);
   StoredContent content = copyFromMutableStyle(style, *saved);
   saved->exchangeContent(content);
   saved->assignId(std::move(name.uuid));
   saved->assignPath(std::move(name.path));
+  const StyleDocument document(style, saved->wholeId());
   auto node = StyleSequence::makeNode(std::move(saved));
 
   error = writeNewFile(target, document, pretty);

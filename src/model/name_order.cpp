@@ -6,25 +6,75 @@
 namespace Tesk::KoStyle {
 namespace {
 
-// For names with one front.
-int compareWhole(const NameKey& a, const NameKey& b) noexcept {
-  return a.item->name.compare(b.item->name);
-}
+using Keys = std::vector<NameKey>::iterator;
 
-bool nameBefore(const NameKey& a, const NameKey& b) noexcept {
-  return a.front != b.front ? a.front < b.front : compareWhole(a, b) < 0;
-}
-
-struct Before {
-  bool operator()(const NameKey& a, const NameKey& b) const noexcept {
-    if (a.front != b.front) return a.front < b.front;
-    const int order = compareWhole(a, b);
-    return order < 0 || (order == 0 && std::less<>()(a.item, b.item));
-  }
+// Keys whose names are equal up to a depth.
+struct Run {
+  std::size_t first;
+  std::size_t end;
+  std::size_t depth;
 };
 
-bool haveOneName(const NameKey& a, const NameKey& b) noexcept {
-  return a.front == b.front && a.item->name == b.item->name;
+TextView nameOf(const NameKey& key) noexcept { return key.item->name; }
+
+bool nameBefore(const NameKey& a, const NameKey& b) noexcept {
+  return a.front != b.front ? a.front < b.front : nameOf(a) < nameOf(b);
+}
+
+bool frontBefore(const NameKey& a, const NameKey& b) noexcept { return a.front < b.front; }
+
+bool haveOneName(const NameKey& a, const NameKey& b) noexcept { return nameOf(a) == nameOf(b); }
+
+// Whether a name of the run goes on at its depth. If so, the fronts become what stands there.
+bool moveFronts(Keys first, Keys end, std::size_t depth) noexcept {
+  bool goesOn = false;
+  for (Keys key = first; key != end; ++key) {
+    const TextView name = nameOf(*key);
+    goesOn = goesOn || name.size() > depth;
+    key->front = frontOf(name.substr(std::min(depth, name.size())));
+  }
+  return goesOn;
+}
+
+// The end of the keys that have the front of the first one.
+Keys endOfFront(Keys first, Keys end) noexcept {
+  return std::find_if(first, end, [first](const NameKey& key) { return key.front != first->front; });
+}
+
+// Sorts names that are equal as far as the longer one goes on with U+0000 alone, and puts the earliest
+// item of each name before the others.
+void sortBySize(Keys first, Keys end) noexcept {
+  for (Keys key = first; key != end; ++key) key->front = nameOf(*key).size();
+  if (!std::is_sorted(first, end, frontBefore)) std::sort(first, end, frontBefore);
+  const auto isEarlier = [](const NameKey& a, const NameKey& b) {
+    return std::less<>()(a.item, b.item);
+  };
+  for (Keys next; first != end; first = next) {
+    next = endOfFront(first, end);
+    std::iter_swap(first, std::min_element(first, next, isEarlier));
+  }
+}
+
+// Sorts by the fronts alone, then what has one front by the units behind it, and so on: however long
+// the names are and however much of them is equal, each unit is looked at in one round only.
+void sortByName(std::vector<NameKey>& keys, std::size_t first) {
+  std::vector<Run> runs{{first, keys.size(), 0}};
+  while (!runs.empty()) {
+    const Run run = runs.back();
+    runs.pop_back();
+    Keys key = keys.begin() + static_cast<std::ptrdiff_t>(run.first);
+    const Keys end = keys.begin() + static_cast<std::ptrdiff_t>(run.end);
+    if (run.depth > 0 && !moveFronts(key, end, run.depth)) {
+      sortBySize(key, end);
+      continue;
+    }
+    if (!std::is_sorted(key, end, frontBefore)) std::sort(key, end, frontBefore);
+    for (Keys next; key != end; key = next) {
+      next = endOfFront(key, end);
+      const auto index = [&keys](Keys at) { return static_cast<std::size_t>(at - keys.begin()); };
+      if (next - key > 1) runs.push_back({index(key), index(next), run.depth + unitsOfFront});
+    }
+  }
 }
 
 }  // namespace
@@ -33,7 +83,7 @@ void sortDistinct(std::vector<NameKey>& keys, std::size_t first) {
   const auto begin = keys.begin() + static_cast<std::ptrdiff_t>(first);
   const auto outOfOrder = [](const NameKey& a, const NameKey& b) { return !nameBefore(a, b); };
   if (std::adjacent_find(begin, keys.end(), outOfOrder) == keys.end()) return;
-  std::sort(begin, keys.end(), Before());
+  sortByName(keys, first);
   keys.erase(std::unique(begin, keys.end(), haveOneName), keys.end());
 }
 

@@ -17,11 +17,15 @@ void StyleBuilder::clear() noexcept {
 }
 
 void StyleBuilder::addText(Attribute attribute, TextView text) {
-  if (isAttributeText(attribute, text)) texts_[static_cast<std::size_t>(attribute)].push_back({text});
+  if (!isAttributeText(attribute, text)) return;
+  std::vector<Named>& texts = texts_[static_cast<std::size_t>(attribute)];
+  if (texts.empty() || texts.back().name != text) texts.push_back({text});
 }
 
-void StyleBuilder::addEffect(EffectKind kind, TextView id) {
+bool StyleBuilder::addEffect(EffectKind kind, TextView id) {
+  if (!effects_.empty() && effects_.back().kind == kind && effects_.back().name == id) return false;
   effects_.push_back({{id}, kind, parameters_.size()});
+  return true;
 }
 
 StoredContent StyleBuilder::freeze(const Style& style) {

@@ -2,8 +2,9 @@
 // and freezes what is left.
 //
 // Of effects with one identifier in a chain, and of parameters with one name in an effect, the first
-// stays. Effects keep their order; parameters and attribute texts sort. The texts handed in are not
-// copied before freeze(), so they must live until then.
+// stays; what follows one of its own name is left out at once. Effects keep their order; parameters and
+// attribute texts sort. The texts handed in are not copied before freeze(), so they must live until
+// then.
 #pragma once
 
 #include <array>
@@ -30,12 +31,14 @@ class StyleBuilder {
   void addLanguage(int language) noexcept { languages_.insert(language); }
   void addText(Attribute attribute, TextView text);
 
-  /// An effect without parameters. The identifier must not be empty.
-  void addEffect(EffectKind kind, TextView id);
+  /// An effect without parameters. The identifier must not be empty. False when it is that of the
+  /// effect before it, which stays the last one.
+  bool addEffect(EffectKind kind, TextView id);
 
   /// A parameter of the effect that was added last. The name must not be empty.
   void addParameter(TextView name, const ParameterValue& value) {
-    parameters_.push_back({{name}, value});
+    const bool isFirst = parameters_.size() == effects_.back().firstParameter;
+    if (isFirst || parameters_.back().name != name) parameters_.push_back({{name}, value});
   }
 
   bool hasEffects() const noexcept { return !effects_.empty(); }

@@ -16,12 +16,16 @@ struct AllocationTrial {
 
 inline thread_local AllocationTrial allocationTrial;
 
-inline void* allocateOnTrial(std::size_t size) {
+/// Whether the allocation that is asked for now is the one that fails.
+inline bool failsOnTrial() {
   AllocationTrial& trial = allocationTrial;
-  if (trial.running && trial.left-- == 0) {
-    trial.failed = true;
-    throw std::bad_alloc();
-  }
+  if (!trial.running || trial.left-- != 0) return false;
+  trial.failed = true;
+  return true;
+}
+
+inline void* allocateOnTrial(std::size_t size) {
+  if (failsOnTrial()) throw std::bad_alloc();
   if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
   throw std::bad_alloc();
 }
