@@ -17,11 +17,11 @@ static void printStyle(const char* title, KoStyleStyle* style) {
 }
 
 /* Fills a mutable style: a name, two genres, and one audio effect with three parameters. */
-static bool fill(KoStyleStyle* draft, const KoStyleChar* name, float mix) {
-  if (!MutableStyle_setName(draft, name)) return false;
-  if (!MutableStyle_addGenre(draft, KOSTYLE_TEXT("Ballad"))) return false;
-  if (!MutableStyle_addGenre(draft, KOSTYLE_TEXT("Jazz"))) return false;
-  KoStyleEffect* reverb = MutableStyle_insertAudioEffect(draft, 0, KOSTYLE_TEXT("Reverb"));
+static bool fill(KoStyleStyle* mutableStyle, const KoStyleChar* name, float mix) {
+  if (!MutableStyle_setName(mutableStyle, name)) return false;
+  if (!MutableStyle_addGenre(mutableStyle, KOSTYLE_TEXT("Ballad"))) return false;
+  if (!MutableStyle_addGenre(mutableStyle, KOSTYLE_TEXT("Jazz"))) return false;
+  KoStyleEffect* reverb = MutableStyle_insertAudioEffect(mutableStyle, 0, KOSTYLE_TEXT("Reverb"));
   KoStyleParameter* parameter = MutableEffect_addParameter(reverb, KOSTYLE_TEXT("mix"));
   MutableParameter_setValueFloat(parameter, mix);
   parameter = MutableEffect_addParameter(reverb, KOSTYLE_TEXT("preDelay"));
@@ -32,20 +32,20 @@ static bool fill(KoStyleStyle* draft, const KoStyleChar* name, float mix) {
 }
 
 static KoStyleStyle* saveNew(KoStyleManager* manager) {
-  KoStyleStyle* draft = StyleManager_createMutableStyle(manager);
-  if (!fill(draft, KOSTYLE_TEXT("Evening"), 0.25F)) return NULL;
+  KoStyleStyle* mutableStyle = StyleManager_createMutableStyle(manager);
+  if (!fill(mutableStyle, KOSTYLE_TEXT("Evening"), 0.25F)) return NULL;
   int error;
-  KoStyleStyle* saved = MutableStyle_save(draft, true, &error);
+  KoStyleStyle* saved = MutableStyle_save(mutableStyle, true, &error);
   if (!saved) fprintf(stderr, "not saved: code %d\n", error);
   return saved;
 }
 
 static KoStyleStyle* overwrite(KoStyleManager* manager, KoStyleStyle* style) {
-  KoStyleStyle* draft = StyleManager_createMutableStyle(manager);
-  if (!fill(draft, KOSTYLE_TEXT("Late evening"), 0.5F)) return NULL;
-  MutableStyle_insertAudioEffect(draft, 0, KOSTYLE_TEXT("Gate"));
+  KoStyleStyle* mutableStyle = StyleManager_createMutableStyle(manager);
+  if (!fill(mutableStyle, KOSTYLE_TEXT("Late evening"), 0.5F)) return NULL;
+  MutableStyle_insertAudioEffect(mutableStyle, 0, KOSTYLE_TEXT("Gate"));
   int error;
-  KoStyleStyle* overwritten = MutableStyle_overwrite(draft, Style_id(style), true, &error);
+  KoStyleStyle* overwritten = MutableStyle_overwrite(mutableStyle, Style_id(style), true, &error);
   if (!overwritten) fprintf(stderr, "not overwritten: code %d\n", error);
   return overwritten;
 }

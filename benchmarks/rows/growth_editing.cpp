@@ -41,15 +41,15 @@ void insertEffects(KoStyleStyle* style, const Names& names, At at) {
 }
 
 // A manager with one mutable style, which has one MIDI effect.
-struct Workspace {
-  explicit Workspace(const std::filesystem::path& directory) : host(directory) {}
+struct EditedStyle {
+  explicit EditedStyle(const std::filesystem::path& directory) : host(directory) {}
 
   Host host;
   KoStyleStyle* style = StyleManager_createMutableStyle(host.manager());
   KoStyleEffect* effect = MutableStyle_insertMidiEffect(style, 0, KOSTYLE_TEXT("e"));
 };
 
-using Edit = std::function<void(Workspace&, const Names&)>;
+using Edit = std::function<void(EditedStyle&, const Names&)>;
 
 // `before` is not measured, `edit` is.
 class Editing : public Workload {
@@ -61,50 +61,50 @@ class Editing : public Workload {
         edit_(std::move(edit)) {}
 
   void prepare() override {
-    workspace_.emplace(folder_.path());
-    before_(*workspace_, names_);
+    edited_.emplace(folder_.path());
+    before_(*edited_, names_);
   }
   Done run() override {
-    edit_(*workspace_, names_);
+    edit_(*edited_, names_);
     return {names_.size()};
   }
-  void tidy() override { workspace_.reset(); }
+  void tidy() override { edited_.reset(); }
 
  private:
   WrittenFolder folder_;
   Names names_;
   Edit before_;
   Edit edit_;
-  std::optional<Workspace> workspace_;
+  std::optional<EditedStyle> edited_;
 };
 
-void nothing(Workspace&, const Names&) {}
+void nothing(EditedStyle&, const Names&) {}
 
 Edit inserting(At at) {
-  return [=](Workspace& w, const Names& names) { insertEffects(w.style, names, at); };
+  return [=](EditedStyle& w, const Names& names) { insertEffects(w.style, names, at); };
 }
 
-void addParameters(Workspace& w, const Names& names) {
+void addParameters(EditedStyle& w, const Names& names) {
   for (const Text& name : names) MutableEffect_addParameter(w.effect, name.c_str());
 }
 
-void moveEffects(Workspace& w, const Names& names) {
+void moveEffects(EditedStyle& w, const Names& names) {
   for (std::size_t i = 0; i < names.size(); ++i) {
     MutableEffect_move(MutableStyle_audioEffect(w.style, 0), names.size() / 2);
   }
 }
 
-void createMutableStyles(Workspace& w, const Names& names) {
+void createMutableStyles(EditedStyle& w, const Names& names) {
   for (std::size_t i = 0; i < names.size(); ++i) StyleManager_createMutableStyle(w.host.manager());
 }
 
-void walkEffects(Workspace& w, const Names& names) {
+void walkEffects(EditedStyle& w, const Names& names) {
   if (walkLength(MutableStyle_audioEffect(w.style, 0), MutableAudioEffect_next) != names.size()) {
     throw std::runtime_error("not all effects were visited");
   }
 }
 
-void walkParameters(Workspace& w, const Names& names) {
+void walkParameters(EditedStyle& w, const Names& names) {
   if (walkLength(MutableEffect_parameter(w.effect, 0), MutableParameter_next) != names.size()) {
     throw std::runtime_error("not all parameters were visited");
   }

@@ -5,6 +5,7 @@
 // type_info in the library, so comparing addresses tells whether the object is one of them.
 #pragma once
 
+#include <type_traits>
 #include <typeinfo>
 
 #include "model/effect.h"
@@ -51,6 +52,7 @@ struct ImplementationsOf<IMutableStyle> : ClassList<MutableStyle> {};
 
 template <class Target, class Base, class... Classes>
 Target* castAmong(Base& handle, ClassList<Classes...>) {
+  static_assert((std::is_final_v<Classes> && ...) && (std::is_base_of_v<Target, Classes> && ...));
   const std::type_info& type = typeid(handle);
   void* const object = dynamic_cast<void*>(&handle);
   Target* target = nullptr;

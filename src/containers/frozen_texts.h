@@ -1,6 +1,7 @@
 // FrozenTexts: texts that are copied once into one block of exactly their size, in the order given.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <new>
@@ -36,6 +37,10 @@ class FrozenTexts {
   /// The text at a position, with U+0000 behind it; null at or past the end.
   const TextView* at(std::size_t position) const noexcept {
     return position < size_ ? &views_[position] : nullptr;
+  }
+
+  friend bool operator==(const FrozenTexts& a, const FrozenTexts& b) noexcept {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end());
   }
 
   void swap(FrozenTexts& other) noexcept {

@@ -44,10 +44,6 @@ class OwnedSequence {
  public:
   /// An element outside any sequence, with all the memory that inserting it takes.
   class NodeHandle {
-   public:
-    Element& element() const noexcept { return *node_->element; }
-
-   private:
     friend OwnedSequence;
     explicit NodeHandle(std::unique_ptr<Node> node) noexcept : node_(std::move(node)) {}
     std::unique_ptr<Node> node_;
@@ -77,8 +73,8 @@ class OwnedSequence {
   };
 
   OwnedSequence() = default;
-  OwnedSequence(OwnedSequence&& other) noexcept { swap(other); }
-  OwnedSequence& operator=(OwnedSequence&&) = delete;
+  OwnedSequence(const OwnedSequence&) = delete;
+  OwnedSequence& operator=(const OwnedSequence&) = delete;
   ~OwnedSequence() { clear(); }
 
   std::size_t size() const noexcept { return order_.size(); }
@@ -170,21 +166,15 @@ class OwnedSequence {
     insertKey(node);
   }
 
-  void swap(OwnedSequence& other) noexcept {
-    order_.swap(other.order_);
-    identities_.swap(other.identities_);
-    keys_.swap(other.keys_);
-  }
-
   /// Destroys all elements, from the first to the last, in linear time.
   void clear() noexcept {
     RankNode* at = order_.at(0);
-    identities_ = RankTree();
-    keys_ = RankTree();
+    identities_.clear();
+    keys_.clear();
     // The tree is read no more once its nodes are going, so their order moves into a hook that is free.
     for (RankNode* node = at; node; node = RankTree::next(*node))
       asHook<ByIdentity>(nodeOf<ByPosition>(*node)).right = RankTree::next(*node);
-    order_ = RankTree();
+    order_.clear();
     while (at) {
       Node& node = nodeOf<ByPosition>(*at);
       at = asHook<ByIdentity>(node).right;

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <cstddef>
-#include <utility>
 
 namespace Tesk::KoStyle {
 
@@ -21,11 +20,7 @@ class RankTree {
  public:
   RankTree() = default;
   RankTree(const RankTree&) = delete;
-  RankTree(RankTree&& other) noexcept { swap(other); }
-  RankTree& operator=(RankTree other) noexcept {
-    swap(other);
-    return *this;
-  }
+  RankTree& operator=(const RankTree&) = delete;
 
   std::size_t size() const noexcept { return root_ ? root_->size : 0; }
 
@@ -44,7 +39,8 @@ class RankTree {
   /// Takes a node of this tree out.
   void erase(RankNode& node) noexcept;
 
-  void swap(RankTree& other) noexcept { std::swap(root_, other.root_); }
+  /// Forgets all nodes, which are in no tree then.
+  void clear() noexcept { root_ = nullptr; }
 
   /// The first position whose node `before` does not hold for. It must hold for a front part of the
   /// nodes and for no other.

@@ -14,14 +14,7 @@ template <class Value>
 class SortedSet {
  public:
   SortedSet() = default;
-  SortedSet(SortedSet&& other) noexcept { swap(other); }
-  SortedSet& operator=(SortedSet&& other) noexcept {
-    swap(other);
-    return *this;
-  }
-  SortedSet(const SortedSet& other) : SortedSet() {
-    for (const Value& value : other) insert(value);
-  }
+  SortedSet(const SortedSet&) = delete;
   SortedSet& operator=(const SortedSet&) = delete;
   ~SortedSet() { clear(); }
 
@@ -73,8 +66,6 @@ class SortedSet {
   void clear() noexcept {
     while (!empty()) eraseAt(0);
   }
-
-  void swap(SortedSet& other) noexcept { tree_.swap(other.tree_); }
 
  private:
   struct Node : RankNode {

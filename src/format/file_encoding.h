@@ -2,10 +2,23 @@
 #pragma once
 
 #include <cstddef>
-
-#include "format/unit_stream.h"
+#include <cstdio>
 
 namespace Tesk::KoStyle {
+
+inline constexpr std::size_t blockSize = 256;
+
+/// What is read of a file at once.
+struct Block {
+  explicit Block(std::FILE* file) noexcept : size(std::fread(bytes, 1, blockSize, file)) {}
+
+  bool isLast() const noexcept { return size < blockSize; }
+
+  unsigned char bytes[blockSize];
+  std::size_t size;
+};
+
+enum class ByteOrder { little, big };
 
 struct FileEncoding {
   std::size_t unitSize = 1;

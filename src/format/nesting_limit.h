@@ -32,13 +32,18 @@ class NestingLimit {
   }
   bool Key(const Ch* text, std::size_t length, bool copy) { return document_.Key(text, length, copy); }
   bool StartObject() { return enter() && document_.StartObject(); }
-  bool EndObject(std::size_t count) { return leave() && document_.EndObject(count); }
+  bool EndObject(std::size_t count) {
+    --level_;
+    return document_.EndObject(count);
+  }
   bool StartArray() { return enter() && document_.StartArray(); }
-  bool EndArray(std::size_t count) { return leave() && document_.EndArray(count); }
+  bool EndArray(std::size_t count) {
+    --level_;
+    return document_.EndArray(count);
+  }
 
  private:
   bool enter() { return ++level_ <= KOSTYLE_MAX_NESTING; }
-  bool leave() { return level_-- > 0; }
 
   json::Document& document_;
   int level_ = 0;

@@ -1,13 +1,12 @@
 #include "format/style_parser.h"
 
-#include "format/file_encoding.h"
 #include "format/nesting_limit.h"
 #include "format/unit_stream.h"
 
 namespace Tesk::KoStyle {
 namespace {
 
-constexpr std::size_t chunkSize = 64 * 1024;
+constexpr std::size_t chunkSize = 65536;
 constexpr std::size_t stackSize = 1024;
 
 }  // namespace
@@ -23,16 +22,18 @@ rapidjson::ParseResult StyleParser::parse(std::FILE* file) {
   const FileEncoding encoding = FileEncoding::of(first);
   switch (encoding.unitSize) {
     case 4:
-      return parse(utf32_, UnitStream<char32_t>(file, first, encoding.markSize, encoding.order));
+      return parseUnits<char32_t>(utf32_, file, first, encoding);
     case 2:
-      return parse(utf16_, UnitStream<char16_t>(file, first, encoding.markSize, encoding.order));
+      return parseUnits<char16_t>(utf16_, file, first, encoding);
     default:
-      return parse(utf8_, UnitStream<char>(file, first, encoding.markSize, encoding.order));
+      return parseUnits<char>(utf8_, file, first, encoding);
   }
 }
 
-template <class Source, class Stream>
-rapidjson::ParseResult StyleParser::parse(Reader<Source>& reader, Stream&& units) {
+template <class Unit, class Source>
+rapidjson::ParseResult StyleParser::parseUnits(Reader<Source>& reader, std::FILE* file,
+                                               const Block& first, const FileEncoding& encoding) {
+  UnitStream<Unit> units(file, first, encoding.markSize, encoding.order);
   rapidjson::ParseResult result;
   auto parseInto = [&](json::Document& document) {
     NestingLimit handler(document);

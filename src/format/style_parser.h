@@ -1,11 +1,12 @@
 // StyleParser: the first half of reading a style file, from bytes to a document. Its memory serves one
-// file after the other.
+// file after the other; what a large one took is kept until the parser ends.
 #pragma once
 
 #include <cstdio>
 #include <memory>
 #include <optional>
 
+#include "format/file_encoding.h"
 #include "format/json.h"
 #include "format/source_encodings.h"
 
@@ -26,8 +27,9 @@ class StyleParser {
   template <class Source>
   using Reader = rapidjson::GenericReader<Source, json::Encoding, json::StackMemory>;
 
-  template <class Source, class Stream>
-  rapidjson::ParseResult parse(Reader<Source>& reader, Stream&& units);
+  template <class Unit, class Source>
+  rapidjson::ParseResult parseUnits(Reader<Source>& reader, std::FILE* file, const Block& first,
+                                    const FileEncoding& encoding);
 
   std::unique_ptr<char[]> firstChunk_;
   json::ThrowingAllocator allocator_;

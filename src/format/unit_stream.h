@@ -16,27 +16,18 @@
 #include <cstring>
 #include <type_traits>
 
+#include "format/file_encoding.h"
 #include "platform/text.h"
 
 namespace Tesk::KoStyle {
-
-inline constexpr std::size_t blockSize = 256;
-
-struct Block {
-  explicit Block(std::FILE* file) noexcept : size(std::fread(bytes, 1, blockSize, file)) {}
-
-  bool isLast() const noexcept { return size < blockSize; }
-
-  unsigned char bytes[blockSize];
-  std::size_t size;
-};
-
-enum class ByteOrder { little, big };
 
 template <class Unit>
 class UnitStream {
  public:
   using Ch = Unit;
+
+  UnitStream(const UnitStream&) = delete;
+  UnitStream& operator=(const UnitStream&) = delete;
 
   /// Goes on where `skipped` bytes of the first block are taken.
   UnitStream(std::FILE* file, const Block& first, std::size_t skipped, ByteOrder order) noexcept
@@ -99,7 +90,7 @@ class UnitStream {
   static bool startsNumber(Unit unit) noexcept { return isDigit(unit) || unit == '-'; }
   static bool isPlain(Unit unit) noexcept {
     constexpr std::uint32_t end = sizeof(Unit) == 1 ? 0x80 : 0xD800;
-    const std::uint32_t value = static_cast<std::make_unsigned_t<Unit>>(unit);
+    const auto value = static_cast<std::uint32_t>(static_cast<std::make_unsigned_t<Unit>>(unit));
     return value >= ' ' && value < end && value != '"' && value != '\\';
   }
 
@@ -251,7 +242,7 @@ class UnitStream {
   const Unit* current_ = units_;
   const Unit* limit_ = units_;  // where taking a unit takes more than moving on
   const Unit* end_ = units_;
-  Unit units_[blockSize / sizeof(Unit) + 1];
+  Unit units_[blockSize / sizeof(Unit) + 1] = {};
 };
 
 /// The parser finds this in the place of its own.

@@ -1,9 +1,10 @@
 // The interfaces behind the exported handles.
 //
 // The order of the operations is part of the interface: exports that share an entry point call by
-// position (shared_entry.h). So an interface has no virtual destructor, except where the order ends
+// position. So an interface has no virtual destructor, except where the order ends
 // with one; objects are destroyed through their implementation bases. A handle is a pointer to the base
-// interface of its family, which is a virtual base of the others; those are reached by dynamic_cast.
+// interface of its family, which is a virtual base of the others; those are reached by a checked
+// downcast.
 #pragma once
 
 #include <cstddef>

@@ -1,6 +1,7 @@
 #include "manager/manager_registry.h"
 
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "manager/file_system.h"
@@ -12,23 +13,20 @@ namespace {
 // Made when the library is loaded. It must also be there after the host's static objects, for one of
 // them may destroy its manager. So it is not destroyed among static objects, whose order depends on
 // when the library was loaded, but by the library's own last step.
-union Registry {
-  Registry() : value() {}
-  ~Registry() {}
-  StyleManagerRegistry value;
-} registry;
+alignas(StyleManagerRegistry) unsigned char storage[sizeof(StyleManagerRegistry)];
+StyleManagerRegistry& registry = *new (storage) StyleManagerRegistry();
 
 #if defined(__GNUC__)
-[[gnu::destructor]] void destroyRegistry() { registry.value.~StyleManagerRegistry(); }
+[[gnu::destructor]] void destroyRegistry() { registry.~StyleManagerRegistry(); }
 #else
 const struct AtUnload {
-  ~AtUnload() { registry.value.~StyleManagerRegistry(); }
+  ~AtUnload() { registry.~StyleManagerRegistry(); }
 } atUnload;
 #endif
 
 }  // namespace
 
-StyleManagerRegistry& StyleManagerRegistry::instance() noexcept { return registry.value; }
+StyleManagerRegistry& StyleManagerRegistry::instance() noexcept { return registry; }
 
 IStyleManager* StyleManagerRegistry::findOrCreate(const Char* appID, const Char* systemStyleDirPath,
                                                   const Char* userStyleDirPath,

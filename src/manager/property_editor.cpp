@@ -1,10 +1,6 @@
 #include "manager/property_editor.h"
 
-#include <optional>
-#include <utility>
-
 #include "format/style_serializer.h"
-#include "platform/platform.h"
 
 namespace Tesk::KoStyle {
 
@@ -28,19 +24,22 @@ bool PropertyEditor::save(const bool&) {
   StyleProperties properties{name_, FrozenTexts(subGenres_), FrozenTexts(colors_)};
   const platform::NativePath path = platform::nativePath(style_.path());
   style_.exchangeProperties(properties);
-  std::optional<StyleDocument> document;
+  bool written = false;
   try {
-    document.emplace(style_);
+    written = writeTo(path);
   } catch (...) {
     style_.exchangeProperties(properties);
     throw;
   }
+  if (!written) restore(properties);
+  return written;
+}
 
-  // Opening empties the file, also for a style that then cannot be written.
+// Opening empties the file, also for a style that then cannot be written.
+bool PropertyEditor::writeTo(const platform::NativePath& path) const {
+  const StyleDocument document(style_);
   const platform::File file = platform::openForWriting(path);
-  if (file && writeStyleFile(*document, true, file.get()) == KOSTYLE_OK) return true;
-  restore(properties);
-  return false;
+  return file && writeStyleFile(document, true, file.get()) == KOSTYLE_OK;
 }
 
 // A style without a name of its own, which a file with too long a name gives, keeps the new one.

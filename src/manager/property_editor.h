@@ -5,6 +5,7 @@
 #include "containers/sorted_set.h"
 #include "interfaces/interfaces.h"
 #include "model/style.h"
+#include "platform/platform.h"
 
 namespace Tesk::KoStyle {
 
@@ -19,6 +20,7 @@ class PropertyEditor final : public IPropertyEditor {
   bool save(const bool& pretty) override;
 
  private:
+  bool writeTo(const platform::NativePath& path) const;
   void restore(StyleProperties& properties) noexcept;
 
   Style& style_;

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "containers/frozen_range.h"
+
 namespace Tesk::KoStyle {
 
 StyleCreationResult::StyleCreationResult(CreationResults& list, Text filePath, Text id, StyleKind kind,
@@ -13,8 +15,7 @@ StyleCreationResult::StyleCreationResult(CreationResults& list, Text filePath, T
       outcome_(std::move(outcome)) {}
 
 StyleCreationResult* StyleCreationResult::neighbour(std::ptrdiff_t step) const {
-  const auto index = static_cast<std::size_t>(this - list_->data() + step);
-  return index < list_->size() ? &(*list_)[index] : nullptr;
+  return FrozenRange<StyleCreationResult>(list_->data(), list_->size()).neighbour(*this, step);
 }
 
 }  // namespace Tesk::KoStyle

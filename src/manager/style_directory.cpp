@@ -7,7 +7,9 @@
 #include <utility>
 
 #include "format/style_keys.h"
+#include "format/style_reader.h"
 #include "manager/file_system.h"
+#include "manager/style_manager.h"
 #include "platform/platform.h"
 
 namespace Tesk::KoStyle {
@@ -19,7 +21,7 @@ bool hasStyleExtension(TextView path) {
 }
 
 // Most files fit, so that one read of the system takes them whole.
-constexpr std::size_t fileBufferSize = 16 * 1024;
+constexpr std::size_t fileBufferSize = 16384;
 
 // Makes room for one more, so that appending it cannot throw.
 void reserveOneMore(CreationResults& results) {
@@ -27,9 +29,50 @@ void reserveOneMore(CreationResults& results) {
     results.reserve(std::max<std::size_t>(8, 2 * results.size()));
 }
 
+// Reads the files of one set, one after the other.
+class StyleLoader {
+ public:
+  StyleLoader(StyleSet& set, StyleManager& manager)
+      : set_(set), manager_(manager), fileBuffer_(new char[fileBufferSize]) {}
+
+  bool loadStyleFile(const Text& path);
+
+ private:
+  StyleSet& set_;
+  StyleManager& manager_;
+  StyleReader reader_;
+  std::unique_ptr<char[]> fileBuffer_;
+};
+
+// False when the file is passed over: it has another extension or cannot be opened.
+bool StyleLoader::loadStyleFile(const Text& path) {
+  if (!hasStyleExtension(path)) return false;
+  platform::File file = platform::openForReading(platform::nativePath(toLongPath(path.c_str())));
+  if (!file) return false;
+  static_cast<void>(std::setvbuf(file.get(), fileBuffer_.get(), _IOFBF, fileBufferSize));
+  StyleReadOutcome outcome;
+  std::unique_ptr<Style> style = reader_.read(set_.kind, &manager_, file.get(), outcome);
+  file.reset();
+
+  Text id = style ? Text(style->id()) : Text();
+  if (style && manager_.isStyleIdInUse(id.c_str())) {
+    outcome = StyleReadOutcome();
+    outcome.error = KOSTYLE_ERROR_DUPLICATE_ID;
+    style.reset();
+  }
+  StyleCreationResult result(set_.creationResults, path, std::move(id), set_.kind, std::move(outcome));
+  reserveOneMore(set_.creationResults);
+  if (style) {
+    style->assignPath(path);
+    set_.styles.append(StyleSequence::makeNode(std::move(style)));
+  }
+  set_.creationResults.push_back(std::move(result));
+  return true;
+}
+
 }  // namespace
 
-int readStyleDirectory(StyleSet& set, const ReadingManager& manager) {
+int readStyleDirectory(StyleSet& set, StyleManager& manager) {
   CreationResults().swap(set.creationResults);
   set.styles.clear();
   if (!isDirectory(set.directory.c_str())) return KOSTYLE_ERROR_DIRECTORY_MISSING;
@@ -44,34 +87,6 @@ int readStyleDirectory(StyleSet& set, const ReadingManager& manager) {
   }
   set.creationResults.shrink_to_fit();
   return KOSTYLE_OK;
-}
-
-StyleLoader::StyleLoader(StyleSet& set, const ReadingManager& manager)
-    : set_(set), manager_(manager), fileBuffer_(new char[fileBufferSize]) {}
-
-bool StyleLoader::loadStyleFile(const Text& path) {
-  if (!hasStyleExtension(path)) return false;
-  platform::File file = platform::openForReading(platform::nativePath(toLongPath(path.c_str())));
-  if (!file) return false;
-  static_cast<void>(std::setvbuf(file.get(), fileBuffer_.get(), _IOFBF, fileBufferSize));
-  StyleReadOutcome outcome;
-  std::unique_ptr<Style> style = reader_.read(set_.kind, manager_.owner, file.get(), outcome);
-  file.reset();
-
-  Text id = style ? Text(style->id()) : Text();
-  if (style && manager_.isIdInUse(id.c_str())) {
-    outcome = StyleReadOutcome();
-    outcome.error = KOSTYLE_ERROR_DUPLICATE_ID;
-    style.reset();
-  }
-  StyleCreationResult result(set_.creationResults, path, std::move(id), set_.kind, std::move(outcome));
-  reserveOneMore(set_.creationResults);
-  if (style) {
-    style->assignPath(path);
-    set_.styles.append(StyleSequence::makeNode(std::move(style)));
-  }
-  set_.creationResults.push_back(std::move(result));
-  return true;
 }
 
 }  // namespace Tesk::KoStyle

@@ -42,12 +42,12 @@ IUserStyle* StyleManager::userStyle(const std::size_t& index) const {
   return asUser(user_.styles.at(index));
 }
 
+int StyleManager::readSystemStyles() { return readStyleDirectory(system_, *this); }
+
+int StyleManager::readUserStyles() { return readStyleDirectory(user_, *this); }
+
 IMutableStyle* StyleManager::createMutableStyle() {
   return &mutableStyles_.append(MutableStyles::makeNode(std::make_unique<MutableStyle>(this)));
-}
-
-int StyleManager::read(StyleSet& set) {
-  return readStyleDirectory(set, {this, [this](const Char* id) { return isStyleIdInUse(id); }});
 }
 
 SystemStyle* StyleManager::next(const SystemStyle& style) const {

@@ -36,8 +36,8 @@ class StyleManager final : public StyleOwner {
   IUserStyle* userStyle(const std::size_t& index) const override;
   bool hasUserStyle(IUserStyle* style) const override { return user_.styles.contains(style); }
   bool hasMutableStyle(IMutableStyle* style) const override { return mutableStyles_.contains(style); }
-  int readSystemStyles() override { return read(system_); }
-  int readUserStyles() override { return read(user_); }
+  int readSystemStyles() override;
+  int readUserStyles() override;
   IMutableStyle* createMutableStyle() override;
 
   SystemStyle* next(const SystemStyle& style) const override;
@@ -66,8 +66,6 @@ class StyleManager final : public StyleOwner {
   bool listsMutableStyle(const IStyleBase* style) const { return mutableStyles_.contains(style); }
 
  private:
-  int read(StyleSet& set);
-
   const Text appID_;
   StyleSet system_;
   StyleSet user_;

@@ -7,7 +7,7 @@
 #include "format/style_serializer.h"
 #include "manager/file_system.h"
 #include "manager/style_manager.h"
-#include "model/style_builder.h"
+#include "model/style_copy.h"
 #include "model/user_style.h"
 #include "platform/platform.h"
 
@@ -68,25 +68,6 @@ std::uint32_t writeNewFile(const TargetFile& target, const StyleDocument& docume
 }
 
 }  // namespace
-
-StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& target) {
-  StyleBuilder builder;
-  builder.setName(style.wholeName());
-  for (std::size_t i = 0; i < style.numLanguage(); ++i) builder.addLanguage(style.language(i));
-  for (const Attribute attribute : textAttributes) {
-    for (const Text& text : style.attributes()[attribute]) builder.addText(attribute, text);
-  }
-  const auto copyChain = [&builder](EffectKind kind, const MutableChain& effects) {
-    for (const MutableEffect& effect : effects) {
-      builder.addEffect(kind, effect.wholeId());
-      for (const MutableParameter& parameter : effect.parameters())
-        builder.addParameter(parameter.wholeName(), parameter.value());
-    }
-  };
-  copyChain(EffectKind::audio, style.audioEffects());
-  copyChain(EffectKind::midi, style.midiEffects());
-  return builder.freeze(target);
-}
 
 IUserStyle* saveNewStyle(StyleManager& manager, MutableStyle& style, bool pretty,
                          std::uint32_t& error) {

@@ -5,15 +5,10 @@
 #include <cstdint>
 
 #include "model/mutable_style.h"
-#include "model/style.h"
 
 namespace Tesk::KoStyle {
 
 class StyleManager;
-
-/// A copy of a mutable style as the content of a stored one. Of parameters with one name, which
-/// renaming can bring about, the first is taken.
-StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& target);
 
 /// Writes `style` as a new file and appends a new user style. Null with a code in `error` on failure.
 IUserStyle* saveNewStyle(StyleManager& manager, MutableStyle& style, bool pretty, std::uint32_t& error);

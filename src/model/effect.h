@@ -2,12 +2,10 @@
 // effect beside each other in an array of the style.
 #pragma once
 
-#include <kostyle/codes.h>
-
 #include <cstddef>
 #include <cstdint>
 
-#include "containers/frozen_array.h"
+#include "containers/frozen_range.h"
 #include "interfaces/interfaces.h"
 #include "model/effect_kind.h"
 #include "model/parameter.h"
@@ -16,42 +14,24 @@ namespace Tesk::KoStyle {
 
 class Style;
 
-/// A part of the array that holds the parameters of a style.
-struct ParameterRange {
-  Parameter* first = nullptr;
-  std::size_t count = 0;
-
-  Parameter* begin() const noexcept { return first; }
-  Parameter* end() const noexcept { return first + count; }
-};
-
 class Effect : public virtual IEffect {
  public:
   std::uint32_t type() const final { return static_cast<std::uint32_t>(kind_); }
   const Char* id() const final { return id_.data(); }
-  std::size_t numParameter() const final { return parameters_.count; }
-  bool hasParameter(IParameterBase* parameter) const final {
-    return FrozenArray<Parameter>::holdsAddress(parameters_.first, parameters_.count, parameter);
-  }
+  std::size_t numParameter() const final { return parameters_.size(); }
+  bool hasParameter(IParameterBase* parameter) const final { return parameters_.contains(parameter); }
   IStyle* parent() const final;
-  IParameter* parameter(const std::size_t& index) const final {
-    return index < parameters_.count ? parameters_.first + index : nullptr;
-  }
+  IParameter* parameter(const std::size_t& index) const final { return parameters_.at(index); }
 
   /// The identifier whole, where the host's view ends at the first U+0000.
   TextView wholeId() const noexcept { return id_; }
 
-  const ParameterRange& parameters() const noexcept { return parameters_; }
-
-  /// The parameter that stands `step` places from another of this effect; null where there is none.
-  IParameter* neighbour(const Parameter& parameter, std::ptrdiff_t step) const noexcept {
-    const auto index = static_cast<std::size_t>(&parameter - parameters_.first + step);
-    return Effect::parameter(index);
-  }
+  /// A part of the style's parameters.
+  const FrozenRange<Parameter>& parameters() const noexcept { return parameters_; }
 
  protected:
   /// `id` has U+0000 behind it.
-  Effect(const Style& parent, EffectKind kind, TextView id, ParameterRange parameters) noexcept
+  Effect(const Style& parent, EffectKind kind, TextView id, FrozenRange<Parameter> parameters) noexcept
       : parent_(parent), id_(id), parameters_(parameters), kind_(kind) {}
   ~Effect() = default;
 
@@ -60,13 +40,13 @@ class Effect : public virtual IEffect {
  private:
   const Style& parent_;
   const TextView id_;
-  const ParameterRange parameters_;
+  const FrozenRange<Parameter> parameters_;
   const EffectKind kind_;
 };
 
 class AudioEffect final : public Effect, public IAudioEffect {
  public:
-  AudioEffect(const Style& parent, TextView id, ParameterRange parameters) noexcept
+  AudioEffect(const Style& parent, TextView id, FrozenRange<Parameter> parameters) noexcept
       : Effect(parent, EffectKind::audio, id, parameters) {}
 
   IAudioEffect* next() const override;
@@ -75,7 +55,7 @@ class AudioEffect final : public Effect, public IAudioEffect {
 
 class MidiEffect final : public Effect, public IMidiEffect {
  public:
-  MidiEffect(const Style& parent, TextView id, ParameterRange parameters) noexcept
+  MidiEffect(const Style& parent, TextView id, FrozenRange<Parameter> parameters) noexcept
       : Effect(parent, EffectKind::midi, id, parameters) {}
 
   IMidiEffect* next() const override;

@@ -28,7 +28,7 @@ bool haveOneName(const NameKey& a, const NameKey& b) noexcept { return nameOf(a)
 // Whether a name of the run goes on at its depth. If so, the fronts become what stands there.
 bool moveFronts(Keys first, Keys end, std::size_t depth) noexcept {
   bool goesOn = false;
-  for (Keys key = first; key != end; ++key) {
+  for (auto key = first; key != end; ++key) {
     const TextView name = nameOf(*key);
     goesOn = goesOn || name.size() > depth;
     key->front = frontOf(name.substr(std::min(depth, name.size())));
@@ -44,7 +44,7 @@ Keys endOfFront(Keys first, Keys end) noexcept {
 // Sorts names that are equal as far as the longer one goes on with U+0000 alone, and puts the earliest
 // item of each name before the others.
 void sortBySize(Keys first, Keys end) noexcept {
-  for (Keys key = first; key != end; ++key) key->front = nameOf(*key).size();
+  for (auto key = first; key != end; ++key) key->front = nameOf(*key).size();
   if (!std::is_sorted(first, end, frontBefore)) std::sort(first, end, frontBefore);
   const auto isEarlier = [](const NameKey& a, const NameKey& b) {
     return std::less<>()(a.item, b.item);
@@ -62,8 +62,8 @@ void sortByName(std::vector<NameKey>& keys, std::size_t first) {
   while (!runs.empty()) {
     const Run run = runs.back();
     runs.pop_back();
-    Keys key = keys.begin() + static_cast<std::ptrdiff_t>(run.first);
-    const Keys end = keys.begin() + static_cast<std::ptrdiff_t>(run.end);
+    auto key = keys.begin() + static_cast<std::ptrdiff_t>(run.first);
+    const auto end = keys.begin() + static_cast<std::ptrdiff_t>(run.end);
     if (run.depth > 0 && !moveFronts(key, end, run.depth)) {
       sortBySize(key, end);
       continue;

@@ -1,4 +1,4 @@
-// NameOrder: items by name, ascending, the first of equal names only.
+// Sorting by name: ascending, the first of equal names only.
 #pragma once
 
 #include <cstddef>

@@ -6,8 +6,8 @@ namespace Tesk::KoStyle {
 
 IEffect* Parameter::parent() const { return const_cast<Effect*>(&parent_); }
 
-IParameter* Parameter::next() const { return parent_.neighbour(*this, 1); }
+IParameter* Parameter::next() const { return parent_.parameters().neighbour(*this, 1); }
 
-IParameter* Parameter::prev() const { return parent_.neighbour(*this, -1); }
+IParameter* Parameter::prev() const { return parent_.parameters().neighbour(*this, -1); }
 
 }  // namespace Tesk::KoStyle

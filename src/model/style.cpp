@@ -1,11 +1,33 @@
 #include "model/style.h"
 
 namespace Tesk::KoStyle {
+namespace {
+
+template <class Value>
+void exchangeUnlessEqual(Value& a, Value& b) noexcept {
+  if (!(a == b)) a.swap(b);
+}
+
+}  // namespace
+
+void Style::exchangeContent(StoredContent& other) noexcept {
+  StoredContent& own = content();
+  exchangeName(other.name);
+  std::swap(own.attributes.languages, other.attributes.languages);
+  for (const Attribute attribute : textAttributes)
+    exchangeUnlessEqual(own.attributes[attribute], other.attributes[attribute]);
+  own.texts.swap(other.texts);
+  std::swap(own.parameters, other.parameters);
+  std::swap(own.audioEffects, other.audioEffects);
+  std::swap(own.midiEffects, other.midiEffects);
+}
 
 void Style::exchangeProperties(StyleProperties& properties) noexcept {
   exchangeName(properties.name);
-  content().attributes[Attribute::subGenre].swap(properties.subGenres);
-  content().attributes[Attribute::color].swap(properties.colors);
+  exchangeUnlessEqual(content().attributes[Attribute::subGenre], properties.subGenres);
+  exchangeUnlessEqual(content().attributes[Attribute::color], properties.colors);
 }
+
+void Style::exchangeName(Text& name) noexcept { exchangeUnlessEqual(content().name, name); }
 
 }  // namespace Tesk::KoStyle

@@ -24,11 +24,13 @@ class Style : public StyleWith<StoredContent>, public virtual IStyle {
 
   void assignVendor(Text vendor) noexcept { vendor_ = std::move(vendor); }
 
+  // What has the same value in both stays where it is, so that the host's texts stay too.
+
   /// Exchanges the content for another, whose effects must have been made for this style.
-  void exchangeContent(StoredContent& other) noexcept { std::swap(content(), other); }
+  void exchangeContent(StoredContent& other) noexcept;
 
   void exchangeProperties(StyleProperties& properties) noexcept;
-  void exchangeName(Text& name) noexcept { content().name.swap(name); }
+  void exchangeName(Text& name) noexcept;
 
  protected:
   using StyleWith::StyleWith;

@@ -98,7 +98,7 @@ void StyleBuilder::freezeChain(EffectKind kind, const Style& style, FrozenArray<
                                FrozenArray<Parameter>& parameters, Char*& texts) const {
   for (const EffectEntry& entry : effects_) {
     if (!entry.taken || entry.kind != kind) continue;
-    const ParameterRange range{parameters.end(), entry.numKeys};
+    const FrozenRange<Parameter> range(parameters.end(), entry.numKeys);
     const Effect& effect = chain.emplace(style, appendText(texts, entry.name), range);
     for (std::size_t i = entry.firstKey; i < entry.firstKey + entry.numKeys; ++i) {
       const auto& parameter = *static_cast<const ParameterEntry*>(parameterKeys_[i].item);

@@ -123,7 +123,10 @@ File openForWriting(const NativePath& path) noexcept {
 // Version 4: random but for the digits that say so.
 Text makeUuid() {
   unsigned char bytes[16];
-  if (getrandom(bytes, sizeof bytes, 0) != static_cast<ssize_t>(sizeof bytes)) throw std::bad_alloc();
+  ssize_t count = 0;
+  do count = getrandom(bytes, sizeof bytes, 0);
+  while (count < 0 && errno == EINTR);
+  if (count != static_cast<ssize_t>(sizeof bytes)) throw std::bad_alloc();
   bytes[6] = static_cast<unsigned char>((bytes[6] & 0x0FU) | 0x40U);
   bytes[8] = static_cast<unsigned char>((bytes[8] & 0x3FU) | 0x80U);
   Text uuid;

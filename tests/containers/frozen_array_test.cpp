@@ -38,7 +38,7 @@ using Elements = FrozenArray<Element>;
 
 TEST(FrozenArray, IsEmptyAtFirst) {
   const Elements none;
-  EXPECT_TRUE(none.empty());
+  EXPECT_EQ(none.size(), 0u);
   EXPECT_EQ(none.at(0), nullptr);
   EXPECT_EQ(none.begin(), none.end());
   const Interface* const nothing = nullptr;
@@ -73,6 +73,16 @@ TEST(FrozenArray, ContainsTheAddressesOfItsElementsAlone) {
   EXPECT_FALSE(elements.contains(between));
   EXPECT_FALSE(elements.contains(reinterpret_cast<const Interface*>(elements.end())));
   EXPECT_FALSE(elements.contains(static_cast<const Interface*>(nullptr)));
+}
+
+TEST(FrozenArray, GivesTheNeighboursOfAnElement) {
+  Elements elements(3);
+  for (const int value : {1, 2, 3}) elements.emplace(value);
+  const auto& range = elements.range();
+  EXPECT_EQ(range.neighbour(*elements.at(1), 1), elements.at(2));
+  EXPECT_EQ(range.neighbour(*elements.at(1), -1), elements.at(0));
+  EXPECT_EQ(range.neighbour(*elements.at(0), -1), nullptr);
+  EXPECT_EQ(range.neighbour(*elements.at(2), 1), nullptr);
 }
 
 TEST(FrozenArray, DestroysWhatItHoldsWhenMakingAnElementFails) {

@@ -111,16 +111,15 @@ TEST(RankTree, AnErasedNodeCanBeInsertedAgain) {
   expectOrder(tree, {&b, &a, &c});
 }
 
-TEST(RankTree, SwapsItsNodesWithAnotherTree) {
-  RankTree one;
-  RankTree other;
-  Numbered a, b, c;
-  one.insert(0, a);
-  other.insert(0, b);
-  other.insert(1, c);
-  one.swap(other);
-  expectOrder(one, {&b, &c});
-  expectOrder(other, {&a});
+TEST(RankTree, ForgetsItsNodes) {
+  RankTree tree;
+  Numbered a, b;
+  tree.insert(0, a);
+  tree.clear();
+  EXPECT_EQ(tree.size(), 0u);
+  tree.insert(0, b);
+  tree.insert(1, a);
+  expectOrder(tree, {&b, &a});
 }
 
 TEST(RankTree, FindsThePartitionPoint) {

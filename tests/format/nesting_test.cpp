@@ -111,4 +111,17 @@ TEST(Nesting, ASmallStackIsEnough) {
                                    refused(KOSTYLE_ERROR_MEMBER_MISSING, "/id"), taken(), taken()));
 }
 
+TEST(Nesting, ASmallStackIsEnoughInEveryEncoding) {
+  const test::FileReader reader;
+  std::vector<test::Outcome> outcomes;
+  test::runOnSmallStack([&] {
+    for (const test::Encoding encoding : test::allEncodings()) {
+      outcomes.push_back(reader.read(encoded(documentWith("\"x\":" + mixture(511)), encoding)).outcome);
+      const test::Outcome tooDeep = reader.read(encoded(repeated("[", 1000000), encoding)).outcome;
+      EXPECT_EQ(tooDeep.parseError, KOSTYLE_PARSE_TERMINATED) << nameOf(encoding);
+    }
+  });
+  EXPECT_THAT(outcomes, testing::Each(taken()));
+}
+
 }  // namespace

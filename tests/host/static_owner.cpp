@@ -8,14 +8,7 @@
 #include <cstdlib>
 
 #include "example_text.h"
-
-#if defined(_WIN32)
-#define NOMINMAX
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#elif defined(KOSTYLE_LOADED)
-#include <dlfcn.h>
-#endif
+#include "loaded_library.h"
 
 namespace {
 
@@ -32,44 +25,25 @@ class Owner {
   KoStyleManager* manager = nullptr;
 } owner;
 
+void findFunctions() {
 #if defined(KOSTYLE_LOADED)
-
-template <class Function>
-void find(Function& function, const char* library, const char* name) {
-#if defined(_WIN32)
-  HMODULE const loaded = LoadLibraryA(library);
-  function = reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(loaded, name)));
+  const test::LoadedLibrary library(KOSTYLE_LOADED);
+  library.find(create, "CreateStyleManager");
+  library.find(has, "HasStyleManager");
+  library.find(destroy, "StyleManager_destroy");
 #else
-  function = reinterpret_cast<Function>(dlsym(dlopen(library, RTLD_NOW), name));
-#endif
-}
-
-void findFunctions(const char* library) {
-  find(create, library, "CreateStyleManager");
-  find(has, library, "HasStyleManager");
-  find(destroy, library, "StyleManager_destroy");
-}
-
-#else
-
-void findFunctions(const char*) {
   create = CreateStyleManager;
   has = HasStyleManager;
   destroy = StyleManager_destroy;
-}
-
 #endif
+}
 
 }  // namespace
 
 int EXAMPLE_MAIN(int argc, ExampleArgument* argv[]) {
   KoStyleChar directory[4096];
   if (argc != 2 || !pathFromArgument(argv[1], directory, 4096)) return 2;
-#if defined(KOSTYLE_LOADED)
-  findFunctions(KOSTYLE_LOADED);
-#else
-  findFunctions(nullptr);
-#endif
+  findFunctions();
   owner.manager = create(KOSTYLE_TEXT("owner"), directory, directory, nullptr, 0, nullptr, 0, nullptr);
   return owner.manager ? 0 : 1;
 }

@@ -1,4 +1,4 @@
-// Makes a program allocate and reallocate through failing_allocations.h. Compiled by itself, so that no
+// Makes a program allocate through failing_allocations.h. Compiled by itself, so that no
 // compiler inlines one half of a pair.
 #include <cstdlib>
 #include <new>
@@ -15,12 +15,6 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept try {
 void* operator new[](std::size_t size, const std::nothrow_t& nothrow) noexcept {
   return operator new(size, nothrow);
 }
-// The linker puts this in the place of realloc; see the build of the test program.
-extern "C" void* __real_realloc(void* memory, std::size_t size);
-extern "C" void* __wrap_realloc(void* memory, std::size_t size) {
-  return test::failsOnTrial() ? nullptr : __real_realloc(memory, size);
-}
-
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete[](void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }

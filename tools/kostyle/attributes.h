@@ -30,7 +30,7 @@ struct Chain {
   const char* key;  // in JSON
   std::size_t (*count)(KoStyleStyle*);
   KoStyleEffect* (*stored)(KoStyleStyle*, std::size_t);
-  KoStyleEffect* (*editable)(KoStyleStyle*, std::size_t);
+  KoStyleEffect* (*mutableEffect)(KoStyleStyle*, std::size_t);
   KoStyleEffect* (*insert)(KoStyleStyle*, std::size_t, const KoStyleChar*);
 };
 

@@ -4,11 +4,11 @@
 #include "commands.h"
 #include "failure.h"
 #include "manager.h"
+#include "mutable_style.h"
 #include "notices.h"
 #include "paths.h"
 #include "saving.h"
 #include "style_edits.h"
-#include "workspace.h"
 
 namespace tool {
 namespace {
@@ -22,9 +22,9 @@ int create(const NewOptions& options) {
   requireExistingButUser(options.directories);
   MissingDirectories made(*options.directories.user);
   const Manager manager(options.directories);
-  Workspace workspace(manager);
-  workspace.apply(options.edits);
-  const Losses losses = saveNew(workspace, *options.directories.user, options.edits.pretty);
+  MutableStyle mutableStyle(manager);
+  mutableStyle.apply(options.edits);
+  const Losses losses = saveNew(mutableStyle, *options.directories.user, options.edits.pretty);
   made.keep();
   noticeLosses(losses);
   return exitOk;

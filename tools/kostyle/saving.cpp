@@ -15,7 +15,7 @@
 namespace tool {
 namespace {
 
-// A mutable style is walked through `editable`, one that was read through `stored`.
+// A mutable style is walked through `mutableEffect`, one that was read through `stored`.
 using EffectAt = KoStyleEffect* (*Chain::*)(KoStyleStyle*, std::size_t);
 
 struct Counts {
@@ -56,12 +56,12 @@ void requireWritable(KoStyleStyle* style) {
     for (std::size_t i = 0; i < list.count(style); ++i) requireUnicode(list.at(style, i));
   for (const Chain& chain : chains())
     for (std::size_t i = 0; i < chain.count(style); ++i) {
-      KoStyleEffect* effect = chain.editable(style, i);
+      KoStyleEffect* effect = chain.mutableEffect(style, i);
       requireUnicode(Effect_id(effect));
       for (std::size_t j = 0; j < Effect_numParameter(effect); ++j)
         requireWritable(MutableEffect_parameter(effect, j));
     }
-  const Counts counts = countsOf(style, &Chain::editable);
+  const Counts counts = countsOf(style, &Chain::mutableEffect);
   if (counts.effects > 0 && counts.emptyEffects == counts.effects)
     throw Refused("no effect has a parameter: the file could not be read again");
 }
@@ -86,12 +86,12 @@ void check(int error, const fs::path& path) {
 
 }  // namespace
 
-Losses saveNew(const Workspace& workspace, const fs::path& directory, bool pretty) {
-  requireWritable(workspace.handle());
-  const Counts counts = countsOf(workspace.handle(), &Chain::editable);
+Losses saveNew(const MutableStyle& mutableStyle, const fs::path& directory, bool pretty) {
+  requireWritable(mutableStyle.handle());
+  const Counts counts = countsOf(mutableStyle.handle(), &Chain::mutableEffect);
   const TemporaryDirectory temporary;
   int error = KOSTYLE_OK;
-  KoStyleStyle* style = MutableStyle_save(workspace.handle(), pretty, &error);
+  KoStyleStyle* style = MutableStyle_save(mutableStyle.handle(), pretty, &error);
   check(error, directory);
   try {
     const Losses losses = readAgain(style, counts, temporary);
@@ -103,14 +103,14 @@ Losses saveNew(const Workspace& workspace, const fs::path& directory, bool prett
   }
 }
 
-Losses saveOver(const Workspace& workspace, KoStyleStyle* target, bool pretty) {
-  requireWritable(workspace.handle());
-  const Counts counts = countsOf(workspace.handle(), &Chain::editable);
+Losses saveOver(const MutableStyle& mutableStyle, KoStyleStyle* target, bool pretty) {
+  requireWritable(mutableStyle.handle());
+  const Counts counts = countsOf(mutableStyle.handle(), &Chain::mutableEffect);
   const TemporaryDirectory temporary;
   const fs::path path = pathOf(TextView(Style_path(target)));
   Backup backup(path);
   int error = KOSTYLE_OK;
-  MutableStyle_overwrite(workspace.handle(), Style_id(target), pretty, &error);
+  MutableStyle_overwrite(mutableStyle.handle(), Style_id(target), pretty, &error);
   check(error, path);
   try {
     const Losses losses = readAgain(target, counts, temporary);

@@ -1,10 +1,10 @@
-// Writing a workspace to a file that can be read again.
+// Writing a mutable style to a file that can be read again.
 #pragma once
 
 #include <kostyle/kostyle.h>
 
+#include "mutable_style.h"
 #include "paths.h"
-#include "workspace.h"
 
 namespace tool {
 
@@ -16,9 +16,9 @@ struct Losses {
 
 /// Writes a new user style to the manager's user directory, reads it again and prints its identifier
 /// and path, a tab between them; or leaves nothing. Throws Refused.
-Losses saveNew(const Workspace& workspace, const fs::path& directory, bool pretty);
+Losses saveNew(const MutableStyle& mutableStyle, const fs::path& directory, bool pretty);
 
 /// Does the same over a user style of the user directory, or leaves its file as it was. Throws Refused.
-Losses saveOver(const Workspace& workspace, KoStyleStyle* target, bool pretty);
+Losses saveOver(const MutableStyle& mutableStyle, KoStyleStyle* target, bool pretty);
 
 }  // namespace tool

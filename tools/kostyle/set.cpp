@@ -5,11 +5,11 @@
 #include "commands.h"
 #include "failure.h"
 #include "manager.h"
+#include "mutable_style.h"
 #include "notices.h"
 #include "saving.h"
 #include "style_edits.h"
 #include "text.h"
-#include "workspace.h"
 
 namespace tool {
 namespace {
@@ -36,10 +36,10 @@ int change(const SetOptions& options) {
   const Manager manager(besideStyle(options.directories, id));
   KoStyleStyle* style = manager.userStyle(id);
   const std::string vendor = toUtf8(Style_vendor(style));
-  Workspace workspace(manager);
-  workspace.copy(style);
-  workspace.apply(options.edits);
-  const Losses losses = saveOver(workspace, style, options.edits.pretty);
+  MutableStyle mutableStyle(manager);
+  mutableStyle.copy(style);
+  mutableStyle.apply(options.edits);
+  const Losses losses = saveOver(mutableStyle, style, options.edits.pretty);
   if (!vendor.empty()) noticeLostVendor(vendor);
   noticeLosses(losses);
   return exitOk;

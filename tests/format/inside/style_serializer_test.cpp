@@ -59,8 +59,8 @@ TEST_F(Serializer, MissingEffectIsReportedBeforeTheTarget) {
 TEST_F(Serializer, ChainPassesOverEffectsWithoutId) {
   const UserStyle owner(nullptr);
   FrozenArray<AudioEffect> chain(2);
-  chain.emplace(owner, KOSTYLE_TEXT("taken"), ParameterRange());
-  chain.emplace(owner, KOSTYLE_TEXT(""), ParameterRange());
+  chain.emplace(owner, KOSTYLE_TEXT("taken"), FrozenRange<Parameter>());
+  chain.emplace(owner, KOSTYLE_TEXT(""), FrozenRange<Parameter>());
   EXPECT_EQ(writeEffectChain(chain, object, holder.GetAllocator()), std::uint32_t{KOSTYLE_OK});
   ASSERT_EQ(object.MemberCount(), 1U);
   EXPECT_EQ(json::view(object.MemberBegin()->name), text("taken"));

@@ -1,4 +1,4 @@
-#include "workspace.h"
+#include "mutable_style.h"
 
 #include <fmt/format.h>
 
@@ -45,7 +45,7 @@ void copyParameters(KoStyleEffect* from, KoStyleEffect* to) {
 
 }  // namespace
 
-void Workspace::copy(KoStyleStyle* stored) {
+void MutableStyle::copy(KoStyleStyle* stored) {
   // The name is empty when it was too long to be read.
   MutableStyle_setName(style_, Style_name(stored));
   for (const int language : languages(stored)) addLanguage(language);
@@ -61,7 +61,7 @@ void Workspace::copy(KoStyleStyle* stored) {
     }
 }
 
-void Workspace::apply(const StyleEdits& edits) {
+void MutableStyle::apply(const StyleEdits& edits) {
   if (edits.name && !MutableStyle_setName(style_, content(*edits.name).c_str()))
     throw Refused(fmt::format("name {} is refused: not 1 to {} UTF-16 units long",
                               inQuotes(*edits.name), static_cast<int>(KOSTYLE_MAX_NAME_LENGTH)));
@@ -81,24 +81,24 @@ void Workspace::apply(const StyleEdits& edits) {
   assignParameters(edits.parameters);
 }
 
-void Workspace::addLanguage(int language) {
+void MutableStyle::addLanguage(int language) {
   if (!MutableStyle_addLanguage(style_, language))
     throw Refused(fmt::format("language {} is refused: not {} to {}, or there already", language,
                               Style_minLangID(), Style_maxLangID()));
 }
 
-void Workspace::addText(const TextList& list, const KoStyleChar* text) {
+void MutableStyle::addText(const TextList& list, const KoStyleChar* text) {
   if (!list.add(style_, text))
     throw Refused(fmt::format("{} {} is refused: {}, or there already", list.option,
                               inQuotes(toUtf8(text)), list.mistake));
 }
 
-void Workspace::deleteText(const TextList& list, const std::string& text) {
+void MutableStyle::deleteText(const TextList& list, const std::string& text) {
   if (!list.remove(style_, content(text).c_str()))
     throw Refused(fmt::format("{} {} is not there", list.option, inQuotes(text)));
 }
 
-KoStyleEffect* Workspace::appendEffect(const Chain& chain, const KoStyleChar* id) {
+KoStyleEffect* MutableStyle::appendEffect(const Chain& chain, const KoStyleChar* id) {
   KoStyleEffect* effect = chain.insert(style_, chain.count(style_), id);
   if (!effect)
     throw Refused(
@@ -106,20 +106,20 @@ KoStyleEffect* Workspace::appendEffect(const Chain& chain, const KoStyleChar* id
   return effect;
 }
 
-void Workspace::deleteEffect(const Chain& chain, const std::string& id) {
+void MutableStyle::deleteEffect(const Chain& chain, const std::string& id) {
   for (const NamedEffect& effect : effects())
     if (effect.chain == &chain && effect.id == id) return MutableEffect_destroy(effect.handle);
   throw Refused(fmt::format("{} {} is not there", chain.option, inQuotes(id)));
 }
 
-void Workspace::deleteParameter(const std::string& argument) {
+void MutableStyle::deleteParameter(const std::string& argument) {
   const auto [effect, name] = findEffect(argument, effects());
   KoStyleParameter* parameter = findParameter(effect, content(name));
   if (!parameter) throw Refused(fmt::format("{}: the effect has no such parameter", argument));
   MutableParameter_destroy(parameter);
 }
 
-void Workspace::assignParameters(const std::vector<std::string>& arguments) {
+void MutableStyle::assignParameters(const std::vector<std::string>& arguments) {
   const std::vector<NamedEffect> candidates = effects();
   std::set<std::pair<KoStyleEffect*, std::string>> assigned;
   for (const std::string& argument : arguments) {
@@ -136,11 +136,11 @@ void Workspace::assignParameters(const std::vector<std::string>& arguments) {
   }
 }
 
-std::vector<NamedEffect> Workspace::effects() const {
+std::vector<NamedEffect> MutableStyle::effects() const {
   std::vector<NamedEffect> effects;
   for (const Chain& chain : chains())
     for (std::size_t i = 0; i < chain.count(style_); ++i) {
-      KoStyleEffect* effect = chain.editable(style_, i);
+      KoStyleEffect* effect = chain.mutableEffect(style_, i);
       effects.push_back({&chain, toUtf8(Effect_id(effect)), effect});
     }
   return effects;

@@ -13,9 +13,9 @@
 
 namespace tool {
 
-class Workspace {
+class MutableStyle {
  public:
-  explicit Workspace(const Manager& manager)
+  explicit MutableStyle(const Manager& manager)
       : style_(StyleManager_createMutableStyle(manager.handle())) {}
 
   KoStyleStyle* handle() const { return style_; }

@@ -1,0 +1,45 @@
+// A host that unloads the library, again and again, with managers left: unloading DIRECTORY
+//
+// The library then destroys them. Whatever it leaves is found by the leak check of a sanitized build,
+// since nothing leads to it any more.
+#include <kostyle/kostyle.h>
+
+#include <initializer_list>
+
+#include "example_text.h"
+#include "loaded_library.h"
+
+namespace {
+
+bool loadUseAndUnload(const KoStyleChar* directory) {
+  test::LoadedLibrary library(KOSTYLE_LOADED);
+  decltype(&CreateStyleManager) create = nullptr;
+  decltype(&StyleManager_readSystemStyles) read = nullptr;
+  decltype(&StyleManager_numSystemStyle) count = nullptr;
+  decltype(&StyleManager_createMutableStyle) createMutable = nullptr;
+  library.find(create, "CreateStyleManager");
+  library.find(read, "StyleManager_readSystemStyles");
+  library.find(count, "StyleManager_numSystemStyle");
+  library.find(createMutable, "StyleManager_createMutableStyle");
+  bool used = true;
+  for (const KoStyleChar* appID : {KOSTYLE_TEXT("one"), KOSTYLE_TEXT("two")}) {
+    KoStyleManager* const manager =
+        create(appID, directory, directory, nullptr, 0, nullptr, 0, nullptr);
+    // None is here from the time before.
+    used = used && count(manager) == 0 && read(manager) == KOSTYLE_OK && count(manager) > 0 &&
+           createMutable(manager);
+  }
+  library.unload();
+  return used;
+}
+
+}  // namespace
+
+int EXAMPLE_MAIN(int argc, ExampleArgument* argv[]) {
+  KoStyleChar directory[4096];
+  if (argc != 2 || !pathFromArgument(argv[1], directory, 4096)) return 2;
+  for (int round = 0; round < 3; ++round) {
+    if (!loadUseAndUnload(directory)) return 1;
+  }
+  return 0;
+}
