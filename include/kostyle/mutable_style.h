@@ -100,9 +100,10 @@ KOSTYLE_API KoStyleStyle* MutableStyle_save(KoStyleStyle* style, bool pretty, in
  * may be new. On success
  *
  *  - stay: the user style's handle and its place among the user styles; the texts of its Style_id(),
- *    Style_path() and Style_vendor(), at their addresses; its property editor with what it collected;
- *  - end: the texts of the user style's name and attributes, and the handles and texts of its effects
- *    and their parameters; the mutable style, with all its handles and texts.
+ *    Style_path() and Style_vendor(), at their addresses, and those of a name and of whole attribute
+ *    lists that the mutable style has alike; its property editor with what it collected;
+ *  - end: the texts of a name and of attribute lists that change, and the handles and texts of its
+ *    effects and their parameters; the mutable style, with all its handles and texts.
  *
  * The new file is written into the user style directory under a UUID without extension, the old file is
  * deleted, and the new one is renamed to its path. The result of the renaming is not looked at: when it

@@ -28,9 +28,9 @@ KOSTYLE_API bool PropertyEditor_addColor(KoStylePropertyEditor* editor, const Ko
  * handle stays valid. The file loses its vendor text. What goes wrong while the file is being written
  * gives no error (see the conventions, also for what a careful host does).
  *
- * On success the texts of the style's old name, sub-genres and colours end. Everything else stays, at
- * its address: the style, its identifier, path, vendor text and other attributes, its effects and
- * parameters with their texts. On failure everything stays, but for a style without a name, whose file
+ * On success the texts of the style's old name, sub-genres and colours end, each of the three only when
+ * it changes. Everything else stays, at its address: the style, its identifier, path, vendor text and
+ * other attributes, its effects and parameters with their texts. On failure everything stays, but for a style without a name, whose file
  * has one longer than KOSTYLE_MAX_NAME_LENGTH units: when its file cannot be opened, it keeps the new
  * name, and the text of the empty one ends.
  *
