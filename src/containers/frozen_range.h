@@ -17,7 +17,6 @@ class FrozenRange {
   FrozenRange(Element* first, std::size_t count) noexcept : first_(first), count_(count) {}
 
   std::size_t size() const noexcept { return count_; }
-  bool empty() const noexcept { return count_ == 0; }
   Element* begin() const noexcept { return first_; }
   Element* end() const noexcept { return first_ + count_; }
 

@@ -70,7 +70,7 @@ std::uint32_t buildDocument(const StyleType& style, TextView id, json::Document&
   return root.IsObject() && !root.ObjectEmpty() ? KOSTYLE_OK : KOSTYLE_ERROR_WRITE_EMPTY_DOCUMENT;
 }
 
-// The writer's stack of open objects and arrays. A document is five levels deep at most, so a fixed
+// The writer's stack of open objects and arrays. A document is four levels deep at most, so a fixed
 // buffer holds it and writing needs no memory.
 class FixedStack {
  public:

@@ -1,8 +1,8 @@
 // The serializer: from a style in memory to a style document.
 //
 // A document refers to the texts of its style, which must live and not change as long as it does. It is
-// built whole before anything is written, so that only building it can run out of memory
-// and a style that cannot be written leaves its file as it was opened.
+// built whole before anything is written, so that only building it can run out of memory and a style
+// that cannot be written leaves its file as it was opened.
 #pragma once
 
 #include <kostyle/codes.h>

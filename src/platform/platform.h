@@ -81,7 +81,8 @@ File openForReading(const NativePath& path) noexcept;
 /// Opens a file to be written, empty; null when that fails.
 File openForWriting(const NativePath& path) noexcept;
 
-/// A fresh random UUID in its usual form: 36 units, lower case, without braces.
+/// A fresh random UUID in its usual form: 36 units, lower case, without braces. Throws std::bad_alloc
+/// when the system gives none.
 Text makeUuid();
 
 }  // namespace Tesk::KoStyle::platform
