@@ -2,14 +2,24 @@
 
 namespace Tesk::KoStyle::json {
 
+void* ThrowingAllocator::Malloc(std::size_t size) {
+  if (size > largestBlock) throw std::bad_alloc();
+  return size == 0 ? nullptr : ::operator new(size);
+}
+
 void* StackMemory::Realloc(void*, std::size_t, std::size_t newSize) {
   if (newSize > capacity_) {
-    void* const larger = std::realloc(memory_, newSize);
+    void* const larger = newSize > largestBlock ? nullptr : std::realloc(memory_, newSize);
     if (!larger) throw std::bad_alloc();
     memory_ = larger;
     capacity_ = newSize;
   }
   return memory_;
+}
+
+Value stringRef(TextView text) {
+  if (text.size() > largestBlock / sizeof(Char)) throw std::bad_alloc();
+  return Value(rapidjson::StringRef(text.data(), static_cast<rapidjson::SizeType>(text.size())));
 }
 
 const Value* findMember(const Value& object, TextView key) {

@@ -2,17 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <new>
 
 // A document that breaks a rule of the parser's own is a bad document, never the end of the host.
 #define RAPIDJSON_ASSERT(condition) static_cast<void>(0)
-// Lengths of strings and arrays do not wrap in files of more than four gigabytes.
-#define RAPIDJSON_NO_SIZETYPEDEFINE
-namespace rapidjson {
-using SizeType = std::size_t;
-}
-
 #include <rapidjson/document.h>
 #include <rapidjson/filewritestream.h>
 #include <rapidjson/prettywriter.h>
@@ -23,12 +18,16 @@ using SizeType = std::size_t;
 
 namespace Tesk::KoStyle::json {
 
+/// RapidJSON counts in 32 bits. No block of its memory may become so large that a text or a list in it
+/// could have a length that wraps; one that would is refused like one that the system does not have.
+inline constexpr std::size_t largestBlock = sizeof(Char) * std::size_t{UINT32_MAX};
+
 /// Memory for documents. Throws where RapidJSON's own allocator answers null, which its pools and
 /// stacks do not look at.
 class ThrowingAllocator {
  public:
   static constexpr bool kNeedFree = true;
-  void* Malloc(std::size_t size) { return size == 0 ? nullptr : ::operator new(size); }
+  void* Malloc(std::size_t size);
   static void Free(void* memory) noexcept { ::operator delete(memory); }
 };
 
@@ -55,6 +54,9 @@ using Encoding = rapidjson::UTF16<Char>;
 using Pool = rapidjson::MemoryPoolAllocator<ThrowingAllocator>;
 using Document = rapidjson::GenericDocument<Encoding, Pool, StackMemory>;
 using Value = Document::ValueType;
+
+/// A string that refers to the text.
+Value stringRef(TextView text);
 
 inline TextView view(const Value& string) { return {string.GetString(), string.GetStringLength()}; }
 

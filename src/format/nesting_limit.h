@@ -4,7 +4,6 @@
 
 #include <kostyle/codes.h>
 
-#include <cstddef>
 #include <cstdint>
 
 #include "format/json.h"
@@ -24,20 +23,22 @@ class NestingLimit {
   bool Int64(std::int64_t value) { return document_.Int64(value); }
   bool Uint64(std::uint64_t value) { return document_.Uint64(value); }
   bool Double(double value) { return document_.Double(value); }
-  bool RawNumber(const Ch* text, std::size_t length, bool copy) {
+  bool RawNumber(const Ch* text, rapidjson::SizeType length, bool copy) {
     return document_.RawNumber(text, length, copy);
   }
-  bool String(const Ch* text, std::size_t length, bool copy) {
+  bool String(const Ch* text, rapidjson::SizeType length, bool copy) {
     return document_.String(text, length, copy);
   }
-  bool Key(const Ch* text, std::size_t length, bool copy) { return document_.Key(text, length, copy); }
+  bool Key(const Ch* text, rapidjson::SizeType length, bool copy) {
+    return document_.Key(text, length, copy);
+  }
   bool StartObject() { return enter() && document_.StartObject(); }
-  bool EndObject(std::size_t count) {
+  bool EndObject(rapidjson::SizeType count) {
     --level_;
     return document_.EndObject(count);
   }
   bool StartArray() { return enter() && document_.StartArray(); }
-  bool EndArray(std::size_t count) {
+  bool EndArray(rapidjson::SizeType count) {
     --level_;
     return document_.EndArray(count);
   }

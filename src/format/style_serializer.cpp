@@ -9,12 +9,11 @@ namespace Tesk::KoStyle {
 namespace {
 
 using json::Pool;
+using json::stringRef;
 using json::Value;
 
-Value makeString(TextView text) { return Value(rapidjson::StringRef(text.data(), text.size())); }
-
 void addMember(Value& object, TextView key, Value&& value, Pool& pool) {
-  object.AddMember(makeString(key), std::move(value), pool);
+  object.AddMember(stringRef(key), std::move(value), pool);
 }
 
 void addUnlessEmpty(Value& object, TextView key, Value&& value, Pool& pool) {
@@ -26,7 +25,7 @@ template <class Texts>
 void addTexts(Value& filter, TextView key, const Texts& texts, Pool& pool) {
   Value array(rapidjson::kArrayType);
   for (const TextView text : texts) {
-    if (!text.empty()) array.PushBack(makeString(text), pool);
+    if (!text.empty()) array.PushBack(stringRef(text), pool);
   }
   addUnlessEmpty(filter, key, std::move(array), pool);
 }
@@ -40,7 +39,7 @@ Value makeValue(const ParameterValue& value) {
     case ParameterType::text:
       break;
   }
-  return makeString(value.text);
+  return stringRef(value.text);
 }
 
 template <class Chain>
@@ -57,8 +56,8 @@ std::uint32_t buildDocument(const StyleType& style, TextView id, json::Document&
   if (style.wholeName().empty()) return KOSTYLE_ERROR_WRITE_EMPTY_NAME;
   Pool& pool = root.GetAllocator();
   root.SetObject();
-  addMember(root, key::id, makeString(id), pool);
-  addMember(root, key::name, makeString(style.wholeName()), pool);
+  addMember(root, key::id, stringRef(id), pool);
+  addMember(root, key::name, stringRef(style.wholeName()), pool);
   Value filter(rapidjson::kObjectType);
   if (const auto code = writeFilter(style.attributes(), filter, pool)) return code;
   addUnlessEmpty(root, key::filter, std::move(filter), pool);

@@ -66,7 +66,7 @@ class UnitStream {
   bool copyPlain(Output& output) {
     const Unit* const end = endOfPlain();
     if (end == current_) return false;
-    widen(current_, end, static_cast<Char*>(output.Push(static_cast<std::size_t>(end - current_))));
+    widen(current_, end, static_cast<Char*>(output.Push(static_cast<unsigned>(end - current_))));
     current_ = end;
     if (end == limit_) passLimit();
     return true;
