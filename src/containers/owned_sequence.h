@@ -1,25 +1,26 @@
 // OwnedSequence: elements that the sequence owns, in an order that its user chooses.
 //
-// An element is found by its position, by its identity and, where the sequence has keys, by its key,
-// each in logarithmic time; so is its position, and inserting and taking out cost no more. An element
-// is identified by the address of its interface, which is only compared: an address whose object is
-// gone is simply not found.
+// An element is found by its position and, where the sequence has keys, by its key, each in logarithmic
+// time; so is its position, and inserting and taking out cost no more. An element is identified by the
+// address of its interface, which is only compared: an address whose object is gone is not found,
+// unless a new element has taken its place.
 //
 // Only makeNode() can throw; everything else either reads or commits. Reading never writes, so any
-// number of threads may read at once.
+// number of threads may read at once. A sequence that has never held anything is one null pointer.
 #pragma once
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <iterator>
 #include <memory>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "containers/rank_tree.h"
-#include "containers/text_front.h"
+#include "containers/slot_map.h"
+#include "containers/text_order.h"
 #include "platform/text.h"
 
 namespace Tesk::KoStyle {
@@ -28,25 +29,60 @@ namespace Tesk::KoStyle {
 struct NoKey {};
 
 /// `KeyOf` is NoKey or gives an element's key as a TextView that stays valid while the key does.
-template <class Element, class Interface, class KeyOf = NoKey>
+/// `Classes` are those that elements are of; `Element` itself when none is named.
+template <class Element, class Interface, class KeyOf = NoKey, class... Classes>
 class OwnedSequence {
-  struct ByPosition : RankNode {};
-  struct ByIdentity : RankNode {};
-  struct ByKey : RankNode {};
-  struct Node : ByPosition, ByIdentity, ByKey {
-    std::unique_ptr<Element> element;
-    const Interface* identity = nullptr;
-    std::uint64_t keyFront = 0;
-    TextView key;
-  };
   static constexpr bool hasKeys = !std::is_same_v<KeyOf, NoKey>;
 
+  struct Key {
+    Key() = default;
+    explicit Key(TextView key) noexcept : front(frontOf(key)), text(key) {}
+
+    int compare(const Key& other) const noexcept {
+      if (front != other.front) return front < other.front ? -1 : 1;
+      return compareTexts(text, other.text);
+    }
+
+    std::uint64_t front = 0;
+    TextView text;
+  };
+
+  // The trees and the keys go by the elements' slots.
+  struct Body {
+    SlotMap<Element, Classes...> elements;
+    RankTree order;
+    RankTree byKey;
+    std::vector<Key> keys;
+  };
+
  public:
-  /// An element outside any sequence, with all the memory that inserting it takes.
+  /// An element outside the order, with all the memory that inserting it takes. It must be gone before
+  /// the sequence is.
   class NodeHandle {
+   public:
+    NodeHandle() = default;
+    NodeHandle(NodeHandle&& other) noexcept
+        : home_(std::exchange(other.home_, nullptr)), slot_(other.slot_) {}
+    NodeHandle& operator=(NodeHandle other) noexcept {
+      std::swap(home_, other.home_);
+      std::swap(slot_, other.slot_);
+      return *this;
+    }
+    ~NodeHandle() {
+      if (home_) home_->elements.erase(slot_);
+    }
+
+    /// Whether there is an element.
+    explicit operator bool() const noexcept { return home_ != nullptr; }
+    Element& operator*() const noexcept { return home_->elements[slot_]; }
+    Element* operator->() const noexcept { return &**this; }
+
+   private:
     friend OwnedSequence;
-    explicit NodeHandle(std::unique_ptr<Node> node) noexcept : node_(std::move(node)) {}
-    std::unique_ptr<Node> node_;
+    NodeHandle(Body& home, SlotNumber slot) noexcept : home_(&home), slot_(slot) {}
+
+    Body* home_ = nullptr;
+    SlotNumber slot_ = noSlot;
   };
 
   class Iterator {
@@ -57,10 +93,10 @@ class OwnedSequence {
     using pointer = Element*;
     using reference = Element&;
 
-    Element& operator*() const noexcept { return *nodeOf<ByPosition>(*at_).element; }
+    Element& operator*() const noexcept { return body_->elements[at_]; }
     Element* operator->() const noexcept { return &**this; }
     Iterator& operator++() noexcept {
-      at_ = RankTree::next(*at_);
+      at_ = body_->order.next(at_);
       return *this;
     }
     friend bool operator==(Iterator a, Iterator b) noexcept { return a.at_ == b.at_; }
@@ -68,8 +104,10 @@ class OwnedSequence {
 
    private:
     friend OwnedSequence;
-    explicit Iterator(RankNode* at) noexcept : at_(at) {}
-    RankNode* at_;
+    Iterator(const Body* body, SlotNumber at) noexcept : body_(body), at_(at) {}
+
+    const Body* body_;
+    SlotNumber at_;
   };
 
   OwnedSequence() = default;
@@ -77,76 +115,92 @@ class OwnedSequence {
   OwnedSequence& operator=(const OwnedSequence&) = delete;
   ~OwnedSequence() { clear(); }
 
-  std::size_t size() const noexcept { return order_.size(); }
+  std::size_t size() const noexcept { return body_ ? body_->order.size() : 0; }
   bool empty() const noexcept { return size() == 0; }
-  Iterator begin() const noexcept { return Iterator(order_.at(0)); }
-  Iterator end() const noexcept { return Iterator(nullptr); }
+  Iterator begin() const noexcept { return {body_.get(), slotAt(0)}; }
+  Iterator end() const noexcept { return {body_.get(), noSlot}; }
 
   /// The element at a position; null at or past the end.
-  Element* at(std::size_t position) const noexcept { return elementOf(order_.at(position)); }
+  Element* at(std::size_t position) const noexcept { return elementIn(slotAt(position)); }
 
-  bool contains(const Interface* element) const noexcept { return find(element) != nullptr; }
+  bool contains(const Interface* element) const noexcept { return find(element) != noSlot; }
 
   /// The position of an element; size() when it is not here.
   std::size_t position(const Interface* element) const noexcept {
-    const Node* node = find(element);
-    return node ? RankTree::position(asHook<ByPosition>(*node)) : size();
+    const SlotNumber slot = find(element);
+    return slot == noSlot ? size() : body_->order.position(slot);
   }
 
   /// The element after another; null at the end and when the other is not here.
   Element* next(const Interface* element) const noexcept {
-    const Node* node = find(element);
-    return node ? elementOf(RankTree::next(asHook<ByPosition>(*node))) : nullptr;
+    const SlotNumber slot = find(element);
+    return slot == noSlot ? nullptr : elementIn(body_->order.next(slot));
   }
 
   /// The element before another; null at the front and when the other is not here.
   Element* previous(const Interface* element) const noexcept {
-    const Node* node = find(element);
-    return node ? elementOf(RankTree::previous(asHook<ByPosition>(*node))) : nullptr;
+    const SlotNumber slot = find(element);
+    return slot == noSlot ? nullptr : elementIn(body_->order.previous(slot));
   }
 
   /// An element with this key, or null. Which one, when several have it, is not specified.
   Element* findKey(TextView key) const noexcept {
     static_assert(hasKeys);
-    const std::uint64_t front = frontOf(key);
-    const auto isBefore = [&](const RankNode& node) { return compareKey(node, front, key) < 0; };
-    RankNode* const found = keys_.at(keys_.partitionPoint(isBefore));
-    return found && keyOf(*found) == key ? nodeOf<ByKey>(*found).element.get() : nullptr;
+    if (!body_) return nullptr;
+    const Key sought(key);
+    const auto isBefore = [&](SlotNumber slot) { return body_->keys[slot].compare(sought) < 0; };
+    const SlotNumber found = body_->byKey.partitionPoint(isBefore);
+    return found != noSlot && body_->keys[found].text == key ? elementIn(found) : nullptr;
   }
 
   /// The first position whose element `before` does not hold for; see RankTree::partitionPoint().
   template <class Before>
   std::size_t partitionPoint(Before before) const {
-    return order_.partitionPoint(
-        [&](const RankNode& node) { return before(std::as_const(*nodeOf<ByPosition>(node).element)); });
+    if (!body_) return 0;
+    return body_->order.position(body_->order.partitionPoint(
+        [&](SlotNumber slot) { return before(std::as_const(body_->elements[slot])); }));
   }
 
-  static NodeHandle makeNode(std::unique_ptr<Element> element) {
-    auto node = std::make_unique<Node>();
-    node->identity = element.get();
-    node->element = std::move(element);
-    return NodeHandle(std::move(node));
+  /// Makes an element of one of the classes.
+  template <class Class = Element, class... Arguments>
+  NodeHandle makeNode(Arguments&&... arguments) {
+    if (!body_) body_ = std::make_unique<Body>();
+    auto& elements = body_->elements;
+    NodeHandle made(*body_, elements.template emplace<Class>(std::forward<Arguments>(arguments)...));
+    body_->order.reserve(elements.capacity());
+    if constexpr (hasKeys) {
+      body_->byKey.reserve(elements.capacity());
+      body_->keys.resize(elements.capacity());
+    }
+    return made;
   }
 
-  /// Inserts before `position`; past the end the element is appended.
+  /// Inserts before `position`; past the end the element is appended. The handle must be one of this
+  /// sequence.
   Element& insert(std::size_t position, NodeHandle handle) noexcept {
-    Node& node = *handle.node_.release();
-    order_.insert(std::min(position, size()), asHook<ByPosition>(node));
-    identities_.insert(identities_.partitionPoint(identityBefore(node.identity)),
-                       asHook<ByIdentity>(node));
-    insertKey(node);
-    return *node.element;
+    const SlotNumber slot = release(handle);
+    body_->order.insertBefore(slotAt(position), slot);
+    insertKey(slot);
+    return body_->elements[slot];
   }
 
   Element& append(NodeHandle handle) noexcept { return insert(size(), std::move(handle)); }
 
+  /// Inserts behind all elements whose key is not greater. They must be in the order of their keys.
+  Element& insertByKey(NodeHandle handle) noexcept {
+    static_assert(hasKeys);
+    const SlotNumber slot = release(handle);
+    insertKey(slot);
+    body_->order.insertBefore(slotAt(body_->byKey.position(slot)), slot);
+    return body_->elements[slot];
+  }
+
   /// Takes an element of this sequence out and closes the gap.
   NodeHandle extract(const Interface* element) noexcept {
-    Node& node = *find(element);
-    order_.erase(asHook<ByPosition>(node));
-    identities_.erase(asHook<ByIdentity>(node));
-    if constexpr (hasKeys) keys_.erase(asHook<ByKey>(node));
-    return NodeHandle(std::unique_ptr<Node>(&node));
+    const SlotNumber slot = find(element);
+    body_->order.erase(slot);
+    if constexpr (hasKeys) body_->byKey.erase(slot);
+    return {*body_, slot};
   }
 
   /// Destroys an element; false when it is not here.
@@ -160,74 +214,52 @@ class OwnedSequence {
   template <class Change>
   void modifyKey(const Interface* element, Change change) noexcept {
     static_assert(hasKeys);
-    Node& node = *find(element);
-    keys_.erase(asHook<ByKey>(node));
+    const SlotNumber slot = find(element);
+    body_->byKey.erase(slot);
     change();
-    insertKey(node);
+    insertKey(slot);
   }
 
-  /// Destroys all elements, from the first to the last, in linear time.
+  /// Destroys all elements, from the first to the last, and gives their memory back.
   void clear() noexcept {
-    RankNode* at = order_.at(0);
-    identities_.clear();
-    keys_.clear();
-    // The tree is read no more once its nodes are going, so their order moves into a hook that is free.
-    for (RankNode* node = at; node; node = RankTree::next(*node))
-      asHook<ByIdentity>(nodeOf<ByPosition>(*node)).right = RankTree::next(*node);
-    order_.clear();
-    while (at) {
-      Node& node = nodeOf<ByPosition>(*at);
-      at = asHook<ByIdentity>(node).right;
-      delete &node;
-    }
+    if (!body_) return;
+    for (SlotNumber slot = slotAt(0); slot != noSlot; slot = body_->order.next(slot))
+      body_->elements.erase(slot);
+    body_.reset();
   }
 
  private:
-  template <class Hook>
-  static Node& nodeOf(const RankNode& hook) noexcept {
-    return const_cast<Node&>(static_cast<const Node&>(static_cast<const Hook&>(hook)));
-  }
-  template <class Hook>
-  static RankNode& asHook(const Node& node) noexcept {
-    return const_cast<Hook&>(static_cast<const Hook&>(node));
-  }
-  static Element* elementOf(RankNode* hook) noexcept {
-    return hook ? nodeOf<ByPosition>(*hook).element.get() : nullptr;
-  }
-  static TextView keyOf(const RankNode& hook) noexcept { return nodeOf<ByKey>(hook).key; }
-
-  static int compareKey(const RankNode& hook, std::uint64_t front, TextView key) noexcept {
-    const Node& node = nodeOf<ByKey>(hook);
-    if (node.keyFront != front) return node.keyFront < front ? -1 : 1;
-    return node.key.compare(key);
+  static SlotNumber release(NodeHandle& handle) noexcept {
+    handle.home_ = nullptr;
+    return handle.slot_;
   }
 
-  static auto identityBefore(const Interface* identity) noexcept {
-    return [identity](const RankNode& node) {
-      return std::less<>()(nodeOf<ByIdentity>(node).identity, identity);
-    };
+  SlotNumber slotAt(std::size_t position) const noexcept {
+    return body_ ? body_->order.at(position) : noSlot;
   }
 
-  Node* find(const Interface* identity) const noexcept {
-    RankNode* const found = identities_.at(identities_.partitionPoint(identityBefore(identity)));
-    return found && nodeOf<ByIdentity>(*found).identity == identity ? &nodeOf<ByIdentity>(*found)
-                                                                    : nullptr;
+  Element* elementIn(SlotNumber slot) const noexcept {
+    return slot == noSlot ? nullptr : &body_->elements[slot];
   }
 
-  void insertKey(Node& node) noexcept {
+  SlotNumber find(const Interface* identity) const noexcept {
+    if (!body_) return noSlot;
+    const SlotNumber slot = body_->elements.slotAt(identity);
+    const bool found = body_->order.contains(slot) &&
+                       static_cast<const Interface*>(&body_->elements[slot]) == identity;
+    return found ? slot : noSlot;
+  }
+
+  void insertKey(SlotNumber slot) noexcept {
     if constexpr (hasKeys) {
-      node.key = KeyOf()(*node.element);
-      node.keyFront = frontOf(node.key);
-      const auto isNotAfter = [&](const RankNode& other) {
-        return compareKey(other, node.keyFront, node.key) <= 0;
-      };
-      keys_.insert(keys_.partitionPoint(isNotAfter), asHook<ByKey>(node));
+      auto& keys = body_->keys;
+      keys[slot] = Key(KeyOf()(body_->elements[slot]));
+      const auto isNotAfter = [&](SlotNumber other) { return keys[other].compare(keys[slot]) <= 0; };
+      body_->byKey.insertBefore(body_->byKey.partitionPoint(isNotAfter), slot);
     }
   }
 
-  RankTree order_;
-  RankTree identities_;
-  RankTree keys_;
+  std::unique_ptr<Body> body_;
 };
 
 }  // namespace Tesk::KoStyle

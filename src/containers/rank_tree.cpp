@@ -5,158 +5,143 @@
 namespace Tesk::KoStyle {
 namespace {
 
-using Side = RankNode* RankNode::*;
-
-std::size_t sizeOf(const RankNode* node) noexcept { return node ? node->size : 0; }
-
-// One more than the size: the pair of ratios below keeps its balance proof for this weight.
-std::size_t weight(const RankNode* node) noexcept { return sizeOf(node) + 1; }
-
 constexpr std::size_t balanceRatio = 3;   // one side may weigh up to this many times the other
 constexpr std::size_t rotationRatio = 2;  // an inner child from this ratio on takes a double rotation
 
-void updateSize(RankNode& node) noexcept { node.size = 1 + sizeOf(node.left) + sizeOf(node.right); }
-
-RankNode* outermost(RankNode* node, Side side) noexcept {
-  while (node && node->*side) node = node->*side;
-  return node;
-}
-
-RankNode* neighbour(const RankNode& node, Side towards, Side away) noexcept {
-  if (node.*towards) return outermost(node.*towards, away);
-  const RankNode* child = &node;
-  RankNode* parent = node.parent;
-  while (parent && parent->*towards == child) {
-    child = parent;
-    parent = parent->parent;
-  }
-  return parent;
-}
-
 }  // namespace
 
-RankNode* RankTree::at(std::size_t position) const noexcept {
-  RankNode* node = root_;
-  while (node) {
-    const std::size_t before = sizeOf(node->left);
-    if (position == before) return node;
-    if (position < before) {
-      node = node->left;
-    } else {
-      position -= before + 1;
-      node = node->right;
-    }
-  }
-  return nullptr;
+// One more than the size: the pair of ratios above keeps its balance proof for this weight.
+std::size_t RankTree::weight(Node node) const noexcept { return sizeOf(node) + 1; }
+
+void RankTree::updateSize(Node node) noexcept {
+  Link& link = links_[node];
+  link.size = static_cast<Node>(1 + sizeOf(link.left) + sizeOf(link.right));
 }
 
-std::size_t RankTree::position(const RankNode& node) noexcept {
-  std::size_t position = sizeOf(node.left);
-  for (const RankNode* child = &node; child->parent; child = child->parent) {
-    if (child->parent->right == child) position += 1 + sizeOf(child->parent->left);
+RankTree::Node RankTree::at(std::size_t position) const noexcept {
+  Node node = root_;
+  while (node != none) {
+    const Link& link = links_[node];
+    const std::size_t before = sizeOf(link.left);
+    if (position == before) return node;
+    if (position < before) {
+      node = link.left;
+    } else {
+      position -= before + 1;
+      node = link.right;
+    }
+  }
+  return none;
+}
+
+std::size_t RankTree::position(Node node) const noexcept {
+  if (node == none) return size();
+  std::size_t position = sizeOf(links_[node].left);
+  for (Node parent = links_[node].parent; parent != none; parent = links_[node].parent) {
+    if (links_[parent].right == node) position += 1 + sizeOf(links_[parent].left);
+    node = parent;
   }
   return position;
 }
 
-RankNode* RankTree::next(const RankNode& node) noexcept {
-  return neighbour(node, &RankNode::right, &RankNode::left);
-}
-
-RankNode* RankTree::previous(const RankNode& node) noexcept {
-  return neighbour(node, &RankNode::left, &RankNode::right);
-}
-
-void RankTree::insert(std::size_t position, RankNode& node) noexcept {
-  node = RankNode{};
-  if (!root_) {
-    root_ = &node;
-    return;
+void RankTree::insertBefore(Node after, Node node) noexcept {
+  const Node before = after == none ? last() : links_[after].previous;
+  links_[node] = Link();
+  links_[node].size = 1;
+  join(before, node);
+  join(node, after);
+  // One of the two has no child where the new node belongs.
+  const bool belowAfter = after != none && links_[after].left == none;
+  const Node parent = belowAfter ? after : before;
+  links_[node].parent = parent;
+  if (parent == none) {
+    root_ = node;
+  } else {
+    (belowAfter ? links_[parent].left : links_[parent].right) = node;
   }
-  RankNode* const following = at(position);
-  RankNode* parent = following ? following->left : outermost(root_, &RankNode::right);
-  Side side = &RankNode::right;
-  if (following && !parent) {
-    parent = following;
-    side = &RankNode::left;
-  } else if (following) {
-    parent = outermost(parent, &RankNode::right);
-  }
-  parent->*side = &node;
-  node.parent = parent;
   rebalanceUpwards(parent);
 }
 
-void RankTree::erase(RankNode& node) noexcept {
-  if (node.left && node.right) swapWithSuccessor(node);
-  RankNode* const child = node.left ? node.left : node.right;
-  RankNode* const parent = node.parent;
-  attach(parent, &node, child);
-  rebalanceUpwards(parent);
-  node = RankNode{};
+void RankTree::erase(Node node) noexcept {
+  if (links_[node].left != none && links_[node].right != none) swapWithSuccessor(node);
+  const Link link = links_[node];
+  join(link.previous, link.next);
+  attach(link.parent, node, link.left != none ? link.left : link.right);
+  rebalanceUpwards(link.parent);
+  links_[node] = Link();
+}
+
+RankTree::Node RankTree::last() const noexcept { return size() == 0 ? none : at(size() - 1); }
+
+void RankTree::join(Node before, Node after) noexcept {
+  if (before != none) links_[before].next = after;
+  if (after != none) links_[after].previous = before;
 }
 
 // Puts `replacement` where `old` hangs below `parent`, or at the root.
-void RankTree::attach(RankNode* parent, RankNode* old, RankNode* replacement) noexcept {
-  if (!parent) {
+void RankTree::attach(Node parent, Node old, Node replacement) noexcept {
+  if (parent == none) {
     root_ = replacement;
   } else {
-    (parent->left == old ? parent->left : parent->right) = replacement;
+    (links_[parent].left == old ? links_[parent].left : links_[parent].right) = replacement;
   }
-  if (replacement) replacement->parent = parent;
+  if (replacement != none) links_[replacement].parent = parent;
 }
 
 // Lifts a child, which is on the `rising` side of its parent, above it.
-RankNode* RankTree::rotate(RankNode& node, RankNode& child, Side rising, Side falling) noexcept {
-  attach(node.parent, &node, &child);
-  node.*rising = child.*falling;
-  if (node.*rising) (node.*rising)->parent = &node;
-  child.*falling = &node;
-  node.parent = &child;
+RankTree::Node RankTree::rotate(Node node, Node child, Side rising, Side falling) noexcept {
+  attach(links_[node].parent, node, child);
+  const Node passedOn = links_[child].*falling;
+  links_[node].*rising = passedOn;
+  if (passedOn != none) links_[passedOn].parent = node;
+  links_[child].*falling = node;
+  links_[node].parent = child;
   updateSize(node);
   updateSize(child);
-  return &child;
+  return child;
 }
 
-RankNode* RankTree::balanceSide(RankNode& node, Side light, Side heavy) noexcept {
-  RankNode* child = node.*heavy;
-  if (!child || weight(child) <= balanceRatio * weight(node.*light)) return &node;
-  RankNode* const inner = child->*light;
-  if (inner && weight(inner) >= rotationRatio * weight(child->*heavy)) {
-    child = rotate(*child, *inner, light, heavy);
+RankTree::Node RankTree::balanceSide(Node node, Side light, Side heavy) noexcept {
+  Node child = links_[node].*heavy;
+  if (child == none || weight(child) <= balanceRatio * weight(links_[node].*light)) return node;
+  const Node inner = links_[child].*light;
+  if (inner != none && weight(inner) >= rotationRatio * weight(links_[child].*heavy)) {
+    child = rotate(child, inner, light, heavy);
   }
-  return rotate(node, *child, heavy, light);
+  return rotate(node, child, heavy, light);
 }
 
-void RankTree::rebalanceUpwards(RankNode* node) noexcept {
-  while (node) {
-    updateSize(*node);
-    node = balanceSide(*node, &RankNode::left, &RankNode::right);
-    node = balanceSide(*node, &RankNode::right, &RankNode::left);
-    node = node->parent;
+void RankTree::rebalanceUpwards(Node node) noexcept {
+  while (node != none) {
+    updateSize(node);
+    node = balanceSide(node, &Link::left, &Link::right);
+    node = balanceSide(node, &Link::right, &Link::left);
+    node = links_[node].parent;
   }
 }
 
 // Exchanges the places of a node with two children and of the node after it, which has no left child.
-void RankTree::swapWithSuccessor(RankNode& node) noexcept {
-  RankNode& successor = *outermost(node.right, &RankNode::left);
-  RankNode* const successorParent = successor.parent;
-  RankNode* const successorChild = successor.right;
-  attach(node.parent, &node, &successor);
-  successor.left = node.left;
-  successor.left->parent = &successor;
-  if (successorParent == &node) {
-    successor.right = &node;
-    node.parent = &successor;
+void RankTree::swapWithSuccessor(Node node) noexcept {
+  const Node successor = links_[node].next;
+  const Link before = links_[node];
+  const Link after = links_[successor];
+  attach(before.parent, node, successor);
+  links_[successor].size = before.size;
+  links_[successor].left = before.left;
+  links_[before.left].parent = successor;
+  if (after.parent == node) {
+    links_[successor].right = node;
+    links_[node].parent = successor;
   } else {
-    successor.right = node.right;
-    successor.right->parent = &successor;
-    successorParent->left = &node;
-    node.parent = successorParent;
+    links_[successor].right = before.right;
+    links_[before.right].parent = successor;
+    links_[after.parent].left = node;
+    links_[node].parent = after.parent;
   }
-  node.left = nullptr;
-  node.right = successorChild;
-  if (successorChild) successorChild->parent = &node;
-  std::swap(node.size, successor.size);
+  links_[node].left = none;
+  links_[node].right = after.right;
+  links_[node].size = after.size;
+  if (after.right != none) links_[after.right].parent = node;
 }
 
 }  // namespace Tesk::KoStyle

@@ -1,73 +1,86 @@
-// RankTree: an order of nodes that somebody else owns. A node is found by its position and a position
-// by its node in logarithmic time, wherever nodes are inserted and erased.
+// RankTree: an order of numbered nodes, whose numbers their user gives. A node is found by its position
+// and a position by its node in logarithmic time, wherever nodes are inserted and erased.
 //
-// A weight-balanced binary tree: a subtree's size gives the positions and the balance alike. Nothing
-// allocates, nothing throws. Reading never writes, so any number of threads may read at once.
+// A weight-balanced binary tree: a subtree's size gives the positions and the balance alike. Its links
+// lie in one block of memory, indexed by the nodes' numbers, so that a search stays in few cache lines.
+// Only reserve() can throw. Reading never writes, so any number of threads may read at once.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <vector>
 
 namespace Tesk::KoStyle {
 
-struct RankNode {
-  RankNode* parent = nullptr;
-  RankNode* left = nullptr;
-  RankNode* right = nullptr;
-  std::size_t size = 1;
-};
-
 class RankTree {
  public:
-  RankTree() = default;
-  RankTree(const RankTree&) = delete;
-  RankTree& operator=(const RankTree&) = delete;
+  using Node = std::uint32_t;
+  static constexpr Node none = UINT32_MAX;
 
-  std::size_t size() const noexcept { return root_ ? root_->size : 0; }
+  /// Makes room for the nodes whose numbers are less than `count`. Others must not be inserted.
+  void reserve(std::size_t count) { links_.resize(count); }
 
-  /// The node at a position; null at or past the end.
-  RankNode* at(std::size_t position) const noexcept;
+  std::size_t size() const noexcept { return sizeOf(root_); }
 
-  /// The position of a node of this tree.
-  static std::size_t position(const RankNode& node) noexcept;
+  /// Whether a node, of any number, is in the tree.
+  bool contains(Node node) const noexcept { return node < links_.size() && links_[node].size != 0; }
 
-  static RankNode* next(const RankNode& node) noexcept;
-  static RankNode* previous(const RankNode& node) noexcept;
+  /// The node at a position; none at or past the end.
+  Node at(std::size_t position) const noexcept;
 
-  /// Inserts a node that is in no tree, before `position`; past the end it is appended.
-  void insert(std::size_t position, RankNode& node) noexcept;
+  /// The position of a node of this tree; size() for none.
+  std::size_t position(Node node) const noexcept;
+
+  /// The neighbours of a node of this tree; none at the ends.
+  Node next(Node node) const noexcept { return links_[node].next; }
+  Node previous(Node node) const noexcept { return links_[node].previous; }
+
+  /// Inserts a node that is not in the tree, before another; at the end before none.
+  void insertBefore(Node after, Node node) noexcept;
 
   /// Takes a node of this tree out.
-  void erase(RankNode& node) noexcept;
+  void erase(Node node) noexcept;
 
-  /// Forgets all nodes, which are in no tree then.
-  void clear() noexcept { root_ = nullptr; }
-
-  /// The first position whose node `before` does not hold for. It must hold for a front part of the
-  /// nodes and for no other.
+  /// The first node that `before` does not hold for; none when it holds for all. It must hold for a
+  /// front part of the nodes and for no other.
   template <class Before>
-  std::size_t partitionPoint(Before before) const {
-    std::size_t position = 0;
-    for (const RankNode* node = root_; node;) {
-      if (before(*node)) {
-        position += 1 + (node->left ? node->left->size : 0);
-        node = node->right;
+  Node partitionPoint(Before before) const {
+    Node found = none;
+    for (Node node = root_; node != none;) {
+      if (before(node)) {
+        node = links_[node].right;
       } else {
-        node = node->left;
+        found = node;
+        node = links_[node].left;
       }
     }
-    return position;
+    return found;
   }
 
  private:
-  void attach(RankNode* parent, RankNode* old, RankNode* replacement) noexcept;
-  RankNode* rotate(RankNode& node, RankNode& child, RankNode* RankNode::*rising,
-                   RankNode* RankNode::*falling) noexcept;
-  RankNode* balanceSide(RankNode& node, RankNode* RankNode::*light,
-                        RankNode* RankNode::*heavy) noexcept;
-  void rebalanceUpwards(RankNode* node) noexcept;
-  void swapWithSuccessor(RankNode& node) noexcept;
+  struct Link {
+    Node parent = none;
+    Node left = none;
+    Node right = none;
+    Node size = 0;  // of the subtree; zero for what is not in the tree
+    Node previous = none;
+    Node next = none;
+  };
+  using Side = Node Link::*;
 
-  RankNode* root_ = nullptr;
+  std::size_t sizeOf(Node node) const noexcept { return node == none ? 0 : links_[node].size; }
+  std::size_t weight(Node node) const noexcept;
+  void updateSize(Node node) noexcept;
+  Node last() const noexcept;
+  void join(Node before, Node after) noexcept;
+  void attach(Node parent, Node old, Node replacement) noexcept;
+  Node rotate(Node node, Node child, Side rising, Side falling) noexcept;
+  Node balanceSide(Node node, Side light, Side heavy) noexcept;
+  void rebalanceUpwards(Node node) noexcept;
+  void swapWithSuccessor(Node node) noexcept;
+
+  std::vector<Link> links_;
+  Node root_ = none;
 };
 
 }  // namespace Tesk::KoStyle

@@ -1,8 +1,6 @@
 #include "format/style_reader.h"
 
 #include "format/style_keys.h"
-#include "model/system_style.h"
-#include "model/user_style.h"
 
 namespace Tesk::KoStyle {
 namespace {
@@ -11,16 +9,16 @@ using json::findMember;
 using json::Value;
 using json::view;
 
-std::unique_ptr<Style> makeStyle(StyleKind kind, StyleOwner* owner) {
+StyleSequence::NodeHandle makeStyle(StyleKind kind, StyleOwner* owner, StyleSequence& styles) {
   switch (kind) {
     case StyleKind::system:
-      return std::make_unique<SystemStyle>(owner);
+      return styles.makeNode<SystemStyle>(owner);
     case StyleKind::user:
-      return std::make_unique<UserStyle>(owner);
+      return styles.makeNode<UserStyle>(owner);
     case StyleKind::mutableStyle:
       break;
   }
-  return nullptr;
+  return {};
 }
 
 bool refuse(StyleReadOutcome& outcome, std::uint32_t error, TextView parent, TextView key = {}) {
@@ -54,20 +52,21 @@ void readArray(const Value& filter, TextView key, Add add) {
 
 }  // namespace
 
-std::unique_ptr<Style> StyleReader::read(StyleKind kind, StyleOwner* owner, std::FILE* file,
-                                         StyleReadOutcome& outcome) {
+StyleSequence::NodeHandle StyleReader::read(StyleKind kind, StyleOwner* owner, StyleSequence& styles,
+                                            std::FILE* file, StyleReadOutcome& outcome) {
   if (const rapidjson::ParseResult result = parser_.parse(file); result.IsError()) {
     outcome.error = KOSTYLE_ERROR_JSON_SYNTAX;
     outcome.parseError = static_cast<std::uint32_t>(result.Code());
     outcome.parseErrorOffset = result.Offset();
-    return nullptr;
+    return {};
   }
-  std::unique_ptr<Style> style = makeStyle(kind, owner);
+  auto style = makeStyle(kind, owner, styles);
   if (!style) {
     outcome.error = KOSTYLE_ERROR_NO_STYLE_FOR_KIND;
-    return nullptr;
+    return {};
   }
-  return readDocument(*style, outcome) ? std::move(style) : nullptr;
+  if (!readDocument(*style, outcome)) style = {};
+  return style;
 }
 
 bool StyleReader::readDocument(Style& style, StyleReadOutcome& outcome) {

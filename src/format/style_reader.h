@@ -3,21 +3,21 @@
 #pragma once
 
 #include <cstdio>
-#include <memory>
 
 #include "format/style_parser.h"
 #include "format/style_read_outcome.h"
-#include "model/style.h"
 #include "model/style_builder.h"
+#include "model/style_sequence.h"
 
 namespace Tesk::KoStyle {
 
 class StyleReader {
  public:
-  /// Reads an open file into a new style of the given kind, filling a cleared outcome. Null when the
-  /// file is refused, with the first failing check in `outcome`. Does not close the file.
-  std::unique_ptr<Style> read(StyleKind kind, StyleOwner* owner, std::FILE* file,
-                              StyleReadOutcome& outcome);
+  /// Reads an open file into a new style of the given kind, which is not in the set's list yet, filling
+  /// a cleared outcome. No style when the file is refused, with the first failing check in `outcome`.
+  /// Does not close the file.
+  StyleSequence::NodeHandle read(StyleKind kind, StyleOwner* owner, StyleSequence& styles,
+                                 std::FILE* file, StyleReadOutcome& outcome);
 
  private:
   bool readDocument(Style& style, StyleReadOutcome& outcome);

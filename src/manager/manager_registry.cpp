@@ -44,11 +44,9 @@ IStyleManager* StyleManagerRegistry::findOrCreate(const Char* appID, const Char*
   }
   if (!isDirectory(systemStyleDirPath)) return fail(KOSTYLE_ERROR_SYSTEM_DIRECTORY_MISSING);
   if (!ensureDirectory(userStyleDirPath)) return fail(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
-  auto manager = std::make_unique<StyleManager>(appID, systemStyleDirPath, userStyleDirPath,
-                                                std::move(systemStyleDirs), std::move(userStyleDirs));
-  IStyleManager* const registered = &managers_.append(managers_.makeNode(std::move(manager)));
   error = KOSTYLE_OK;
-  return registered;
+  return &managers_.append(managers_.makeNode(appID, systemStyleDirPath, userStyleDirPath,
+                                              std::move(systemStyleDirs), std::move(userStyleDirs)));
 }
 
 void StyleManagerRegistry::destroy(const IStyleManager* manager) {

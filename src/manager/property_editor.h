@@ -2,7 +2,7 @@
 // own file with them.
 #pragma once
 
-#include "containers/sorted_set.h"
+#include "containers/sorted_texts.h"
 #include "interfaces/interfaces.h"
 #include "model/style.h"
 #include "platform/platform.h"
@@ -25,8 +25,8 @@ class PropertyEditor final : public IPropertyEditor {
 
   Style& style_;
   Text name_;
-  SortedSet<Text> subGenres_;
-  SortedSet<Text> colors_;
+  SortedTexts subGenres_;
+  SortedTexts colors_;
 };
 
 }  // namespace Tesk::KoStyle

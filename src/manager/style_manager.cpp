@@ -47,7 +47,7 @@ int StyleManager::readSystemStyles() { return readStyleDirectory(system_, *this)
 int StyleManager::readUserStyles() { return readStyleDirectory(user_, *this); }
 
 IMutableStyle* StyleManager::createMutableStyle() {
-  return &mutableStyles_.append(MutableStyles::makeNode(std::make_unique<MutableStyle>(this)));
+  return &mutableStyles_.append(mutableStyles_.makeNode(this));
 }
 
 SystemStyle* StyleManager::next(const SystemStyle& style) const {
@@ -89,6 +89,10 @@ bool StyleManager::isStyleIdInUse(const Char* id) const {
 
 UserStyle* StyleManager::findUserStyle(const Char* id) const {
   return *id == 0 ? nullptr : asUser(user_.styles.findKey(id));
+}
+
+StyleSequence::NodeHandle StyleManager::makeUserStyle() {
+  return user_.styles.makeNode<UserStyle>(this);
 }
 
 UserStyle& StyleManager::append(StyleSequence::NodeHandle style) noexcept {

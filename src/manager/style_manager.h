@@ -57,7 +57,10 @@ class StyleManager final : public StyleOwner {
   /// The user style with this identifier; null when there is none.
   UserStyle* findUserStyle(const Char* id) const;
 
-  /// Appends a user style.
+  /// A user style that is not in the list yet.
+  StyleSequence::NodeHandle makeUserStyle();
+
+  /// Appends one.
   UserStyle& append(StyleSequence::NodeHandle style) noexcept;
 
   // Whether a style is in a list; the style is only compared.

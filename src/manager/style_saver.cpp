@@ -1,6 +1,5 @@
 #include "manager/style_saver.h"
 
-#include <memory>
 #include <utility>
 
 #include "format/style_keys.h"
@@ -82,18 +81,17 @@ IUserStyle* saveNewStyle(StyleManager& manager, MutableStyle& style, bool pretty
 
   FreshName name = chooseStyleName(manager);
   const TargetFile target(name.path);
-  auto saved = std::make_unique<UserStyle>(&manager);
+  auto saved = manager.makeUserStyle();
   StoredContent content = copyFromMutableStyle(style, *saved);
   saved->exchangeContent(content);
   saved->assignId(std::move(name.uuid));
   saved->assignPath(std::move(name.path));
   const StyleDocument document(style, saved->wholeId());
-  auto node = StyleSequence::makeNode(std::move(saved));
 
   error = writeNewFile(target, document, pretty);
   if (error != KOSTYLE_OK) return nullptr;
   manager.destroy(style);
-  return &manager.append(std::move(node));
+  return &manager.append(std::move(saved));
 }
 
 IUserStyle* overwriteStyle(StyleManager& manager, const Char* targetID, MutableStyle& style,

@@ -4,13 +4,10 @@
 
 #include <vector>
 
-#include "containers/owned_sequence.h"
 #include "manager/style_creation_result.h"
-#include "model/style.h"
+#include "model/style_sequence.h"
 
 namespace Tesk::KoStyle {
-
-using StyleSequence = OwnedSequence<Style, IStyleBase, StyleIdOf>;
 
 struct StyleSet {
   StyleKind kind;

@@ -1,7 +1,6 @@
 #include "model/mutable_effect.h"
 
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 #include "model/mutable_style.h"
@@ -22,7 +21,7 @@ bool MutableEffect::move(const std::size_t& index) {
 
 IMutableParameter* MutableEffect::addParameter(const Char* name) {
   if (!name || *name == 0) return nullptr;
-  return parameters_.append(std::make_unique<MutableParameter>(*this, name));
+  return parameters_.append(*this, name);
 }
 
 MutableChain& MutableEffect::chain() const noexcept { return parent_.chain(kind_); }

@@ -11,7 +11,9 @@
 
 namespace Tesk::KoStyle {
 
+class MutableAudioEffect;
 class MutableEffect;
+class MutableMidiEffect;
 class MutableStyle;
 
 struct EffectIdOf {
@@ -19,7 +21,8 @@ struct EffectIdOf {
 };
 
 /// A chain of a mutable style; identifiers are unique within it.
-using MutableChain = OwnedSequence<MutableEffect, IEffectBase, EffectIdOf>;
+using MutableChain =
+    OwnedSequence<MutableEffect, IEffectBase, EffectIdOf, MutableAudioEffect, MutableMidiEffect>;
 
 class MutableEffect : public virtual IMutableEffect {
  public:

@@ -1,7 +1,5 @@
 #include "model/mutable_style.h"
 
-#include <memory>
-
 namespace Tesk::KoStyle {
 
 void MutableStyle::destroy() {
@@ -66,10 +64,7 @@ template <class EffectType>
 EffectType* MutableStyle::insertEffect(std::size_t index, const Char* id) {
   MutableChain& effects = chain(EffectType::kind);
   if (!id || *id == 0 || effects.findKey(id)) return nullptr;
-  auto effect = std::make_unique<EffectType>(*this, id);
-  EffectType* const inserted = effect.get();
-  effects.insert(index, MutableChain::makeNode(std::move(effect)));
-  return inserted;
+  return static_cast<EffectType*>(&effects.insert(index, effects.makeNode<EffectType>(*this, id)));
 }
 
 IUserStyle* MutableStyle::save(const bool& pretty, std::uint32_t* error) {

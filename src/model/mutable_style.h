@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "containers/sorted_set.h"
+#include "containers/sorted_texts.h"
 #include "model/attributes.h"
 #include "model/mutable_effect.h"
 #include "model/style_with.h"
@@ -13,7 +13,7 @@ namespace Tesk::KoStyle {
 
 struct MutableContent {
   Text name;
-  Attributes<SortedSet<Text>> attributes;
+  Attributes<SortedTexts> attributes;
   MutableChain audioEffects;
   MutableChain midiEffects;
 };

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "containers/text_front.h"
+#include "containers/text_order.h"
 #include "platform/text.h"
 
 namespace Tesk::KoStyle {

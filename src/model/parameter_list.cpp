@@ -17,17 +17,14 @@ auto nameNotAfter(TextView name) {
 
 }  // namespace
 
-MutableParameter* ParameterList::append(std::unique_ptr<MutableParameter> parameter) {
-  if (!parameter) return nullptr;
-  const TextView name = parameter->wholeName();
-  if (!name.empty() && containsName(name)) return nullptr;
-  auto node = parameters_.makeNode(std::move(parameter));
+MutableParameter* ParameterList::append(MutableEffect& parent, Text name) {
+  if (containsName(name)) return nullptr;
+  auto node = parameters_.makeNode(parent, std::move(name));
   sort();
-  return &parameters_.insert(parameters_.partitionPoint(nameNotAfter(name)), std::move(node));
+  return &parameters_.insertByKey(std::move(node));
 }
 
 void ParameterList::rename(MutableParameter& parameter, Text name) {
-  if (!contains(&parameter)) return parameter.assignName(std::move(name));
   renamed_.insert(&parameter);
   parameters_.modifyKey(&parameter, [&] { parameter.assignName(std::move(name)); });
 }

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
 #include <set>
 
 #include "containers/owned_sequence.h"
@@ -31,13 +30,11 @@ class ParameterList {
   }
   bool containsName(TextView name) const noexcept { return parameters_.findKey(name) != nullptr; }
 
-  /// Appends a parameter and sorts. Null or a name that is here already: nothing is appended, null.
-  MutableParameter* append(std::unique_ptr<MutableParameter> parameter);
+  /// Appends a new parameter of an effect and sorts. Null when the name is here already.
+  MutableParameter* append(MutableEffect& parent, Text name);
 
-  /// Renames a parameter; one that is not in this list too.
+  // The parameter must be in this list.
   void rename(MutableParameter& parameter, Text name);
-
-  /// Destroys a parameter of this list; ignores others.
   void destroy(MutableParameter& parameter) noexcept;
 
  private:

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <random>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -49,12 +49,12 @@ using KeyedItems = OwnedSequence<Item, Named, NameOf>;
 
 template <class Sequence>
 Item& append(Sequence& items, TextView name, std::vector<Text>* deaths = nullptr) {
-  return items.append(items.makeNode(std::make_unique<Item>(Text(name), deaths)));
+  return items.append(items.makeNode(Text(name), deaths));
 }
 
 template <class Sequence>
 Item& insert(Sequence& items, std::size_t position, TextView name) {
-  return items.insert(position, items.makeNode(std::make_unique<Item>(Text(name))));
+  return items.insert(position, items.makeNode(Text(name)));
 }
 
 template <class Sequence>
@@ -196,8 +196,63 @@ TEST(OwnedSequence, ATakenElementDiesWithItsHolder) {
 
 TEST(OwnedSequence, AnElementThatIsNotInsertedDies) {
   std::vector<Text> deaths;
-  { const auto node = Items::makeNode(std::make_unique<Item>(a, &deaths)); }
+  Items items;
+  { const auto node = items.makeNode(a, &deaths); }
   EXPECT_THAT(deaths, ElementsAre(a));
+}
+
+TEST(OwnedSequence, AnElementThatIsNotInsertedIsNotFound) {
+  KeyedItems items;
+  append(items, a);
+  const auto node = items.makeNode(b);
+  ASSERT_TRUE(node);
+  EXPECT_EQ(node->name(), b);
+  EXPECT_FALSE(items.contains(&*node));
+  EXPECT_EQ(items.next(&*node), nullptr);
+  EXPECT_EQ(items.findKey(b), nullptr);
+  EXPECT_FALSE(items.destroy(&*node));
+  EXPECT_THAT(namesOf(items), ElementsAre(a));
+}
+
+TEST(OwnedSequence, HoldsElementsOfSeveralClasses) {
+  struct Large : Item {
+    explicit Large(Text name) : Item(std::move(name)) {}
+    char more[1000] = {};
+  };
+  OwnedSequence<Item, Named, NameOf, Item, Large> items;
+  std::vector<const Item*> made;
+  for (int i = 0; i < 20; ++i) {
+    made.push_back(&items.append(items.makeNode<Large>(a)));
+    made.push_back(&items.append(items.makeNode<Item>(b)));
+  }
+  for (std::size_t i = 0; i < made.size(); ++i) EXPECT_EQ(items.position(made[i]), i);
+}
+
+TEST(OwnedSequence, StaysAsItWasWhenAnElementCannotBeMade) {
+  struct Unmakable : Item {
+    explicit Unmakable(bool makable) {
+      if (!makable) throw std::runtime_error("unmakable");
+    }
+  };
+  OwnedSequence<Unmakable, Named> items;
+  const Item& first = items.append(items.makeNode(true));
+  for (int i = 0; i < 20; ++i) EXPECT_THROW(items.makeNode(false), std::runtime_error);
+  const Item& second = items.append(items.makeNode(true));
+  EXPECT_EQ(items.size(), 2u);
+  EXPECT_EQ(items.next(&first), &second);
+}
+
+TEST(OwnedSequence, InsertsBehindSmallerAndEqualKeys) {
+  KeyedItems items;
+  const auto insertByKey = [&](const Text& name) { return &items.insertByKey(items.makeNode(name)); };
+  const Item* const second = insertByKey(b);
+  insertByKey(d);
+  insertByKey(a);
+  const Item* const third = insertByKey(b);
+  insertByKey(c);
+  EXPECT_THAT(namesOf(items), ElementsAre(a, b, b, c, d));
+  EXPECT_EQ(items.at(1), second);
+  EXPECT_EQ(items.at(2), third);
 }
 
 TEST(OwnedSequence, ClearsFromTheFirstToTheLast) {

@@ -6,133 +6,133 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <functional>
+#include <numeric>
 #include <random>
 #include <vector>
 
 namespace Tesk::KoStyle {
 namespace {
 
-struct Numbered : RankNode {
-  int number = 0;
-};
+using Node = RankTree::Node;
+using Nodes = std::vector<Node>;
 
-int numberOf(const RankNode& node) { return static_cast<const Numbered&>(node).number; }
+constexpr Node none = RankTree::none;
 
-std::vector<const RankNode*> walkForwards(const RankTree& tree) {
-  std::vector<const RankNode*> nodes;
-  for (const RankNode* node = tree.at(0); node; node = RankTree::next(*node)) nodes.push_back(node);
+RankTree treeWithRoomFor(std::size_t nodes) {
+  RankTree tree;
+  tree.reserve(nodes);
+  return tree;
+}
+
+void insert(RankTree& tree, std::size_t position, Node node) {
+  tree.insertBefore(tree.at(position), node);
+}
+
+Nodes walkForwards(const RankTree& tree) {
+  Nodes nodes;
+  for (Node node = tree.at(0); node != none; node = tree.next(node)) nodes.push_back(node);
   return nodes;
 }
 
-std::vector<const RankNode*> walkBackwards(const RankTree& tree) {
-  std::vector<const RankNode*> nodes;
+Nodes walkBackwards(const RankTree& tree) {
+  Nodes nodes;
   if (tree.size() == 0) return nodes;
-  const RankNode* node = tree.at(tree.size() - 1);
-  for (; node; node = RankTree::previous(*node)) nodes.push_back(node);
+  Node node = tree.at(tree.size() - 1);
+  for (; node != none; node = tree.previous(node)) nodes.push_back(node);
   return nodes;
 }
 
-const RankNode* rootOf(const RankTree& tree) {
-  const RankNode* node = tree.at(0);
-  while (node && node->parent) node = node->parent;
-  return node;
-}
-
-struct Shape {
-  std::size_t nodes = 0;
-  std::size_t depth = 0;
-};
-
-// Walks a tree by its links. Every node is expected to know its parent and its size, and neither side
-// to weigh more than three times the other.
-Shape measure(const RankNode* node, const RankNode* parent) {
-  if (!node) return {};
-  EXPECT_EQ(node->parent, parent);
-  const Shape left = measure(node->left, node);
-  const Shape right = measure(node->right, node);
-  const Shape whole{left.nodes + right.nodes + 1, std::max(left.depth, right.depth) + 1};
-  EXPECT_EQ(node->size, whole.nodes);
-  EXPECT_LE(left.nodes + 1, 3 * (right.nodes + 1));
-  EXPECT_LE(right.nodes + 1, 3 * (left.nodes + 1));
-  return whole;
-}
-
-Shape measure(const RankTree& tree) { return measure(rootOf(tree), nullptr); }
-
-void expectOrder(const RankTree& tree, const std::vector<Numbered*>& expected) {
+void expectOrder(const RankTree& tree, const Nodes& expected) {
   ASSERT_EQ(tree.size(), expected.size());
-  const std::vector<const RankNode*> nodes(expected.begin(), expected.end());
-  EXPECT_EQ(walkForwards(tree), nodes);
-  EXPECT_EQ(walkBackwards(tree), std::vector<const RankNode*>(nodes.rbegin(), nodes.rend()));
-  for (std::size_t i = 0; i < nodes.size(); ++i) {
-    EXPECT_EQ(tree.at(i), nodes[i]);
-    EXPECT_EQ(RankTree::position(*nodes[i]), i);
+  EXPECT_EQ(walkForwards(tree), expected);
+  EXPECT_EQ(walkBackwards(tree), Nodes(expected.rbegin(), expected.rend()));
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    EXPECT_EQ(tree.at(i), expected[i]);
+    EXPECT_EQ(tree.position(expected[i]), i);
+    EXPECT_TRUE(tree.contains(expected[i]));
   }
+}
+
+// The longest of the searches for every `stride`th position, in nodes looked at.
+std::size_t longestSearch(const RankTree& tree, std::size_t stride) {
+  std::size_t longest = 0;
+  for (std::size_t position = 0; position <= tree.size(); position += stride) {
+    std::size_t steps = 0;
+    const Node found = tree.partitionPoint([&](Node node) {
+      ++steps;
+      return tree.position(node) < position;
+    });
+    EXPECT_EQ(tree.position(found), position);
+    longest = std::max(longest, steps);
+  }
+  return longest;
+}
+
+void expectLogarithmicSearches(const RankTree& tree, std::size_t stride) {
+  const auto size = static_cast<double>(tree.size());
+  EXPECT_LE(static_cast<double>(longestSearch(tree, stride)), 2 * std::log2(size + 1));
 }
 
 TEST(RankTree, IsEmptyAtFirst) {
   const RankTree tree;
   EXPECT_EQ(tree.size(), 0u);
-  EXPECT_EQ(tree.at(0), nullptr);
-  EXPECT_EQ(tree.at(SIZE_MAX), nullptr);
-  EXPECT_EQ(tree.partitionPoint([](const RankNode&) { return true; }), 0u);
+  EXPECT_EQ(tree.at(0), none);
+  EXPECT_EQ(tree.at(SIZE_MAX), none);
+  EXPECT_EQ(tree.partitionPoint([](Node) { return true; }), none);
+  for (const Node node : {Node{0}, Node{7}, none}) EXPECT_FALSE(tree.contains(node));
 }
 
 TEST(RankTree, ASingleNodeHasNoNeighbours) {
-  RankTree tree;
-  Numbered node;
-  tree.insert(0, node);
-  EXPECT_EQ(tree.at(0), &node);
-  EXPECT_EQ(tree.at(1), nullptr);
-  EXPECT_EQ(RankTree::next(node), nullptr);
-  EXPECT_EQ(RankTree::previous(node), nullptr);
-  tree.erase(node);
+  RankTree tree = treeWithRoomFor(1);
+  tree.insertBefore(none, 0);
+  EXPECT_EQ(tree.at(0), 0u);
+  EXPECT_EQ(tree.at(1), none);
+  EXPECT_EQ(tree.next(0), none);
+  EXPECT_EQ(tree.previous(0), none);
+  EXPECT_TRUE(tree.contains(0));
+  EXPECT_FALSE(tree.contains(1));
+  tree.erase(0);
   EXPECT_EQ(tree.size(), 0u);
+  EXPECT_FALSE(tree.contains(0));
 }
 
-TEST(RankTree, InsertsPastTheEndAtTheEnd) {
-  RankTree tree;
-  Numbered a, b, c;
-  tree.insert(SIZE_MAX, a);
-  tree.insert(2, b);
-  tree.insert(SIZE_MAX, c);
-  expectOrder(tree, {&a, &b, &c});
+TEST(RankTree, InsertsBeforeANodeAndAtTheEnd) {
+  RankTree tree = treeWithRoomFor(5);
+  tree.insertBefore(none, 4);
+  tree.insertBefore(none, 2);
+  tree.insertBefore(2, 0);
+  tree.insertBefore(4, 1);
+  tree.insertBefore(0, 3);
+  expectOrder(tree, {1, 4, 3, 0, 2});
 }
 
 TEST(RankTree, AnErasedNodeCanBeInsertedAgain) {
-  RankTree tree;
-  Numbered a, b, c;
-  for (Numbered* node : {&a, &b, &c}) tree.insert(SIZE_MAX, *node);
-  tree.erase(b);
-  expectOrder(tree, {&a, &c});
-  tree.insert(0, b);
-  expectOrder(tree, {&b, &a, &c});
+  RankTree tree = treeWithRoomFor(3);
+  for (const Node node : {0u, 1u, 2u}) tree.insertBefore(none, node);
+  tree.erase(1);
+  EXPECT_FALSE(tree.contains(1));
+  expectOrder(tree, {0, 2});
+  insert(tree, 0, 1);
+  expectOrder(tree, {1, 0, 2});
 }
 
-TEST(RankTree, ForgetsItsNodes) {
-  RankTree tree;
-  Numbered a, b;
-  tree.insert(0, a);
-  tree.clear();
-  EXPECT_EQ(tree.size(), 0u);
-  tree.insert(0, b);
-  tree.insert(1, a);
-  expectOrder(tree, {&b, &a});
+TEST(RankTree, KeepsItsOrderWhenItGetsMoreRoom) {
+  RankTree tree = treeWithRoomFor(2);
+  tree.insertBefore(none, 1);
+  tree.insertBefore(none, 0);
+  tree.reserve(1000);
+  tree.insertBefore(0, 999);
+  expectOrder(tree, {1, 999, 0});
 }
 
 TEST(RankTree, FindsThePartitionPoint) {
-  std::deque<Numbered> nodes(1000);
-  RankTree tree;
-  for (int i = 0; i < 1000; ++i) {
-    nodes[static_cast<std::size_t>(i)].number = i;
-    tree.insert(SIZE_MAX, nodes[static_cast<std::size_t>(i)]);
-  }
-  for (int limit = 0; limit <= 1000; ++limit) {
-    EXPECT_EQ(tree.partitionPoint([&](const RankNode& node) { return numberOf(node) < limit; }),
-              static_cast<std::size_t>(limit));
-  }
+  RankTree tree = treeWithRoomFor(1000);
+  for (Node node = 0; node < 1000; ++node) tree.insertBefore(none, node);
+  for (Node limit = 0; limit < 1000; ++limit)
+    EXPECT_EQ(tree.partitionPoint([&](Node node) { return node < limit; }), limit);
+  EXPECT_EQ(tree.partitionPoint([](Node) { return true; }), none);
+  EXPECT_EQ(tree.position(none), 1000u);
 }
 
 TEST(RankTree, AgreesWithAVectorThroughRandomChanges) {
@@ -141,54 +141,49 @@ TEST(RankTree, AgreesWithAVectorThroughRandomChanges) {
     const auto below = [&](std::size_t n) {
       return std::uniform_int_distribution<std::size_t>(0, n - 1)(random);
     };
-    std::deque<Numbered> storage(600);
-    std::vector<Numbered*> unused;
-    for (Numbered& node : storage) unused.push_back(&node);
-    std::vector<Numbered*> reference;
-    RankTree tree;
+    Nodes unused(600);
+    std::iota(unused.begin(), unused.end(), 0);
+    Nodes reference;
+    RankTree tree = treeWithRoomFor(unused.size());
     for (int step = 0; step < 6000; ++step) {
       const bool growing = (step / 1000) % 2 == 0;
-      const bool insert = reference.empty() || (!unused.empty() && below(10) < (growing ? 8u : 2u));
-      if (insert) {
-        Numbered* const node = unused.back();
+      if (reference.empty() || (!unused.empty() && below(10) < (growing ? 8u : 2u))) {
+        const Node node = unused.back();
         unused.pop_back();
         const std::size_t position = below(reference.size() + 1);
         reference.insert(reference.begin() + static_cast<std::ptrdiff_t>(position), node);
-        tree.insert(position, *node);
+        insert(tree, position, node);
       } else {
         const std::size_t position = below(reference.size());
-        Numbered* const node = reference[position];
+        const Node node = reference[position];
         reference.erase(reference.begin() + static_cast<std::ptrdiff_t>(position));
         unused.push_back(node);
-        tree.erase(*node);
+        tree.erase(node);
       }
       ASSERT_EQ(tree.size(), reference.size());
       if (step % 97 == 0) {
         expectOrder(tree, reference);
-        measure(tree);
+        expectLogarithmicSearches(tree, 1);
       }
     }
     expectOrder(tree, reference);
-    measure(tree);
+    for (const Node node : unused) EXPECT_FALSE(tree.contains(node));
   }
 }
 
 class RankTreeDepth : public ::testing::TestWithParam<std::function<std::size_t(std::size_t)>> {};
 
 TEST_P(RankTreeDepth, StaysLogarithmic) {
-  constexpr std::size_t count = 100000;
-  std::vector<Numbered> nodes(count);
-  RankTree tree;
-  for (std::size_t i = 0; i < count; ++i) tree.insert(GetParam()(i), nodes[i]);
-  Shape shape = measure(tree);
-  EXPECT_EQ(shape.nodes, count);
-  EXPECT_LT(static_cast<double>(shape.depth), 2 * std::log2(count));
+  constexpr Node count = 100000;
+  RankTree tree = treeWithRoomFor(count);
+  for (Node node = 0; node < count; ++node) insert(tree, GetParam()(node), node);
+  EXPECT_EQ(tree.size(), count);
+  expectLogarithmicSearches(tree, 97);
 
   // Erasing from one end must not let the other degenerate.
-  for (std::size_t i = 0; i < count - 1000; ++i) tree.erase(*tree.at(0));
-  shape = measure(tree);
-  EXPECT_EQ(shape.nodes, 1000u);
-  EXPECT_LT(static_cast<double>(shape.depth), 2 * std::log2(1000));
+  for (Node i = 0; i < count - 1000; ++i) tree.erase(tree.at(0));
+  EXPECT_EQ(tree.size(), 1000u);
+  expectLogarithmicSearches(tree, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Front, RankTreeDepth, ::testing::Values([](std::size_t) { return 0; }));
@@ -201,18 +196,17 @@ INSTANTIATE_TEST_SUITE_P(BothEndsInTurn, RankTreeDepth,
                          ::testing::Values([](std::size_t i) { return i % 2 ? i : 0; }));
 
 TEST(RankTree, TakesAHundredThousandNodesOutInAnyOrder) {
-  std::vector<Numbered> nodes(100000);
-  RankTree tree;
-  for (Numbered& node : nodes) tree.insert(SIZE_MAX, node);
-  std::vector<Numbered*> order;
-  for (Numbered& node : nodes) order.push_back(&node);
-  std::shuffle(order.begin(), order.end(), std::mt19937(11));
-  for (std::size_t i = 0; i < order.size(); ++i) {
-    tree.erase(*order[i]);
-    if (i % 20000 == 0) measure(tree);
+  Nodes nodes(100000);
+  std::iota(nodes.begin(), nodes.end(), 0);
+  RankTree tree = treeWithRoomFor(nodes.size());
+  for (const Node node : nodes) tree.insertBefore(none, node);
+  std::shuffle(nodes.begin(), nodes.end(), std::mt19937(11));
+  for (std::size_t i = 0; i < nodes.size(); ++i) {
+    tree.erase(nodes[i]);
+    if (i % 20000 == 0) expectLogarithmicSearches(tree, 97);
   }
   EXPECT_EQ(tree.size(), 0u);
-  EXPECT_EQ(tree.at(0), nullptr);
+  EXPECT_EQ(tree.at(0), none);
 }
 
 }  // namespace

@@ -22,10 +22,11 @@ class StyleReaderTest : public testing::Test {
     file = platform::openForReading(platform::nativePath(test::pathText(directory / "file")));
     ASSERT_TRUE(file);
   }
-  auto read(StyleKind kind) { return reader.read(kind, nullptr, file.get(), outcome); }
+  auto read(StyleKind kind) { return reader.read(kind, nullptr, styles, file.get(), outcome); }
 
   test::TemporaryDirectory directory;
   platform::File file;
+  StyleSequence styles;
   StyleReader reader;
   StyleReadOutcome outcome;
 };
@@ -33,7 +34,7 @@ class StyleReaderTest : public testing::Test {
 TEST_F(StyleReaderTest, OtherKindsGiveNoStyle) {
   for (const unsigned kind : {unsigned{KOSTYLE_KIND_MUTABLE}, unsigned{KOSTYLE_KIND_NONE}, ~0u}) {
     open(sample);
-    EXPECT_EQ(read(StyleKind{kind}), nullptr) << kind;
+    EXPECT_FALSE(read(StyleKind{kind})) << kind;
     EXPECT_EQ(outcome.error, unsigned{KOSTYLE_ERROR_NO_STYLE_FOR_KIND});
     EXPECT_TRUE(outcome.jsonPath.empty());
   }
@@ -51,7 +52,7 @@ TEST_F(StyleReaderTest, SyntaxIsCheckedBeforeTheKind) {
 
 TEST_F(StyleReaderTest, LeavesTheFileOpen) {
   open(sample);
-  EXPECT_NE(read(StyleKind::user), nullptr);
+  EXPECT_TRUE(read(StyleKind::user));
   ASSERT_EQ(std::fseek(file.get(), 0, SEEK_SET), 0);
   EXPECT_EQ(std::fgetc(file.get()), '{');
 }
@@ -59,21 +60,21 @@ TEST_F(StyleReaderTest, LeavesTheFileOpen) {
 TEST_F(StyleReaderTest, ReadsFromWhereTheFileStands) {
   open("skipped" + sample);
   ASSERT_EQ(std::fseek(file.get(), 7, SEEK_SET), 0);
-  EXPECT_NE(read(StyleKind::user), nullptr);
+  EXPECT_TRUE(read(StyleKind::user));
 }
 
 // What one file leaves behind in the reader's memory shows in no other.
 TEST_F(StyleReaderTest, ReadsOneFileAfterTheOther) {
   open("{\"id\":\"" + std::string(1 << 20, 'x') + "\", \"name\":\"n\"}");
-  EXPECT_EQ(read(StyleKind::user), nullptr);
+  EXPECT_FALSE(read(StyleKind::user));
   EXPECT_EQ(outcome.error, unsigned{KOSTYLE_ERROR_NO_EFFECT});
   open("[1,");
-  EXPECT_EQ(read(StyleKind::user), nullptr);
+  EXPECT_FALSE(read(StyleKind::user));
   EXPECT_EQ(outcome.error, unsigned{KOSTYLE_ERROR_JSON_SYNTAX});
   for (int i = 0; i < 3; ++i) {
     open(test::documentWith(R"("filter":{"genres":["a"],"languages":[1]})"));
     const auto style = read(StyleKind::user);
-    ASSERT_NE(style, nullptr);
+    ASSERT_TRUE(style);
     EXPECT_EQ(style->numGenre(), 1U);
     EXPECT_EQ(style->numLanguage(), 1U);
     open(sample);

@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
 #include "model/style_builder.h"
@@ -68,12 +67,10 @@ TEST_F(Serializer, ChainPassesOverEffectsWithoutId) {
 
 TEST_F(Serializer, ParametersWithoutNameAndEmptyTextsAreDropped) {
   auto& pool = holder.GetAllocator();
-  style.chain(EffectKind::audio)
-      .begin()
-      ->parameters()
-      .append(std::make_unique<MutableParameter>(*style.chain(EffectKind::audio).begin(), Text()));
+  MutableEffect& effect = *style.chain(EffectKind::audio).begin();
+  effect.parameters().append(effect, Text());
   EXPECT_EQ(writeParameters(&*style.audioEffects().begin(), object, pool), std::uint32_t{KOSTYLE_OK});
-  Attributes<SortedSet<Text>> attributes;
+  Attributes<SortedTexts> attributes;
   attributes[Attribute::color].insert(TextView());
   EXPECT_EQ(writeFilter(attributes, object, pool), std::uint32_t{KOSTYLE_OK});
   EXPECT_TRUE(object.ObjectEmpty());

@@ -1,0 +1,119 @@
+// SlotMap: elements in numbered slots. An element never moves; a slot that is empty again is the next
+// to be filled.
+//
+// Slots lie in slabs, each half as large as those before it together. So elements lie close to each
+// other, few slabs hold many of them, and the slot of an address is found by arithmetic: the address is
+// compared and never followed.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <new>
+#include <utility>
+#include <vector>
+
+#include "platform/poison.h"
+
+namespace Tesk::KoStyle {
+
+using SlotNumber = std::uint32_t;
+inline constexpr SlotNumber noSlot = UINT32_MAX;
+
+/// `Classes` are those that elements are of; `Element` itself when none is named.
+template <class Element, class... Classes>
+class SlotMap {
+ public:
+  SlotMap() = default;
+  SlotMap(const SlotMap&) = delete;
+  SlotMap& operator=(const SlotMap&) = delete;
+
+  /// Elements must be gone by then.
+  ~SlotMap() {
+    for (const Slab& slab : slabs_) platform::unpoison(slab.memory.get(), slab.size * sizeof(Storage));
+  }
+
+  /// Slots have numbers less than this.
+  std::size_t capacity() const noexcept { return entries_.size(); }
+
+  /// The element of a filled slot.
+  Element& operator[](SlotNumber slot) const noexcept { return *entries_[slot].element; }
+
+  /// Makes an element in an empty slot.
+  template <class Class, class... Arguments>
+  SlotNumber emplace(Arguments&&... arguments) {
+    static_assert(sizeof(Class) <= sizeof(Storage) && alignof(Class) <= alignof(Storage));
+    if (firstEmpty_ == noSlot) addSlab();
+    const SlotNumber slot = firstEmpty_;
+    Storage* const memory = storageOf(slot);
+    platform::unpoison(memory, sizeof(Storage));
+    Element* const made = new (memory) Class(std::forward<Arguments>(arguments)...);
+    firstEmpty_ = entries_[slot].nextEmpty;
+    entries_[slot].element = made;
+    return slot;
+  }
+
+  /// Destroys the element of a filled slot.
+  void erase(SlotNumber slot) noexcept {
+    entries_[slot].element->~Element();
+    entries_[slot].nextEmpty = firstEmpty_;
+    firstEmpty_ = slot;
+    platform::poison(storageOf(slot), sizeof(Storage));
+  }
+
+  /// The slot in whose memory an address lies, filled or empty; noSlot when there is none.
+  SlotNumber slotAt(const void* address) const noexcept {
+    for (auto slab = slabs_.rbegin(); slab != slabs_.rend(); ++slab) {
+      const auto offset = reinterpret_cast<std::uintptr_t>(address) -
+                          reinterpret_cast<std::uintptr_t>(slab->memory.get());
+      const std::uintptr_t place = offset / sizeof(Storage);
+      if (place < slab->size) return slab->first + static_cast<SlotNumber>(place);
+    }
+    return noSlot;
+  }
+
+ private:
+  struct alignas(Element) alignas(Classes...) Storage {
+    unsigned char bytes[std::max({sizeof(Element), sizeof(Classes)...})];
+  };
+
+  struct Slab {
+    std::unique_ptr<Storage[]> memory;
+    SlotNumber first;
+    SlotNumber size;
+  };
+  union Entry {
+    Element* element = nullptr;
+    SlotNumber nextEmpty;
+  };
+
+  void addSlab() {
+    constexpr std::size_t smallest = 8;
+    const std::size_t first = entries_.size();
+    const std::size_t size = std::max(smallest, first / 2);
+    if (size > noSlot - first) throw std::bad_alloc();
+    std::unique_ptr<Storage[]> memory(new Storage[size]);
+    slabs_.reserve(slabs_.size() + 1);
+    entries_.resize(first + size);
+    platform::poison(memory.get(), size * sizeof(Storage));
+    slabs_.push_back(
+        {std::move(memory), static_cast<SlotNumber>(first), static_cast<SlotNumber>(size)});
+    for (std::size_t slot = first; slot < first + size; ++slot)
+      entries_[slot].nextEmpty = static_cast<SlotNumber>(slot + 1);
+    entries_.back().nextEmpty = noSlot;
+    firstEmpty_ = static_cast<SlotNumber>(first);
+  }
+
+  Storage* storageOf(SlotNumber slot) const noexcept {
+    auto slab = slabs_.rbegin();
+    while (slot < slab->first) ++slab;
+    return slab->memory.get() + (slot - slab->first);
+  }
+
+  std::vector<Slab> slabs_;
+  std::vector<Entry> entries_;
+  SlotNumber firstEmpty_ = noSlot;
+};
+
+}  // namespace Tesk::KoStyle

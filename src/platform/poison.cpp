@@ -1,0 +1,25 @@
+#include "platform/poison.h"
+
+#if defined(__SANITIZE_ADDRESS__)
+
+#include <sanitizer/asan_interface.h>
+
+namespace Tesk::KoStyle::platform {
+
+void poison(const void* memory, std::size_t size) noexcept { ASAN_POISON_MEMORY_REGION(memory, size); }
+void unpoison(const void* memory, std::size_t size) noexcept {
+  ASAN_UNPOISON_MEMORY_REGION(memory, size);
+}
+
+}  // namespace Tesk::KoStyle::platform
+
+#else
+
+namespace Tesk::KoStyle::platform {
+
+void poison(const void*, std::size_t) noexcept {}
+void unpoison(const void*, std::size_t) noexcept {}
+
+}  // namespace Tesk::KoStyle::platform
+
+#endif
