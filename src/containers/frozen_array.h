@@ -1,56 +1,60 @@
-// FrozenArray: elements that are made once, in one block of exactly their size, and never move.
+// FrozenArray: elements that are made once, one by one, in memory of exactly their size, and never
+// move. Several arrays may lie in one block, which is given back without a look at them.
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <new>
+#include <type_traits>
 #include <utility>
 
 #include "containers/frozen_range.h"
 
 namespace Tesk::KoStyle {
 
-template <class Element>
-class FrozenArray {
+/// Takes the memory of a block piece by piece. What needs more alignment goes first.
+class FrozenBlock {
  public:
-  FrozenArray() = default;
+  FrozenBlock() = default;
+  explicit FrozenBlock(std::size_t bytes) : memory_(new std::byte[bytes]), end_(memory_.get()) {}
 
-  /// Takes the memory of `capacity` elements, which emplace() then makes one by one.
-  explicit FrozenArray(std::size_t capacity)
-      : range_(
-            capacity == 0 ? nullptr : static_cast<Element*>(::operator new(capacity * sizeof(Element))),
-            0) {}
-
-  FrozenArray(FrozenArray&& other) noexcept : range_(std::exchange(other.range_, {})) {}
-  FrozenArray& operator=(FrozenArray other) noexcept {
-    std::swap(range_, other.range_);
-    return *this;
+  template <class Element>
+  Element* take(std::size_t count) noexcept {
+    static_assert(std::is_trivially_destructible_v<Element>);
+    auto* const first = reinterpret_cast<Element*>(end_);
+    end_ += count * sizeof(Element);
+    return first;
   }
 
-  ~FrozenArray() {
-    for (Element& element : range_) element.~Element();
-    ::operator delete(range_.begin());
-  }
-
-  /// Makes the next element; there must be room for it.
-  template <class... Arguments>
-  Element& emplace(Arguments&&... arguments) {
-    auto* const made = new (range_.end()) Element(std::forward<Arguments>(arguments)...);
-    range_ = {range_.begin(), range_.size() + 1};
-    return *made;
-  }
-
-  const FrozenRange<Element>& range() const noexcept { return range_; }
-  std::size_t size() const noexcept { return range_.size(); }
-  Element* begin() const noexcept { return range_.begin(); }
-  Element* end() const noexcept { return range_.end(); }
-  Element* at(std::size_t position) const noexcept { return range_.at(position); }
-  template <class Interface>
-  bool contains(const Interface* address) const noexcept {
-    return range_.contains(address);
+  void swap(FrozenBlock& other) noexcept {
+    memory_.swap(other.memory_);
+    std::swap(end_, other.end_);
   }
 
  private:
-  FrozenRange<Element> range_;
+  std::unique_ptr<std::byte[]> memory_;
+  std::byte* end_ = nullptr;
+};
+
+/// Makes elements in memory that is large enough.
+template <class Element>
+class FrozenArray {
+ public:
+  explicit FrozenArray(Element* memory) noexcept : first_(memory), end_(memory) {}
+
+  template <class... Arguments>
+  Element& emplace(Arguments&&... arguments) noexcept {
+    return *new (end_++) Element(std::forward<Arguments>(arguments)...);
+  }
+
+  Element* end() const noexcept { return end_; }
+  FrozenRange<Element> range() const noexcept {
+    return {first_, static_cast<std::size_t>(end_ - first_)};
+  }
+
+ private:
+  Element* first_;
+  Element* end_;
 };
 
 }  // namespace Tesk::KoStyle

@@ -1,71 +1,126 @@
-// FrozenTexts: texts that are copied once into one block of exactly their size, in the order given.
+// Frozen texts: copied once into a block of exactly their size, each with U+0000 behind it. Single ones
+// and lists may lie in one block, which goes with the last of them.
 #pragma once
 
 #include <algorithm>
 #include <cstddef>
-#include <memory>
 #include <new>
 #include <utility>
 
-#include "containers/text_block.h"
+#include "containers/shared_block.h"
 #include "platform/text.h"
 
 namespace Tesk::KoStyle {
 
+/// The units that a text takes in a block.
+inline std::size_t unitsOf(TextView text) noexcept { return text.size() + 1; }
+
+/// Copies a text to `end` and moves `end` behind it. Gives the copy.
+inline TextView appendText(Char*& end, TextView text) noexcept {
+  Char* const copy = end;
+  text.copy(copy, text.size());
+  copy[text.size()] = 0;
+  end += unitsOf(text);
+  return {copy, text.size()};
+}
+
+/// A single text.
+class FrozenText {
+ public:
+  FrozenText() = default;
+
+  /// A copy in a block of its own.
+  explicit FrozenText(TextView text);
+
+  const Char* c_str() const noexcept { return text_.data(); }
+  operator TextView() const noexcept { return text_; }
+  bool empty() const noexcept { return text_.empty(); }
+
+  /// Ends the text before a unit of it, without moving it.
+  void truncate(std::size_t size) noexcept { text_ = text_.substr(0, size); }
+
+  friend bool operator==(const FrozenText& a, const FrozenText& b) noexcept {
+    return a.text_ == b.text_;
+  }
+
+  void swap(FrozenText& other) noexcept { std::swap(*this, other); }
+
+ private:
+  friend class FrozenTextBlock;
+  FrozenText(SharedBlock block, TextView text) noexcept : block_(std::move(block)), text_(text) {}
+
+  SharedBlock block_;
+  TextView text_ = KOSTYLE_TEXT("");
+};
+
+/// A list of texts, in the order given.
 class FrozenTexts {
  public:
   FrozenTexts() = default;
 
-  /// Copies the texts of a range.
+  /// Copies of the texts of a range, in a block of their own.
   template <class Range>
-  explicit FrozenTexts(const Range& texts) : views_(allocate(texts)) {
-    auto* units = reinterpret_cast<Char*>(views_.get() + texts.size());
-    for (const auto& text : texts) new (&views_[size_++]) TextView(appendText(units, text));
-  }
-
-  FrozenTexts(FrozenTexts&& other) noexcept { swap(other); }
-  FrozenTexts& operator=(FrozenTexts other) noexcept {
-    swap(other);
-    return *this;
-  }
+  explicit FrozenTexts(const Range& texts);
 
   std::size_t size() const noexcept { return size_; }
   bool empty() const noexcept { return size_ == 0; }
-  const TextView* begin() const noexcept { return views_.get(); }
-  const TextView* end() const noexcept { return views_.get() + size_; }
+  const TextView* begin() const noexcept { return texts_; }
+  const TextView* end() const noexcept { return texts_ + size_; }
 
-  /// The text at a position, with U+0000 behind it; null at or past the end.
+  /// The text at a position; null at or past the end.
   const TextView* at(std::size_t position) const noexcept {
-    return position < size_ ? &views_[position] : nullptr;
+    return position < size_ ? &texts_[position] : nullptr;
   }
 
   friend bool operator==(const FrozenTexts& a, const FrozenTexts& b) noexcept {
     return std::equal(a.begin(), a.end(), b.begin(), b.end());
   }
 
-  void swap(FrozenTexts& other) noexcept {
-    views_.swap(other.views_);
-    std::swap(size_, other.size_);
+  void swap(FrozenTexts& other) noexcept { std::swap(*this, other); }
+
+ private:
+  friend class FrozenTextBlock;
+  FrozenTexts(SharedBlock block, const TextView* texts, std::size_t size) noexcept
+      : block_(std::move(block)), texts_(texts), size_(size) {}
+
+  SharedBlock block_;
+  const TextView* texts_ = nullptr;
+  std::size_t size_ = 0;
+};
+
+/// Makes texts and lists in one block.
+class FrozenTextBlock {
+ public:
+  /// Room for so many texts in lists, and for the units of these and of single texts.
+  FrozenTextBlock(std::size_t listed, std::size_t units)
+      : block_(listed * sizeof(TextView) + units * sizeof(Char)),
+        list_(static_cast<TextView*>(block_.memory())),
+        end_(reinterpret_cast<Char*>(list_ + listed)) {}
+
+  FrozenText add(TextView text) noexcept { return {block_, appendText(end_, text)}; }
+
+  template <class Range>
+  FrozenTexts addList(const Range& texts) noexcept {
+    const TextView* const first = list_;
+    for (const auto& text : texts) new (list_++) TextView(appendText(end_, text));
+    return {block_, first, static_cast<std::size_t>(list_ - first)};
   }
 
  private:
-  struct Release {
-    void operator()(TextView* block) const noexcept { ::operator delete(block); }
-  };
-  using Block = std::unique_ptr<TextView[], Release>;
-
-  // Room for the views, and behind them for the units.
-  template <class Range>
-  static Block allocate(const Range& texts) {
-    if (texts.empty()) return nullptr;
-    std::size_t units = 0;
-    for (const auto& text : texts) units += unitsOf(text);
-    const std::size_t bytes = texts.size() * sizeof(TextView) + units * sizeof(Char);
-    return Block(static_cast<TextView*>(::operator new(bytes)));
-  }
-
-  Block views_;
-  std::size_t size_ = 0;
+  SharedBlock block_;
+  TextView* list_;
+  Char* end_;
 };
+
+inline FrozenText::FrozenText(TextView text)
+    : FrozenText(FrozenTextBlock(0, unitsOf(text)).add(text)) {}
+
+template <class Range>
+FrozenTexts::FrozenTexts(const Range& texts) {
+  if (texts.empty()) return;
+  std::size_t units = 0;
+  for (const auto& text : texts) units += unitsOf(text);
+  *this = FrozenTextBlock(texts.size(), units).addList(texts);
+}
 
 }  // namespace Tesk::KoStyle

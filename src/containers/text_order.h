@@ -16,9 +16,12 @@ inline constexpr std::size_t unitsOfFront = sizeof(std::uint64_t) / sizeof(Char)
 /// The first units of a text as one number, which sorts as they do. It decides most comparisons without
 /// a look at the text.
 inline std::uint64_t frontOf(TextView text) noexcept {
+  const auto unit = [text](std::size_t i) {
+    return std::uint64_t{static_cast<std::uint16_t>(text[i])};
+  };
+  if (text.size() >= unitsOfFront) return unit(0) << 48 | unit(1) << 32 | unit(2) << 16 | unit(3);
   std::uint64_t front = 0;
-  for (std::size_t i = 0; i < unitsOfFront; ++i)
-    front = front << 16 | (i < text.size() ? static_cast<std::uint16_t>(text[i]) : 0U);
+  for (std::size_t i = 0; i < text.size(); ++i) front |= unit(i) << (48 - 16 * i);
   return front;
 }
 

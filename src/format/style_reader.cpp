@@ -53,7 +53,7 @@ void readArray(const Value& filter, TextView key, Add add) {
 }  // namespace
 
 StyleSequence::NodeHandle StyleReader::read(StyleKind kind, StyleOwner* owner, StyleSequence& styles,
-                                            std::FILE* file, StyleReadOutcome& outcome) {
+                                            TextView path, std::FILE* file, StyleReadOutcome& outcome) {
   if (const rapidjson::ParseResult result = parser_.parse(file); result.IsError()) {
     outcome.error = KOSTYLE_ERROR_JSON_SYNTAX;
     outcome.parseError = static_cast<std::uint32_t>(result.Code());
@@ -65,11 +65,11 @@ StyleSequence::NodeHandle StyleReader::read(StyleKind kind, StyleOwner* owner, S
     outcome.error = KOSTYLE_ERROR_NO_STYLE_FOR_KIND;
     return {};
   }
-  if (!readDocument(*style, outcome)) style = {};
+  if (!readDocument(*style, path, outcome)) style = {};
   return style;
 }
 
-bool StyleReader::readDocument(Style& style, StyleReadOutcome& outcome) {
+bool StyleReader::readDocument(Style& style, TextView path, StyleReadOutcome& outcome) {
   const Value& root = parser_.document();
   if (!root.IsObject()) return refuse(outcome, KOSTYLE_ERROR_WRONG_TYPE, rootPath);
   TextView id;
@@ -77,16 +77,16 @@ bool StyleReader::readDocument(Style& style, StyleReadOutcome& outcome) {
   if (!readRequiredText(root, key::id, id, outcome)) return false;
   if (!readRequiredText(root, key::name, name, outcome)) return false;
   builder_.clear();
+  builder_.setId(id);
+  builder_.setPath(path);
   builder_.setName(name);
   readChain(EffectKind::audio);
   readChain(EffectKind::midi);
   if (!builder_.hasEffects()) return refuse(outcome, KOSTYLE_ERROR_NO_EFFECT, rootPath);
   const Value* const vendor = findMember(root, key::vendor);
-  if (vendor && vendor->IsString()) style.assignVendor(Text(view(*vendor)));
+  if (vendor && vendor->IsString()) builder_.setVendor(view(*vendor));
   readFilter();
-  style.assignId(Text(id));
-  StoredContent content = builder_.freeze(style);
-  style.exchangeContent(content);
+  style.assign(builder_.freeze(style));
   return true;
 }
 

@@ -13,14 +13,14 @@ namespace Tesk::KoStyle {
 
 class StyleReader {
  public:
-  /// Reads an open file into a new style of the given kind, which is not in the set's list yet, filling
-  /// a cleared outcome. No style when the file is refused, with the first failing check in `outcome`.
-  /// Does not close the file.
+  /// Reads an open file into a new style of the given kind, which is not in the list `styles` yet,
+  /// filling a cleared outcome. No style when the file is refused, with the first failing check in
+  /// `outcome`. Does not close the file.
   StyleSequence::NodeHandle read(StyleKind kind, StyleOwner* owner, StyleSequence& styles,
-                                 std::FILE* file, StyleReadOutcome& outcome);
+                                 TextView path, std::FILE* file, StyleReadOutcome& outcome);
 
  private:
-  bool readDocument(Style& style, StyleReadOutcome& outcome);
+  bool readDocument(Style& style, TextView path, StyleReadOutcome& outcome);
   void readChain(EffectKind kind);
   void readParameters(const json::Value& source);
   void readFilter();

@@ -155,8 +155,8 @@ std::uint32_t writeParameters(const EffectType* effect, Value& target, Pool& poo
 
 template std::uint32_t writeFilter(const Attributes<FrozenTexts>&, Value&, Pool&);
 template std::uint32_t writeFilter(const Attributes<SortedTexts>&, Value&, Pool&);
-template std::uint32_t writeEffectChain(const FrozenArray<AudioEffect>&, Value&, Pool&);
-template std::uint32_t writeEffectChain(const FrozenArray<MidiEffect>&, Value&, Pool&);
+template std::uint32_t writeEffectChain(const FrozenRange<AudioEffect>&, Value&, Pool&);
+template std::uint32_t writeEffectChain(const FrozenRange<MidiEffect>&, Value&, Pool&);
 template std::uint32_t writeEffectChain(const MutableChain&, Value&, Pool&);
 template std::uint32_t writeParameters(const Effect*, Value&, Pool&);
 template std::uint32_t writeParameters(const MutableEffect*, Value&, Pool&);

@@ -21,7 +21,7 @@ bool PropertyEditor::addColor(const Char* color) {
 // Writes in place and always indented, whatever the argument.
 bool PropertyEditor::save(const bool&) {
   if (!isStyleName(name_)) return false;
-  StyleProperties properties{name_, FrozenTexts(subGenres_), FrozenTexts(colors_)};
+  StyleProperties properties{FrozenText(name_), FrozenTexts(subGenres_), FrozenTexts(colors_)};
   const platform::NativePath path = platform::nativePath(style_.path());
   style_.exchangeProperties(properties);
   bool written = false;

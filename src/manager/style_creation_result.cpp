@@ -6,8 +6,8 @@
 
 namespace Tesk::KoStyle {
 
-StyleCreationResult::StyleCreationResult(CreationResults& list, Text filePath, Text id, StyleKind kind,
-                                         StyleReadOutcome outcome) noexcept
+StyleCreationResult::StyleCreationResult(CreationResults& list, FrozenText filePath, FrozenText id,
+                                         StyleKind kind, StyleReadOutcome outcome) noexcept
     : list_(&list),
       filePath_(std::move(filePath)),
       id_(std::move(id)),

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "containers/frozen_texts.h"
 #include "format/style_read_outcome.h"
 #include "interfaces/interfaces.h"
 #include "model/style_base.h"
@@ -19,7 +20,7 @@ class StyleCreationResult final : public IStyleCreationResult {
  public:
   /// `list` is the one that the record is for. `id` is the style's identifier; empty when the file gave
   /// no style.
-  StyleCreationResult(CreationResults& list, Text filePath, Text id, StyleKind kind,
+  StyleCreationResult(CreationResults& list, FrozenText filePath, FrozenText id, StyleKind kind,
                       StyleReadOutcome outcome) noexcept;
 
   IStyleCreationResult* next() const override { return neighbour(1); }
@@ -36,8 +37,8 @@ class StyleCreationResult final : public IStyleCreationResult {
   StyleCreationResult* neighbour(std::ptrdiff_t step) const;
 
   CreationResults* list_;
-  Text filePath_;
-  Text id_;
+  FrozenText filePath_;  // these two lie beside the style's own where there is one
+  FrozenText id_;
   StyleKind kind_;
   StyleReadOutcome outcome_;
 };

@@ -51,21 +51,20 @@ bool StyleLoader::loadStyleFile(const Text& path) {
   if (!file) return false;
   static_cast<void>(std::setvbuf(file.get(), fileBuffer_.get(), _IOFBF, fileBufferSize));
   StyleReadOutcome outcome;
-  auto style = reader_.read(set_.kind, &manager_, set_.styles, file.get(), outcome);
+  auto style = reader_.read(set_.kind, &manager_, set_.styles, path, file.get(), outcome);
   file.reset();
 
-  Text id = style ? Text(style->id()) : Text();
+  FrozenText keptPath = style ? style->wholePath() : FrozenText(path);
+  FrozenText id = style ? style->wholeId() : FrozenText();
   if (style && manager_.isStyleIdInUse(id.c_str())) {
     outcome = StyleReadOutcome();
     outcome.error = KOSTYLE_ERROR_DUPLICATE_ID;
     style = {};
   }
-  StyleCreationResult result(set_.creationResults, path, std::move(id), set_.kind, std::move(outcome));
   reserveOneMore(set_.creationResults);
-  if (style) {
-    style->assignPath(path);
-    set_.styles.append(std::move(style));
-  }
+  StyleCreationResult result(set_.creationResults, std::move(keptPath), std::move(id), set_.kind,
+                             std::move(outcome));
+  if (style) set_.styles.append(std::move(style));
   set_.creationResults.push_back(std::move(result));
   return true;
 }

@@ -79,13 +79,10 @@ IUserStyle* saveNewStyle(StyleManager& manager, MutableStyle& style, bool pretty
   if (!ensureDirectory(manager.userStyleDirPath()))
     return fail(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
 
-  FreshName name = chooseStyleName(manager);
+  const FreshName name = chooseStyleName(manager);
   const TargetFile target(name.path);
   auto saved = manager.makeUserStyle();
-  StoredContent content = copyFromMutableStyle(style, *saved);
-  saved->exchangeContent(content);
-  saved->assignId(std::move(name.uuid));
-  saved->assignPath(std::move(name.path));
+  saved->assign(copyFromMutableStyle(style, *saved, name.uuid, name.path));
   const StyleDocument document(style, saved->wholeId());
 
   error = writeNewFile(target, document, pretty);
@@ -119,8 +116,6 @@ IUserStyle* overwriteStyle(StyleManager& manager, const Char* targetID, MutableS
     return fail(KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE);
   }
   temporary.renameTo(target);
-  // Identifier and path keep their values and so stay where they are.
-  user->endIdAtNull();
   user->exchangeContent(content);
   manager.destroy(style);
   return user;

@@ -22,6 +22,10 @@ class MutableStyle final : public StyleWith<MutableContent>, public IMutableStyl
  public:
   explicit MutableStyle(StyleOwner* owner) : StyleWith(owner, StyleKind::mutableStyle) {}
 
+  // It has neither; a saved one gets them.
+  const Char* id() const override { return TextView(KOSTYLE_TEXT("")).data(); }
+  const Char* path() const override { return TextView(KOSTYLE_TEXT("")).data(); }
+
   void destroy() override;
   IMutableAudioEffect* audioEffect(const std::size_t& index) const override;
   IMutableMidiEffect* midiEffect(const std::size_t& index) const override;

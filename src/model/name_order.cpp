@@ -6,7 +6,7 @@
 namespace Tesk::KoStyle {
 namespace {
 
-using Keys = std::vector<NameKey>::iterator;
+using Keys = NameKeys::iterator;
 
 // Keys whose names are equal up to a depth.
 struct Run {
@@ -18,12 +18,16 @@ struct Run {
 TextView nameOf(const NameKey& key) noexcept { return key.item->name; }
 
 bool nameBefore(const NameKey& a, const NameKey& b) noexcept {
-  return a.front != b.front ? a.front < b.front : nameOf(a) < nameOf(b);
+  return a.front != b.front ? a.front < b.front : compareTexts(nameOf(a), nameOf(b)) < 0;
 }
+
+bool isEarlier(const NameKey& a, const NameKey& b) noexcept { return std::less<>()(a.item, b.item); }
 
 bool frontBefore(const NameKey& a, const NameKey& b) noexcept { return a.front < b.front; }
 
-bool haveOneName(const NameKey& a, const NameKey& b) noexcept { return nameOf(a) == nameOf(b); }
+bool haveOneName(const NameKey& a, const NameKey& b) noexcept {
+  return a.front == b.front && nameOf(a) == nameOf(b);
+}
 
 // Whether a name of the run goes on at its depth. If so, the fronts become what stands there.
 bool moveFronts(Keys first, Keys end, std::size_t depth) noexcept {
@@ -46,9 +50,6 @@ Keys endOfFront(Keys first, Keys end) noexcept {
 void sortBySize(Keys first, Keys end) noexcept {
   for (auto key = first; key != end; ++key) key->front = nameOf(*key).size();
   if (!std::is_sorted(first, end, frontBefore)) std::sort(first, end, frontBefore);
-  const auto isEarlier = [](const NameKey& a, const NameKey& b) {
-    return std::less<>()(a.item, b.item);
-  };
   for (Keys next; first != end; first = next) {
     next = endOfFront(first, end);
     std::iter_swap(first, std::min_element(first, next, isEarlier));
@@ -57,7 +58,7 @@ void sortBySize(Keys first, Keys end) noexcept {
 
 // Sorts by the fronts alone, then what has one front by the units behind it, and so on: however long
 // the names are and however much of them is equal, each unit is looked at in one round only.
-void sortByName(std::vector<NameKey>& keys, std::size_t first) {
+void sortByName(NameKeys& keys, std::size_t first) {
   std::vector<Run> runs{{first, keys.size(), 0}};
   while (!runs.empty()) {
     const Run run = runs.back();
@@ -77,13 +78,28 @@ void sortByName(std::vector<NameKey>& keys, std::size_t first) {
   }
 }
 
+// Inserts each key behind those before it that are not greater, which is quickest for a few.
+void sortFew(Keys first, Keys end) noexcept {
+  for (auto key = first; key != end; ++key) {
+    const NameKey inserted = *key;
+    auto place = key;
+    for (; place != first && nameBefore(inserted, place[-1]); --place) *place = place[-1];
+    *place = inserted;
+  }
+}
+
 }  // namespace
 
-void sortDistinct(std::vector<NameKey>& keys, std::size_t first) {
+void sortDistinct(NameKeys& keys, std::size_t first) {
+  constexpr std::ptrdiff_t few = 16;
   const auto begin = keys.begin() + static_cast<std::ptrdiff_t>(first);
   const auto outOfOrder = [](const NameKey& a, const NameKey& b) { return !nameBefore(a, b); };
   if (std::adjacent_find(begin, keys.end(), outOfOrder) == keys.end()) return;
-  sortByName(keys, first);
+  if (keys.end() - begin <= few) {
+    sortFew(begin, keys.end());
+  } else {
+    sortByName(keys, first);
+  }
   keys.erase(std::unique(begin, keys.end(), haveOneName), keys.end());
 }
 

@@ -15,14 +15,25 @@ struct Named {
 };
 
 struct NameKey {
+  NameKey() = default;
   explicit NameKey(const Named& named) noexcept : front(frontOf(named.name)), item(&named) {}
 
-  std::uint64_t front;
-  const Named* item;
+  std::uint64_t front = 0;
+  const Named* item = nullptr;
 };
+
+using NameKeys = std::vector<NameKey>;
+
+/// Appends the keys of items.
+template <class Iterator>
+void addKeys(NameKeys& keys, Iterator first, Iterator end) {
+  std::size_t place = keys.size();
+  keys.resize(place + static_cast<std::size_t>(end - first));
+  for (; first != end; ++first) keys[place++] = NameKey(*first);
+}
 
 /// Sorts the keys from `first` on by name and drops those whose name an item before them has. Items
 /// must stand in memory in the order in which they came.
-void sortDistinct(std::vector<NameKey>& keys, std::size_t first);
+void sortDistinct(NameKeys& keys, std::size_t first);
 
 }  // namespace Tesk::KoStyle

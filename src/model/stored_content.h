@@ -1,26 +1,25 @@
-// StoredContent: all of a stored style that an overwrite replaces, frozen into a few blocks of exactly
-// their size. StyleBuilder makes it.
+// StoredContent: all that a stored style holds, frozen into two blocks: one for what an overwrite
+// replaces as a whole, one for the texts that it leaves in place where they keep their value.
+// StyleBuilder makes it.
 #pragma once
 
-#include <memory>
-#include <utility>
-
 #include "containers/frozen_array.h"
+#include "containers/frozen_range.h"
 #include "containers/frozen_texts.h"
 #include "model/attributes.h"
 #include "model/effect.h"
-#include "model/parameter.h"
-#include "platform/text.h"
 
 namespace Tesk::KoStyle {
 
 struct StoredContent {
-  Text name;
+  FrozenText id;
+  FrozenText path;
+  FrozenText vendor;
+  FrozenText name;
   Attributes<FrozenTexts> attributes;
-  std::unique_ptr<Char[]> texts;  // of effects and parameters
-  FrozenArray<Parameter> parameters;
-  FrozenArray<AudioEffect> audioEffects;
-  FrozenArray<MidiEffect> midiEffects;
+  FrozenBlock block;  // effects, their parameters, and the texts of both
+  FrozenRange<AudioEffect> audioEffects;
+  FrozenRange<MidiEffect> midiEffects;
 };
 
 }  // namespace Tesk::KoStyle

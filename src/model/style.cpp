@@ -1,5 +1,7 @@
 #include "model/style.h"
 
+#include <utility>
+
 namespace Tesk::KoStyle {
 namespace {
 
@@ -10,14 +12,16 @@ void exchangeUnlessEqual(Value& a, Value& b) noexcept {
 
 }  // namespace
 
+void Style::assign(StoredContent content) noexcept { this->content() = std::move(content); }
+
 void Style::exchangeContent(StoredContent& other) noexcept {
   StoredContent& own = content();
+  own.id.truncate(TextView(own.id.c_str()).size());
   exchangeName(other.name);
   std::swap(own.attributes.languages, other.attributes.languages);
   for (const Attribute attribute : textAttributes)
     exchangeUnlessEqual(own.attributes[attribute], other.attributes[attribute]);
-  own.texts.swap(other.texts);
-  std::swap(own.parameters, other.parameters);
+  own.block.swap(other.block);
   std::swap(own.audioEffects, other.audioEffects);
   std::swap(own.midiEffects, other.midiEffects);
 }
@@ -28,6 +32,6 @@ void Style::exchangeProperties(StyleProperties& properties) noexcept {
   exchangeUnlessEqual(content().attributes[Attribute::color], properties.colors);
 }
 
-void Style::exchangeName(Text& name) noexcept { exchangeUnlessEqual(content().name, name); }
+void Style::exchangeName(FrozenText& name) noexcept { exchangeUnlessEqual(content().name, name); }
 
 }  // namespace Tesk::KoStyle

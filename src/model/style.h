@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <utility>
 
 #include "model/stored_content.h"
 #include "model/style_with.h"
@@ -11,32 +10,43 @@ namespace Tesk::KoStyle {
 
 /// What a property editor changes of a style.
 struct StyleProperties {
-  Text name;
+  FrozenText name;
   FrozenTexts subGenres;
   FrozenTexts colors;
 };
 
 class Style : public StyleWith<StoredContent>, public virtual IStyle {
  public:
-  const Char* vendor() const final { return vendor_.c_str(); }
+  const Char* id() const final { return content().id.c_str(); }
+  const Char* path() const final { return content().path.c_str(); }
+  const Char* vendor() const final { return content().vendor.c_str(); }
   IAudioEffect* audioEffect(const std::size_t& index) const final { return audioEffects().at(index); }
   IMidiEffect* midiEffect(const std::size_t& index) const final { return midiEffects().at(index); }
 
-  void assignVendor(Text vendor) noexcept { vendor_ = std::move(vendor); }
+  /// The identifier whole, where the host's view ends at the first U+0000.
+  const FrozenText& wholeId() const noexcept { return content().id; }
+  const FrozenText& wholePath() const noexcept { return content().path; }
+
+  /// Gives a new style its content, which must have been made for it.
+  void assign(StoredContent content) noexcept;
 
   // What has the same value in both stays where it is, so that the host's texts stay too.
 
-  /// Exchanges the content for another, whose effects must have been made for this style.
+  /// Exchanges what a mutable style brings: all but identifier, path and vendor. The effects must have
+  /// been made for this style. The identifier ends where the host sees its end.
   void exchangeContent(StoredContent& other) noexcept;
 
   void exchangeProperties(StyleProperties& properties) noexcept;
-  void exchangeName(Text& name) noexcept;
+  void exchangeName(FrozenText& name) noexcept;
 
  protected:
   using StyleWith::StyleWith;
+};
 
- private:
-  Text vendor_;
+/// A style's identifier as the host sees it, which ends at the first U+0000: styles that the host
+/// could not tell apart have the same key.
+struct StyleIdOf {
+  TextView operator()(const Style& style) const noexcept { return style.id(); }
 };
 
 }  // namespace Tesk::KoStyle

@@ -1,14 +1,11 @@
 #include "model/style_builder.h"
 
 #include <algorithm>
-#include <memory>
-
-#include "containers/text_block.h"
 
 namespace Tesk::KoStyle {
 
 void StyleBuilder::clear() noexcept {
-  name_ = {};
+  id_ = path_ = vendor_ = name_ = {};
   languages_ = {};
   for (auto& texts : texts_) texts.clear();
   effects_.clear();
@@ -29,28 +26,42 @@ bool StyleBuilder::addEffect(EffectKind kind, TextView id) {
 }
 
 StoredContent StyleBuilder::freeze(const Style& style) {
+  StoredContent content;
+  freezeTexts(content);
   takeEffects(EffectKind::audio);
   takeEffects(EffectKind::midi);
   orderParameters();
-  const auto count = [this](EffectKind kind) {
-    return static_cast<std::size_t>(std::count_if(
-        effects_.begin(), effects_.end(),
-        [kind](const EffectEntry& effect) { return effect.taken && effect.kind == kind; }));
-  };
-
-  StoredContent content;
-  content.name = name_;
-  content.attributes.languages = languages_;
-  for (const Attribute attribute : textAttributes)
-    content.attributes[attribute] = freezeTexts(attribute);
-  content.texts.reset(new Char[countUnits()]);
-  content.parameters = FrozenArray<Parameter>(parameterKeys_.size());
-  content.audioEffects = FrozenArray<AudioEffect>(count(EffectKind::audio));
-  content.midiEffects = FrozenArray<MidiEffect>(count(EffectKind::midi));
-  Char* texts = content.texts.get();
-  freezeChain(EffectKind::audio, style, content.audioEffects, content.parameters, texts);
-  freezeChain(EffectKind::midi, style, content.midiEffects, content.parameters, texts);
+  freezeEffects(content, style);
   return content;
+}
+
+void StyleBuilder::freezeTexts(StoredContent& content) {
+  listed_.clear();
+  std::array<std::size_t, textAttributes.size()> ends = {};
+  for (std::size_t list = 0; list < texts_.size(); ++list) {
+    keys_.clear();
+    addKeys(keys_, texts_[list].begin(), texts_[list].end());
+    sortDistinct(keys_, 0);
+    for (const NameKey& key : keys_) listed_.push_back(key.item->name);
+    ends[list] = listed_.size();
+  }
+  std::size_t units = 0;
+  for (const TextView text : {id_, path_, vendor_, name_}) units += unitsOf(text);
+  for (const TextView text : listed_) units += unitsOf(text);
+
+  FrozenTextBlock block(listed_.size(), units);
+  content.id = block.add(id_);
+  content.path = block.add(path_);
+  content.vendor = block.add(vendor_);
+  content.name = block.add(name_);
+  content.attributes.languages = languages_;
+  const TextView* texts = listed_.data();
+  for (std::size_t list = 0; list < ends.size(); ++list) {
+    const TextView* const end = listed_.data() + ends[list];
+    content.attributes.lists[list] =
+        block.addList(FrozenRange(texts, static_cast<std::size_t>(end - texts)));
+    texts = end;
+  }
 }
 
 // Takes the first effect of each identifier into a chain.
@@ -74,14 +85,36 @@ void StyleBuilder::orderParameters() {
     const std::size_t end =
         i + 1 < effects_.size() ? effects_[i + 1].firstParameter : parameters_.size();
     effect.firstKey = parameterKeys_.size();
-    for (std::size_t p = effect.firstParameter; p < end; ++p)
-      parameterKeys_.emplace_back(parameters_[p]);
+    addKeys(parameterKeys_, parameters_.data() + effect.firstParameter, parameters_.data() + end);
     sortDistinct(parameterKeys_, effect.firstKey);
     effect.numKeys = parameterKeys_.size() - effect.firstKey;
   }
 }
 
-std::size_t StyleBuilder::countUnits() const noexcept {
+void StyleBuilder::freezeEffects(StoredContent& content, const Style& style) {
+  const std::size_t numParameters = parameterKeys_.size();
+  const std::size_t numAudio = countTaken(EffectKind::audio);
+  const std::size_t numMidi = countTaken(EffectKind::midi);
+  const std::size_t numUnits = countEffectUnits();
+  FrozenBlock block(numParameters * sizeof(Parameter) + numAudio * sizeof(AudioEffect) +
+                    numMidi * sizeof(MidiEffect) + numUnits * sizeof(Char));
+  FrozenArray parameters(block.take<Parameter>(numParameters));
+  FrozenArray audioEffects(block.take<AudioEffect>(numAudio));
+  FrozenArray midiEffects(block.take<MidiEffect>(numMidi));
+  Char* texts = block.take<Char>(numUnits);
+  content.audioEffects = freezeChain(EffectKind::audio, style, audioEffects, parameters, texts);
+  content.midiEffects = freezeChain(EffectKind::midi, style, midiEffects, parameters, texts);
+  content.block.swap(block);
+}
+
+std::size_t StyleBuilder::countTaken(EffectKind kind) const noexcept {
+  const auto isTaken = [kind](const EffectEntry& effect) {
+    return effect.taken && effect.kind == kind;
+  };
+  return static_cast<std::size_t>(std::count_if(effects_.begin(), effects_.end(), isTaken));
+}
+
+std::size_t StyleBuilder::countEffectUnits() const noexcept {
   std::size_t units = 0;
   for (const EffectEntry& effect : effects_) {
     if (effect.taken) units += unitsOf(effect.name);
@@ -94,8 +127,10 @@ std::size_t StyleBuilder::countUnits() const noexcept {
 }
 
 template <class EffectType>
-void StyleBuilder::freezeChain(EffectKind kind, const Style& style, FrozenArray<EffectType>& chain,
-                               FrozenArray<Parameter>& parameters, Char*& texts) const {
+FrozenRange<EffectType> StyleBuilder::freezeChain(EffectKind kind, const Style& style,
+                                                  FrozenArray<EffectType> chain,
+                                                  FrozenArray<Parameter>& parameters,
+                                                  Char*& texts) const {
   for (const EffectEntry& entry : effects_) {
     if (!entry.taken || entry.kind != kind) continue;
     const FrozenRange<Parameter> range(parameters.end(), entry.numKeys);
@@ -108,15 +143,7 @@ void StyleBuilder::freezeChain(EffectKind kind, const Style& style, FrozenArray<
       parameters.emplace(effect, name, value);
     }
   }
-}
-
-FrozenTexts StyleBuilder::freezeTexts(Attribute attribute) {
-  keys_.clear();
-  for (const Named& text : texts_[static_cast<std::size_t>(attribute)]) keys_.emplace_back(text);
-  sortDistinct(keys_, 0);
-  distinctTexts_.clear();
-  for (const NameKey& key : keys_) distinctTexts_.push_back(key.item->name);
-  return FrozenTexts(distinctTexts_);
+  return chain.range();
 }
 
 }  // namespace Tesk::KoStyle

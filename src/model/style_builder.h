@@ -24,6 +24,10 @@ class StyleBuilder {
   /// Starts anew, keeping the memory.
   void clear() noexcept;
 
+  void setId(TextView id) noexcept { id_ = id; }
+  void setPath(TextView path) noexcept { path_ = path; }
+  void setVendor(TextView vendor) noexcept { vendor_ = vendor; }
+
   /// A name that no style may have is left out.
   void setName(TextView name) noexcept { name_ = isStyleName(name) ? name : TextView(); }
 
@@ -43,7 +47,7 @@ class StyleBuilder {
 
   bool hasEffects() const noexcept { return !effects_.empty(); }
 
-  /// The content of `style`, for Style::exchangeContent().
+  /// The content of `style`.
   StoredContent freeze(const Style& style);
 
  private:
@@ -58,22 +62,28 @@ class StyleBuilder {
     std::size_t numKeys = 0;
   };
 
+  void freezeTexts(StoredContent& content);
   void takeEffects(EffectKind kind);
   void orderParameters();
-  std::size_t countUnits() const noexcept;
+  void freezeEffects(StoredContent& content, const Style& style);
+  std::size_t countTaken(EffectKind kind) const noexcept;
+  std::size_t countEffectUnits() const noexcept;
   template <class EffectType>
-  void freezeChain(EffectKind kind, const Style& style, FrozenArray<EffectType>& chain,
-                   FrozenArray<Parameter>& parameters, Char*& texts) const;
-  FrozenTexts freezeTexts(Attribute attribute);
+  FrozenRange<EffectType> freezeChain(EffectKind kind, const Style& style,
+                                      FrozenArray<EffectType> chain, FrozenArray<Parameter>& parameters,
+                                      Char*& texts) const;
 
+  TextView id_;
+  TextView path_;
+  TextView vendor_;
   TextView name_;
   LanguageSet languages_;
   std::array<std::vector<Named>, textAttributes.size()> texts_;
   std::vector<EffectEntry> effects_;
   std::vector<ParameterEntry> parameters_;
-  std::vector<NameKey> parameterKeys_;
-  std::vector<NameKey> keys_;
-  std::vector<TextView> distinctTexts_;
+  NameKeys parameterKeys_;
+  NameKeys keys_;
+  std::vector<TextView> listed_;  // the texts of all lists, each list distinct and in order
 };
 
 }  // namespace Tesk::KoStyle

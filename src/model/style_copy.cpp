@@ -4,8 +4,11 @@
 
 namespace Tesk::KoStyle {
 
-StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& target) {
+StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& target, TextView id,
+                                   TextView path) {
   StyleBuilder builder;
+  builder.setId(id);
+  builder.setPath(path);
   builder.setName(style.wholeName());
   for (std::size_t i = 0; i < style.numLanguage(); ++i) builder.addLanguage(style.language(i));
   for (const Attribute attribute : textAttributes) {

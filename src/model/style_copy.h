@@ -6,8 +6,9 @@
 
 namespace Tesk::KoStyle {
 
-/// A copy of a mutable style as the content of a stored one. Of parameters with one name, which
-/// renaming can bring about, the first is taken.
-StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& target);
+/// A copy of a mutable style as the content of a stored one, without identifier and path where none are
+/// given. Of parameters with one name, which renaming can bring about, the first is taken.
+StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& target, TextView id = {},
+                                   TextView path = {});
 
 }  // namespace Tesk::KoStyle

@@ -43,7 +43,7 @@ class StyleWith : public StyleBase {
   bool hasMidiEffect(IEffectBase* effect) const final { return content_.midiEffects.contains(effect); }
 
   /// The name whole, where the host's view ends at the first U+0000.
-  const Text& wholeName() const noexcept { return content_.name; }
+  TextView wholeName() const noexcept { return content_.name; }
 
   const auto& attributes() const noexcept { return content_.attributes; }
   const auto& audioEffects() const noexcept { return content_.audioEffects; }
@@ -53,6 +53,7 @@ class StyleWith : public StyleBase {
   using StyleBase::StyleBase;
 
   Content& content() noexcept { return content_; }
+  const Content& content() const noexcept { return content_; }
 
  private:
   std::size_t count(Attribute attribute) const noexcept {

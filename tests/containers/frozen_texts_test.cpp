@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -9,6 +10,30 @@ namespace Tesk::KoStyle {
 namespace {
 
 const Text withNull(KOSTYLE_TEXT("a\0b"), 3);
+
+TEST(FrozenText, IsEmptyAtFirst) {
+  const FrozenText none;
+  EXPECT_TRUE(none.empty());
+  EXPECT_EQ(*none.c_str(), 0);
+  EXPECT_EQ(none, FrozenText(TextView()));
+}
+
+TEST(FrozenText, KeepsAWholeCopyThatEndsWithNull) {
+  Text original = withNull;
+  const FrozenText text(original);
+  original = Text();
+  EXPECT_EQ(TextView(text), withNull);
+  EXPECT_EQ(text.c_str()[3], 0);
+  EXPECT_EQ(text, FrozenText(withNull));
+}
+
+TEST(FrozenText, EndsEarlierWithoutMoving) {
+  FrozenText text(withNull);
+  const Char* const place = text.c_str();
+  text.truncate(1);
+  EXPECT_EQ(TextView(text), KOSTYLE_TEXT("a"));
+  EXPECT_EQ(text.c_str(), place);
+}
 
 TEST(FrozenTexts, AreEmptyAtFirst) {
   const FrozenTexts none;
@@ -37,6 +62,25 @@ TEST(FrozenTexts, MoveWithoutMovingTheirTexts) {
   EXPECT_EQ(moved.at(0)->data(), text);
   texts = std::move(moved);
   EXPECT_EQ(texts.at(0)->data(), text);
+}
+
+// Sanitizers would report a block that goes too early or never.
+TEST(FrozenTextBlock, LastsAsLongAsAnyOfItsTexts) {
+  const std::vector<Text> list{KOSTYLE_TEXT("x"), withNull};
+  std::optional<FrozenText> single;
+  FrozenTexts texts;
+  {
+    FrozenTextBlock block(2, unitsOf(KOSTYLE_TEXT("name")) + unitsOf(list[0]) + unitsOf(list[1]));
+    single = block.add(KOSTYLE_TEXT("name"));
+    texts = block.addList(list);
+    EXPECT_TRUE(block.addList(std::vector<Text>()).empty());
+  }
+  EXPECT_EQ(TextView(*single), KOSTYLE_TEXT("name"));
+  const FrozenText copy = *single;
+  single.reset();
+  EXPECT_THAT(std::vector<Text>(texts.begin(), texts.end()), testing::ElementsAreArray(list));
+  texts = FrozenTexts();
+  EXPECT_EQ(TextView(copy), KOSTYLE_TEXT("name"));
 }
 
 }  // namespace

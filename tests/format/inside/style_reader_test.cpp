@@ -22,7 +22,7 @@ class StyleReaderTest : public testing::Test {
     file = platform::openForReading(platform::nativePath(test::pathText(directory / "file")));
     ASSERT_TRUE(file);
   }
-  auto read(StyleKind kind) { return reader.read(kind, nullptr, styles, file.get(), outcome); }
+  auto read(StyleKind kind) { return reader.read(kind, nullptr, styles, {}, file.get(), outcome); }
 
   test::TemporaryDirectory directory;
   platform::File file;

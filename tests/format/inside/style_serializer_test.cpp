@@ -57,10 +57,11 @@ TEST_F(Serializer, MissingEffectIsReportedBeforeTheTarget) {
 
 TEST_F(Serializer, ChainPassesOverEffectsWithoutId) {
   const UserStyle owner(nullptr);
-  FrozenArray<AudioEffect> chain(2);
+  FrozenBlock block(2 * sizeof(AudioEffect));
+  FrozenArray<AudioEffect> chain(block.take<AudioEffect>(2));
   chain.emplace(owner, KOSTYLE_TEXT("taken"), FrozenRange<Parameter>());
   chain.emplace(owner, KOSTYLE_TEXT(""), FrozenRange<Parameter>());
-  EXPECT_EQ(writeEffectChain(chain, object, holder.GetAllocator()), std::uint32_t{KOSTYLE_OK});
+  EXPECT_EQ(writeEffectChain(chain.range(), object, holder.GetAllocator()), std::uint32_t{KOSTYLE_OK});
   ASSERT_EQ(object.MemberCount(), 1U);
   EXPECT_EQ(json::view(object.MemberBegin()->name), text("taken"));
 }
@@ -89,10 +90,10 @@ TEST_F(Serializer, LongNameIsWrittenWhole) {
   UserStyle stored(nullptr);
   StyleBuilder builder;
   builder.addEffect(EffectKind::midi, KOSTYLE_TEXT("E"));
+  builder.setId(KOSTYLE_TEXT("X"));
   StoredContent content = builder.freeze(stored);
-  content.name = Text(1000, Char('n'));
-  stored.exchangeContent(content);
-  stored.assignId(text("X"));
+  content.name = FrozenText(Text(1000, Char('n')));
+  stored.assign(std::move(content));
   EXPECT_EQ(write(StyleDocument(stored)),
             R"({"id":"X","name":")" + std::string(1000, 'n') + R"(","midiEffect":{"E":{}}})");
 }
