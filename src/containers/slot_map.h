@@ -89,7 +89,7 @@ class SlotMap {
   };
 
   void addSlab() {
-    constexpr std::size_t smallest = 8;
+    constexpr std::size_t smallest = std::clamp<std::size_t>(2048 / sizeof(Storage), 4, 16);
     const std::size_t first = entries_.size();
     const std::size_t size = std::max(smallest, first / 2);
     if (size > noSlot - first) throw std::bad_alloc();

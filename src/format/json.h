@@ -9,7 +9,6 @@
 // A document that breaks a rule of the parser's own is a bad document, never the end of the host.
 #define RAPIDJSON_ASSERT(condition) static_cast<void>(0)
 #include <rapidjson/document.h>
-#include <rapidjson/filewritestream.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/reader.h>
 #include <rapidjson/writer.h>

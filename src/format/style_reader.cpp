@@ -105,9 +105,10 @@ void StyleReader::readChain(EffectKind kind) {
 
 void StyleReader::readParameters(const Value& source) {
   if (!source.IsObject()) return;
+  TextView last;  // a file may repeat a name without end: only the first is worth remembering
   for (auto member = source.MemberBegin(); member != source.MemberEnd(); ++member) {
     const TextView name = currentName(view(member->name));
-    if (name.empty()) continue;
+    if (name.empty() || name == last) continue;
     // The value's type decides the parameter's. A value that no type takes is left out.
     const Value& value = member->value;
     if (value.IsInt()) {
@@ -116,7 +117,10 @@ void StyleReader::readParameters(const Value& source) {
       builder_.addParameter(name, ParameterValue::of(static_cast<float>(value.GetDouble())));
     } else if (value.IsString()) {
       builder_.addParameter(name, ParameterValue::of(view(value)));
+    } else {
+      continue;
     }
+    last = name;
   }
 }
 

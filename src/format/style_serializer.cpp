@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "format/json_writer.h"
 #include "format/style_keys.h"
 
 namespace Tesk::KoStyle {
@@ -69,28 +70,9 @@ std::uint32_t buildDocument(const StyleType& style, TextView id, json::Document&
   return root.IsObject() && !root.ObjectEmpty() ? KOSTYLE_OK : KOSTYLE_ERROR_WRITE_EMPTY_DOCUMENT;
 }
 
-// The writer's stack of open objects and arrays. A document is four levels deep at most, so a fixed
-// buffer holds it and writing needs no memory.
-class FixedStack {
- public:
-  static constexpr bool kNeedFree = false;
-  static constexpr std::size_t levels = 8;
-
-  void* Malloc(std::size_t size) noexcept { return size <= sizeof buffer_ ? buffer_ : nullptr; }
-  void* Realloc(void*, std::size_t, std::size_t size) noexcept { return Malloc(size); }
-  static void Free(void*) noexcept {}
-
- private:
-  alignas(std::max_align_t) unsigned char buffer_[levels * 32];
-};
-
-using Output = rapidjson::FileWriteStream;
-using Utf8 = rapidjson::UTF8<>;
-
 template <class Writer>
 void write(const json::Document& document, std::FILE* file) noexcept {
-  char buffer[256];
-  Output output(file, buffer, sizeof buffer);
+  FileOutput output(file);
   FixedStack stack;
   Writer writer(output, &stack, FixedStack::levels);
   document.Accept(writer);
@@ -107,9 +89,9 @@ StyleDocument::StyleDocument(const Style& style)
 std::uint32_t writeStyleFile(const StyleDocument& document, bool pretty, std::FILE* file) noexcept {
   if (document.code() != KOSTYLE_OK) return document.code();
   if (pretty) {
-    write<rapidjson::PrettyWriter<Output, json::Encoding, Utf8, FixedStack>>(document.json(), file);
+    write<IndentingWriter>(document.json(), file);
   } else {
-    write<rapidjson::Writer<Output, json::Encoding, Utf8, FixedStack>>(document.json(), file);
+    write<CompactWriter>(document.json(), file);
   }
   return KOSTYLE_OK;
 }

@@ -7,6 +7,7 @@
 
 #include <kostyle/codes.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 
@@ -30,7 +31,13 @@ class StyleDocument {
   const json::Document& json() const { return json_; }
 
  private:
-  json::Document json_;
+  static constexpr std::size_t chunkSize = 32768;
+
+  // Most documents fit into the first chunk.
+  alignas(std::max_align_t) char firstChunk_[chunkSize];
+  json::ThrowingAllocator allocator_;
+  json::Pool pool_{firstChunk_, chunkSize, chunkSize, &allocator_};
+  json::Document json_{&pool_};
   std::uint32_t code_ = KOSTYLE_OK;
 };
 

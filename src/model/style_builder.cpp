@@ -19,6 +19,12 @@ void StyleBuilder::addText(Attribute attribute, TextView text) {
   if (texts.empty() || texts.back().name != text) texts.push_back({text});
 }
 
+void StyleBuilder::reserve(std::size_t effects, std::size_t parameters) {
+  effects_.reserve(effects);
+  parameters_.reserve(parameters);
+  parameterKeys_.reserve(parameters);
+}
+
 bool StyleBuilder::addEffect(EffectKind kind, TextView id) {
   if (!effects_.empty() && effects_.back().kind == kind && effects_.back().name == id) return false;
   effects_.push_back({{id}, kind, parameters_.size()});

@@ -2,9 +2,8 @@
 // and freezes what is left.
 //
 // Of effects with one identifier in a chain, and of parameters with one name in an effect, the first
-// stays; what follows one of its own name is left out at once. Effects keep their order; parameters and
-// attribute texts sort. The texts handed in are not copied before freeze(), so they must live until
-// then.
+// stays. Effects keep their order; parameters and attribute texts sort. The texts handed in are not
+// copied before freeze(), so they must live until then.
 #pragma once
 
 #include <array>
@@ -35,14 +34,16 @@ class StyleBuilder {
   void addLanguage(int language) noexcept { languages_.insert(language); }
   void addText(Attribute attribute, TextView text);
 
+  /// Takes memory ahead.
+  void reserve(std::size_t effects, std::size_t parameters);
+
   /// An effect without parameters. The identifier must not be empty. False when it is that of the
   /// effect before it, which stays the last one.
   bool addEffect(EffectKind kind, TextView id);
 
   /// A parameter of the effect that was added last. The name must not be empty.
   void addParameter(TextView name, const ParameterValue& value) {
-    const bool isFirst = parameters_.size() == effects_.back().firstParameter;
-    if (isFirst || parameters_.back().name != name) parameters_.push_back({{name}, value});
+    parameters_.push_back({{name}, value});
   }
 
   bool hasEffects() const noexcept { return !effects_.empty(); }

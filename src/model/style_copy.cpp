@@ -1,8 +1,27 @@
 #include "model/style_copy.h"
 
+#include <cstddef>
+
 #include "model/style_builder.h"
 
 namespace Tesk::KoStyle {
+namespace {
+
+std::size_t countParameters(const MutableChain& chain) {
+  std::size_t count = 0;
+  for (const MutableEffect& effect : chain) count += effect.parameters().size();
+  return count;
+}
+
+void copyChain(EffectKind kind, const MutableChain& chain, StyleBuilder& builder) {
+  for (const MutableEffect& effect : chain) {
+    builder.addEffect(kind, effect.wholeId());
+    for (const MutableParameter& parameter : effect.parameters())
+      builder.addParameter(parameter.wholeName(), parameter.value());
+  }
+}
+
+}  // namespace
 
 StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& target, TextView id,
                                    TextView path) {
@@ -14,15 +33,11 @@ StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& targe
   for (const Attribute attribute : textAttributes) {
     for (const Text& text : style.attributes()[attribute]) builder.addText(attribute, text);
   }
-  const auto copyChain = [&builder](EffectKind kind, const MutableChain& effects) {
-    for (const MutableEffect& effect : effects) {
-      builder.addEffect(kind, effect.wholeId());
-      for (const MutableParameter& parameter : effect.parameters())
-        builder.addParameter(parameter.wholeName(), parameter.value());
-    }
-  };
-  copyChain(EffectKind::audio, style.audioEffects());
-  copyChain(EffectKind::midi, style.midiEffects());
+  const MutableChain& audio = style.audioEffects();
+  const MutableChain& midi = style.midiEffects();
+  builder.reserve(audio.size() + midi.size(), countParameters(audio) + countParameters(midi));
+  copyChain(EffectKind::audio, audio, builder);
+  copyChain(EffectKind::midi, midi, builder);
   return builder.freeze(target);
 }
 

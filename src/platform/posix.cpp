@@ -72,10 +72,10 @@ NativePath nativePath(TextView path) { return nameFromText(path).value_or(Native
 
 EntryKind entryKind(const NativePath& path) noexcept {
   struct stat status {};
-  if (stat(path.c_str(), &status) == 0)
-    return isDirectory(status) ? EntryKind::directory : EntryKind::file;
+  if (lstat(path.c_str(), &status) != 0) return EntryKind::none;
   // A link that leads nowhere still occupies its name.
-  return lstat(path.c_str(), &status) == 0 ? EntryKind::file : EntryKind::none;
+  if (S_ISLNK(status.st_mode) && stat(path.c_str(), &status) != 0) return EntryKind::file;
+  return isDirectory(status) ? EntryKind::directory : EntryKind::file;
 }
 
 bool enumerateDirectory(const NativePath& directory,
@@ -107,17 +107,14 @@ File openForReading(const NativePath& path) noexcept {
   return streamOver(open(path.c_str(), O_RDONLY | quietly), "rb");
 }
 
-// The file is emptied last, and goes again if it came with this call, so that a failure changes
-// nothing.
+// A failure changes nothing: the stream is there before a new file is, and a file that is there already
+// is emptied last.
 File openForWriting(const NativePath& path) noexcept {
-  constexpr mode_t readWriteForAll = 0666;
-  int descriptor = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | quietly, readWriteForAll);
-  const bool created = descriptor >= 0;
-  if (!created && isRegularFile(path)) descriptor = open(path.c_str(), O_WRONLY | quietly);
+  if (File created{std::fopen(path.c_str(), "wbxe")}) return created;
+  if (!isRegularFile(path)) return nullptr;
+  const int descriptor = open(path.c_str(), O_WRONLY | quietly);
   File file = streamOver(descriptor, "wb");
-  if (file && ftruncate(descriptor, 0) == 0) return file;
-  if (created) unlink(path.c_str());
-  return nullptr;
+  return file && ftruncate(descriptor, 0) == 0 ? std::move(file) : nullptr;
 }
 
 // Version 4: random but for the digits that say so.

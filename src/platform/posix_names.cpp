@@ -1,7 +1,9 @@
 #include "platform/posix_names.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 namespace Tesk::KoStyle::platform {
 namespace {
@@ -55,6 +57,12 @@ void appendUtf8(std::string& bytes, std::uint32_t codePoint) {
   }
 }
 
+// Most names are of these alone, which mean the same on both sides.
+template <class Unit>
+bool isAscii(Unit unit) {
+  return static_cast<std::make_unsigned_t<Unit>>(unit) < 0x80;
+}
+
 bool isHighSurrogate(std::uint32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 bool isLowSurrogate(std::uint32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
 bool isStrayByte(std::uint32_t unit) {
@@ -64,8 +72,11 @@ bool isStrayByte(std::uint32_t unit) {
 }  // namespace
 
 Text textFromName(std::string_view name) {
+  const auto ascii = std::find_if_not(name.begin(), name.end(), isAscii<char>);
   Text text;
   text.reserve(name.size());
+  text.assign(name.begin(), ascii);
+  name.remove_prefix(text.size());
   while (!name.empty()) {
     const Sequence sequence = decodeSequence(name);
     if (sequence.length == 0) {
@@ -80,9 +91,11 @@ Text textFromName(std::string_view name) {
 }
 
 std::optional<std::string> nameFromText(TextView text) {
+  const auto ascii = std::find_if_not(text.begin(), text.end(), isAscii<Char>);
   std::string bytes;
   bytes.reserve(text.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
+  bytes.assign(text.begin(), ascii);
+  for (std::size_t i = bytes.size(); i < text.size(); ++i) {
     const std::uint32_t unit = text[i];
     if (isHighSurrogate(unit) && i + 1 < text.size() && isLowSurrogate(text[i + 1])) {
       appendUtf8(bytes, 0x10000 + ((unit - 0xD800) << 10) + (text[++i] - 0xDC00U));
