@@ -150,7 +150,7 @@ class OwnedSequence {
     const Key sought(key);
     const auto isBefore = [&](SlotNumber slot) { return body_->keys[slot].compare(sought) < 0; };
     const SlotNumber found = body_->byKey.partitionPoint(isBefore);
-    return found != noSlot && body_->keys[found].text == key ? elementIn(found) : nullptr;
+    return found != noSlot && equalTexts(body_->keys[found].text, key) ? elementIn(found) : nullptr;
   }
 
   /// The first position whose element `before` does not hold for; see RankTree::partitionPoint().

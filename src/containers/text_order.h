@@ -36,4 +36,9 @@ inline int compareTexts(TextView a, TextView b) noexcept {
   return a.size() == b.size() ? 0 : a.size() < b.size() ? -1 : 1;
 }
 
+inline bool equalTexts(TextView a, TextView b) noexcept {
+  if (a.size() != b.size()) return false;
+  return a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(Char)) == 0;
+}
+
 }  // namespace Tesk::KoStyle

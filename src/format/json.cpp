@@ -1,5 +1,7 @@
 #include "format/json.h"
 
+#include "containers/text_order.h"
+
 namespace Tesk::KoStyle::json {
 
 void* ThrowingAllocator::Malloc(std::size_t size) {
@@ -24,7 +26,7 @@ Value stringRef(TextView text) {
 
 const Value* findMember(const Value& object, TextView key) {
   for (auto member = object.MemberBegin(); member != object.MemberEnd(); ++member) {
-    if (view(member->name) == key) return &member->value;
+    if (equalTexts(view(member->name), key)) return &member->value;
   }
   return nullptr;
 }

@@ -1,5 +1,6 @@
 #include "format/style_reader.h"
 
+#include "containers/text_order.h"
 #include "format/style_keys.h"
 
 namespace Tesk::KoStyle {
@@ -108,7 +109,7 @@ void StyleReader::readParameters(const Value& source) {
   TextView last;  // a file may repeat a name without end: only the first is worth remembering
   for (auto member = source.MemberBegin(); member != source.MemberEnd(); ++member) {
     const TextView name = currentName(view(member->name));
-    if (name.empty() || name == last) continue;
+    if (name.empty() || equalTexts(name, last)) continue;
     // The value's type decides the parameter's. A value that no type takes is left out.
     const Value& value = member->value;
     if (value.IsInt()) {

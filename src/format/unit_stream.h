@@ -53,6 +53,7 @@ class UnitStream {
     if (*current_ > '9') return;
     while (isWhitespace(*current_)) {
       const Unit* at = current_ + 1;
+      while (limit_ - at >= indentSize && std::memcmp(at, indent, sizeof indent) == 0) at += indentSize;
       while (at != limit_ && isWhitespace(*at)) ++at;
       current_ = at;
       if (at == limit_) passLimit();
@@ -82,6 +83,10 @@ class UnitStream {
 
   static constexpr std::size_t exponentDigits = 9;
   static constexpr std::size_t fractionDigits = 1000000000;
+
+  // Most white space is the indentation of a line.
+  static constexpr std::ptrdiff_t indentSize = 8;
+  static constexpr Unit indent[indentSize] = {' ', ' ', ' ', ' ', ' ', ' ', ' ', ' '};
 
   static bool isWhitespace(Unit unit) noexcept {
     return unit <= ' ' && (unit == ' ' || unit == '\n' || unit == '\r' || unit == '\t');

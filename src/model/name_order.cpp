@@ -26,7 +26,7 @@ bool isEarlier(const NameKey& a, const NameKey& b) noexcept { return std::less<>
 bool frontBefore(const NameKey& a, const NameKey& b) noexcept { return a.front < b.front; }
 
 bool haveOneName(const NameKey& a, const NameKey& b) noexcept {
-  return a.front == b.front && nameOf(a) == nameOf(b);
+  return a.front == b.front && equalTexts(nameOf(a), nameOf(b));
 }
 
 // Whether a name of the run goes on at its depth. If so, the fronts become what stands there.

@@ -16,7 +16,7 @@ void StyleBuilder::clear() noexcept {
 void StyleBuilder::addText(Attribute attribute, TextView text) {
   if (!isAttributeText(attribute, text)) return;
   std::vector<Named>& texts = texts_[static_cast<std::size_t>(attribute)];
-  if (texts.empty() || texts.back().name != text) texts.push_back({text});
+  if (texts.empty() || !equalTexts(texts.back().name, text)) texts.push_back({text});
 }
 
 void StyleBuilder::reserve(std::size_t effects, std::size_t parameters) {
@@ -26,7 +26,8 @@ void StyleBuilder::reserve(std::size_t effects, std::size_t parameters) {
 }
 
 bool StyleBuilder::addEffect(EffectKind kind, TextView id) {
-  if (!effects_.empty() && effects_.back().kind == kind && effects_.back().name == id) return false;
+  if (!effects_.empty() && effects_.back().kind == kind && equalTexts(effects_.back().name, id))
+    return false;
   effects_.push_back({{id}, kind, parameters_.size()});
   return true;
 }
