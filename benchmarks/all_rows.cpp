@@ -21,6 +21,7 @@ Rows allRows(const Settings& settings) {
   addEditingRows(rows, settings);
   addGrowthWalkingRows(rows, settings);
   addGrowthEditingRows(rows, settings);
+  addGrowthStandardRows(rows, settings);
   return rows;
 }
 

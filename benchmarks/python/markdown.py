@@ -6,7 +6,7 @@ from pathlib import Path
 
 import targets
 from results import load
-from table import figure
+from units import figure
 
 
 def measured_targets(path: Path) -> dict:
@@ -16,11 +16,10 @@ def measured_targets(path: Path) -> dict:
 
 def print_targets(before: dict, after: dict) -> None:
     print("| work | platform | before | after | target |\n|---|---|---|---|---|")
-    for key, row in before.items():
-        later = figure(after[key]["value"], row["unit"]) if key in after else ""
-        bound = "at least" if row["at least"] else "at most"
-        print(f"| {key[0]} | {key[1]} | {figure(row['value'], row['unit'])} | {later} "
-              f"| {bound} {figure(row['limit'], row['unit'])} |")
+    for key in {**after, **before}:
+        row = after.get(key) or before[key]
+        cells = [figure(table[key]["value"], row["unit"]) if key in table else "" for table in (before, after)]
+        print(f"| {key[0]} | {key[1]} | {cells[0]} | {cells[1]} | {targets.bound(row)} |")
 
 
 def print_medians(before: Path, after: Path | None) -> None:

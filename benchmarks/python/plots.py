@@ -54,8 +54,8 @@ def plot_peers(path: Path, results: Results) -> None:
 
 def plot_growth(path: Path, results: Results) -> None:
     works = results.grown_rows("native")
-    panels = {"reading": ("read/",), "walking and asking": ("next/", "prev/", "has/"),
-              "editing": ("add-", "insert-", "move-", "create-"),
+    panels = {"reading": ("read/",), "walking and asking": ("next/", "prev/", "has/", "std-map/next"),
+              "editing": ("add-", "insert-", "move-", "create-", "std-map/insert"),
               "saving, overwriting, removing": ("save", "overwrite", "remove")}
     if not works:
         return

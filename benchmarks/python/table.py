@@ -1,14 +1,8 @@
 """Tables for the terminal."""
 
 from results import Results
-
-
-def figure(value: float, unit: str) -> str:
-    if unit == "B":
-        return f"{value / 1000:.2f} KB" if value >= 1000 else f"{value:.0f} B"
-    if unit == "ns":
-        return f"{value / 1000:.2f} µs" if value >= 1000 else f"{value:.2f} ns"
-    return f"{value:.2f}"
+from targets import bound
+from units import figure
 
 
 def print_columns(rows: list) -> None:
@@ -52,7 +46,6 @@ def print_targets(table: list) -> None:
     print("\n== targets: medians of the ratios of the rounds; growth: the slope of its line, 1 being linear")
     lines = [["work", "platform", "measured", "target", ""]]
     for row in table:
-        bound = "at least" if row["at least"] else "at most"
-        lines.append([row["work"], row["platform"], figure(row["value"], row["unit"]),
-                      f"{bound} {figure(row['limit'], row['unit'])}", "met" if row["met"] else "MISSED"])
+        verdict = "" if row["limit"] is None else "met" if row["met"] else "MISSED"
+        lines.append([row["work"], row["platform"], figure(row["value"], row["unit"]), bound(row), verdict])
     print_columns(lines)

@@ -13,16 +13,11 @@ inline std::string growthName(const std::string& work, std::size_t size) {
   return "growth/" + work + "/" + std::to_string(size);
 }
 
-/// Numbers of equal length, so that their order as texts is their order as numbers.
-inline Text orderedName(std::size_t i) {
-  const std::string digits = std::to_string(i);
-  return toText("name" + std::string(8 - digits.size(), '0') + digits);
-}
-
 void addGrowthFileRows(Rows& rows, const Settings& settings);     // many files
 void addGrowthReadingRows(Rows& rows, const Settings& settings);  // one large file
 void addGrowthWalkingRows(Rows& rows, const Settings& settings);  // what it holds
 void addGrowthEditingRows(Rows& rows, const Settings& settings);
+void addGrowthStandardRows(Rows& rows, const Settings& settings);  // the standard library beside it
 void addGrowthSavingRows(Rows& rows, const Settings& settings);
 
 }  // namespace bench

@@ -1,35 +1,14 @@
 // How the cost of editing grows with what is edited.
-#include <algorithm>
 #include <functional>
-#include <random>
 #include <stdexcept>
 
 #include "rows/growth.h"
+#include "rows/names.h"
 #include "rows/visiting.h"
 #include "written_folder.h"
 
 namespace bench {
 namespace {
-
-using Names = std::vector<Text>;
-
-Names orderedNames(std::size_t size) {
-  Names names(size);
-  for (std::size_t i = 0; i < size; ++i) names[i] = orderedName(i);
-  return names;
-}
-
-Names reversedNames(std::size_t size) {
-  Names names = orderedNames(size);
-  std::reverse(names.begin(), names.end());
-  return names;
-}
-
-Names shuffledNames(std::size_t size) {
-  Names names = orderedNames(size);
-  std::shuffle(names.begin(), names.end(), std::mt19937_64(size));
-  return names;
-}
 
 enum class At { front, middle, end };
 

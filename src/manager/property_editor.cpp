@@ -38,8 +38,11 @@ bool PropertyEditor::save(const bool&) {
 // Opening empties the file, also for a style that then cannot be written.
 bool PropertyEditor::writeTo(const platform::NativePath& path) const {
   const StyleDocument document(style_);
+  platform::FileBuffer buffer;
   const platform::File file = platform::openForWriting(path);
-  return file && writeStyleFile(document, true, file.get()) == KOSTYLE_OK;
+  if (!file) return false;
+  platform::setBuffer(file, buffer);
+  return writeStyleFile(document, true, file.get()) == KOSTYLE_OK;
 }
 
 // A style without a name of its own, which a file with too long a name gives, keeps the new one.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdio>
 #include <memory>
 #include <utility>
 
@@ -20,9 +19,6 @@ bool hasStyleExtension(TextView path) {
   return lastDot != TextView::npos && path.substr(lastDot) == styleFileExtension;
 }
 
-// Most files fit, so that one read of the system takes them whole.
-constexpr std::size_t fileBufferSize = 16384;
-
 // Makes room for one more, so that appending it cannot throw.
 void reserveOneMore(CreationResults& results) {
   if (results.size() == results.capacity())
@@ -33,7 +29,7 @@ void reserveOneMore(CreationResults& results) {
 class StyleLoader {
  public:
   StyleLoader(StyleSet& set, StyleManager& manager)
-      : set_(set), manager_(manager), fileBuffer_(new char[fileBufferSize]) {}
+      : set_(set), manager_(manager), fileBuffer_(new platform::FileBuffer) {}
 
   bool loadStyleFile(const Text& path);
 
@@ -41,7 +37,7 @@ class StyleLoader {
   StyleSet& set_;
   StyleManager& manager_;
   StyleReader reader_;
-  std::unique_ptr<char[]> fileBuffer_;
+  std::unique_ptr<platform::FileBuffer> fileBuffer_;
 };
 
 // False when the file is passed over: it has another extension or cannot be opened.
@@ -49,7 +45,7 @@ bool StyleLoader::loadStyleFile(const Text& path) {
   if (!hasStyleExtension(path)) return false;
   platform::File file = platform::openForReading(platform::nativePath(toLongPath(path.c_str())));
   if (!file) return false;
-  static_cast<void>(std::setvbuf(file.get(), fileBuffer_.get(), _IOFBF, fileBufferSize));
+  platform::setBuffer(file, *fileBuffer_);
   StyleReadOutcome outcome;
   auto style = reader_.read(set_.kind, &manager_, set_.styles, path, file.get(), outcome);
   file.reset();

@@ -58,8 +58,10 @@ Text chooseTemporaryPath(const StyleManager& manager) {
 // again.
 std::uint32_t writeNewFile(const TargetFile& target, const StyleDocument& document,
                            bool pretty) noexcept {
+  platform::FileBuffer buffer;
   platform::File file = target.open();
   if (!file) return KOSTYLE_ERROR_OPEN_FAILED;
+  platform::setBuffer(file, buffer);
   const std::uint32_t code = writeStyleFile(document, pretty, file.get());
   file.reset();
   if (code != KOSTYLE_OK) target.remove();

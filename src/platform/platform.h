@@ -74,6 +74,16 @@ struct FileCloser {
 };
 using File = std::unique_ptr<std::FILE, FileCloser>;
 
+/// Memory for what a stream takes from the system, or gives to it, at once. Most files fit.
+struct FileBuffer {
+  char bytes[16384];
+};
+
+/// Sets the buffer of a stream that was just opened and closes before the buffer goes.
+inline void setBuffer(const File& file, FileBuffer& buffer) noexcept {
+  static_cast<void>(std::setvbuf(file.get(), buffer.bytes, _IOFBF, sizeof buffer.bytes));
+}
+
 /// Opens a file that enumerateDirectory() found to be a regular one, to be read; null when that fails,
 /// and when something else has taken its place since.
 File openForReading(const NativePath& path) noexcept;
