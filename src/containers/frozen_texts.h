@@ -50,7 +50,7 @@ class FrozenText {
   FrozenText(SharedBlock block, TextView text) noexcept : block_(std::move(block)), text_(text) {}
 
   SharedBlock block_;
-  TextView text_ = KOSTYLE_TEXT("");
+  TextView text_{KOSTYLE_TEXT(""), 0};
 };
 
 /// A list of texts, in the order given.

@@ -88,17 +88,17 @@ void RankTree::attach(Node parent, Node old, Node replacement) noexcept {
   if (replacement != none) links_[replacement].parent = parent;
 }
 
-// Lifts a child, which is on the `rising` side of its parent, above it.
-RankTree::Node RankTree::rotate(Node node, Node child, Side rising, Side falling) noexcept {
-  attach(links_[node].parent, node, child);
-  const Node passedOn = links_[child].*falling;
-  links_[node].*rising = passedOn;
-  if (passedOn != none) links_[passedOn].parent = node;
-  links_[child].*falling = node;
-  links_[node].parent = child;
-  updateSize(node);
-  updateSize(child);
-  return child;
+// Lifts a node, which is the `rising` child of another, above it.
+RankTree::Node RankTree::rotate(Node upper, Node lower, Side rising, Side falling) noexcept {
+  attach(links_[upper].parent, upper, lower);
+  const Node passedOn = links_[lower].*falling;
+  links_[upper].*rising = passedOn;
+  if (passedOn != none) links_[passedOn].parent = upper;
+  links_[lower].*falling = upper;
+  links_[upper].parent = lower;
+  updateSize(upper);
+  updateSize(lower);
+  return lower;
 }
 
 RankTree::Node RankTree::balanceSide(Node node, Side light, Side heavy) noexcept {

@@ -74,7 +74,7 @@ class RankTree {
   Node last() const noexcept;
   void join(Node before, Node after) noexcept;
   void attach(Node parent, Node old, Node replacement) noexcept;
-  Node rotate(Node node, Node child, Side rising, Side falling) noexcept;
+  Node rotate(Node upper, Node lower, Side rising, Side falling) noexcept;
   Node balanceSide(Node node, Side light, Side heavy) noexcept;
   void rebalanceUpwards(Node node) noexcept;
   void swapWithSuccessor(Node node) noexcept;

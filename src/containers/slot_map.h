@@ -43,12 +43,13 @@ class SlotMap {
   /// Makes an element in an empty slot.
   template <class Class, class... Arguments>
   SlotNumber emplace(Arguments&&... arguments) {
-    static_assert(sizeof(Class) <= sizeof(Storage) && alignof(Class) <= alignof(Storage));
+    static_assert(sizeof(Class) <= sizeof(Storage));
+    static_assert(alignof(Class) <= alignof(Storage));
     if (firstEmpty_ == noSlot) addSlab();
     const SlotNumber slot = firstEmpty_;
     Storage* const memory = storageOf(slot);
     platform::unpoison(memory, sizeof(Storage));
-    Element* const made = new (memory) Class(std::forward<Arguments>(arguments)...);
+    auto* const made = new (memory) Class(std::forward<Arguments>(arguments)...);
     firstEmpty_ = entries_[slot].nextEmpty;
     entries_[slot].element = made;
     return slot;
