@@ -21,6 +21,7 @@ class FrozenBlock {
   template <class Element>
   Element* take(std::size_t count) noexcept {
     static_assert(std::is_trivially_destructible_v<Element>);
+    static_assert(alignof(Element) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__);
     auto* const first = reinterpret_cast<Element*>(end_);
     end_ += count * sizeof(Element);
     return first;
@@ -44,6 +45,7 @@ class FrozenArray {
 
   template <class... Arguments>
   Element& emplace(Arguments&&... arguments) noexcept {
+    static_assert(std::is_nothrow_constructible_v<Element, Arguments...>);
     return *new (end_++) Element(std::forward<Arguments>(arguments)...);
   }
 

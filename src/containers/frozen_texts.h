@@ -32,6 +32,14 @@ class FrozenText {
   /// A copy in a block of its own.
   explicit FrozenText(TextView text);
 
+  FrozenText(const FrozenText&) = default;
+  FrozenText(FrozenText&& other) noexcept { swap(other); }
+  FrozenText& operator=(FrozenText other) noexcept {
+    swap(other);
+    return *this;
+  }
+  ~FrozenText() = default;
+
   const Char* c_str() const noexcept { return text_.data(); }
   operator TextView() const noexcept { return text_; }
   bool empty() const noexcept { return text_.empty(); }
@@ -43,7 +51,10 @@ class FrozenText {
     return a.text_ == b.text_;
   }
 
-  void swap(FrozenText& other) noexcept { std::swap(*this, other); }
+  void swap(FrozenText& other) noexcept {
+    std::swap(block_, other.block_);
+    std::swap(text_, other.text_);
+  }
 
  private:
   friend class FrozenTextBlock;
@@ -62,6 +73,14 @@ class FrozenTexts {
   template <class Range>
   explicit FrozenTexts(const Range& texts);
 
+  FrozenTexts(const FrozenTexts&) = default;
+  FrozenTexts(FrozenTexts&& other) noexcept { swap(other); }
+  FrozenTexts& operator=(FrozenTexts other) noexcept {
+    swap(other);
+    return *this;
+  }
+  ~FrozenTexts() = default;
+
   std::size_t size() const noexcept { return size_; }
   bool empty() const noexcept { return size_ == 0; }
   const TextView* begin() const noexcept { return texts_; }
@@ -76,7 +95,11 @@ class FrozenTexts {
     return std::equal(a.begin(), a.end(), b.begin(), b.end());
   }
 
-  void swap(FrozenTexts& other) noexcept { std::swap(*this, other); }
+  void swap(FrozenTexts& other) noexcept {
+    std::swap(block_, other.block_);
+    std::swap(texts_, other.texts_);
+    std::swap(size_, other.size_);
+  }
 
  private:
   friend class FrozenTextBlock;

@@ -6,10 +6,10 @@
 // unless a new element has taken its place.
 //
 // Only makeNode() can throw; everything else either reads or commits. Reading never writes, so any
-// number of threads may read at once. A sequence that has never held anything is one null pointer.
+// number of threads may read at once. A sequence that holds nothing is one null pointer; its memory
+// stays until the last element is destroyed.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -57,7 +57,7 @@ class OwnedSequence {
 
  public:
   /// An element outside the order, with all the memory that inserting it takes. It must be gone before
-  /// the sequence is.
+  /// the sequence is, or is cleared.
   class NodeHandle {
    public:
     NodeHandle() = default;
@@ -207,6 +207,7 @@ class OwnedSequence {
   bool destroy(const Interface* element) noexcept {
     if (!contains(element)) return false;
     extract(element);
+    if (body_->elements.empty()) body_.reset();
     return true;
   }
 

@@ -1,7 +1,5 @@
 #include "containers/rank_tree.h"
 
-#include <utility>
-
 namespace Tesk::KoStyle {
 namespace {
 

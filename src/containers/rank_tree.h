@@ -2,7 +2,7 @@
 // and a position by its node in logarithmic time, wherever nodes are inserted and erased.
 //
 // A weight-balanced binary tree: a subtree's size gives the positions and the balance alike. Its links
-// lie in one block of memory, indexed by the nodes' numbers, so that a search stays in few cache lines.
+// are numbers and lie in one array, 24 bytes for a node, so that a large tree stays in the cache.
 // Only reserve() can throw. Reading never writes, so any number of threads may read at once.
 #pragma once
 

@@ -1,9 +1,9 @@
 // SlotMap: elements in numbered slots. An element never moves; a slot that is empty again is the next
 // to be filled.
 //
-// Slots lie in slabs, each half as large as those before it together. So elements lie close to each
-// other, few slabs hold many of them, and the slot of an address is found by arithmetic: the address is
-// compared and never followed.
+// Slots lie in slabs, of which each holds about half as many as those before it together. So elements
+// lie close to each other, few slabs hold many of them, and the slot of an address is found by
+// arithmetic: the address is compared and never followed. Slabs stay until the map goes.
 #pragma once
 
 #include <algorithm>
@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <memory>
 #include <new>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -37,10 +38,13 @@ class SlotMap {
   /// Slots have numbers less than this.
   std::size_t capacity() const noexcept { return entries_.size(); }
 
+  /// Whether all slots are empty.
+  bool empty() const noexcept { return filled_ == 0; }
+
   /// The element of a filled slot.
   Element& operator[](SlotNumber slot) const noexcept { return *entries_[slot].element; }
 
-  /// Makes an element in an empty slot.
+  /// Makes an element in an empty slot. Its constructor must not make another here.
   template <class Class, class... Arguments>
   SlotNumber emplace(Arguments&&... arguments) {
     static_assert(sizeof(Class) <= sizeof(Storage));
@@ -49,18 +53,26 @@ class SlotMap {
     const SlotNumber slot = firstEmpty_;
     Storage* const memory = storageOf(slot);
     platform::unpoison(memory, sizeof(Storage));
-    auto* const made = new (memory) Class(std::forward<Arguments>(arguments)...);
-    firstEmpty_ = entries_[slot].nextEmpty;
-    entries_[slot].element = made;
+    try {
+      auto* const made = new (memory) Class(std::forward<Arguments>(arguments)...);
+      firstEmpty_ = entries_[slot].nextEmpty;
+      entries_[slot].element = made;
+    } catch (...) {
+      platform::poison(memory, sizeof(Storage));
+      throw;
+    }
+    ++filled_;
     return slot;
   }
 
   /// Destroys the element of a filled slot.
   void erase(SlotNumber slot) noexcept {
+    static_assert(sizeof...(Classes) == 0 || std::has_virtual_destructor_v<Element>);
     entries_[slot].element->~Element();
     entries_[slot].nextEmpty = firstEmpty_;
     firstEmpty_ = slot;
     platform::poison(storageOf(slot), sizeof(Storage));
+    --filled_;
   }
 
   /// The slot in whose memory an address lies, filled or empty; noSlot when there is none.
@@ -89,10 +101,16 @@ class SlotMap {
     SlotNumber nextEmpty;
   };
 
+  // As many again while there are few, then half as many.
+  static std::size_t sizeOfNext(std::size_t slots) noexcept {
+    constexpr std::size_t smallest = 4;
+    constexpr std::size_t few = 2048 / sizeof(Storage);
+    return slots <= few ? std::max(smallest, slots) : slots / 2;
+  }
+
   void addSlab() {
-    constexpr std::size_t smallest = std::clamp<std::size_t>(2048 / sizeof(Storage), 4, 16);
     const std::size_t first = entries_.size();
-    const std::size_t size = std::max(smallest, first / 2);
+    const std::size_t size = sizeOfNext(first);
     if (size > noSlot - first) throw std::bad_alloc();
     std::unique_ptr<Storage[]> memory(new Storage[size]);
     slabs_.reserve(slabs_.size() + 1);
@@ -115,6 +133,7 @@ class SlotMap {
   std::vector<Slab> slabs_;
   std::vector<Entry> entries_;
   SlotNumber firstEmpty_ = noSlot;
+  SlotNumber filled_ = 0;
 };
 
 }  // namespace Tesk::KoStyle

@@ -1,6 +1,5 @@
 #include "manager/manager_registry.h"
 
-#include <memory>
 #include <new>
 #include <utility>
 
@@ -44,9 +43,11 @@ IStyleManager* StyleManagerRegistry::findOrCreate(const Char* appID, const Char*
   }
   if (!isDirectory(systemStyleDirPath)) return fail(KOSTYLE_ERROR_SYSTEM_DIRECTORY_MISSING);
   if (!ensureDirectory(userStyleDirPath)) return fail(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
+  IStyleManager* const made =
+      &managers_.append(managers_.makeNode(appID, systemStyleDirPath, userStyleDirPath,
+                                           std::move(systemStyleDirs), std::move(userStyleDirs)));
   error = KOSTYLE_OK;
-  return &managers_.append(managers_.makeNode(appID, systemStyleDirPath, userStyleDirPath,
-                                              std::move(systemStyleDirs), std::move(userStyleDirs)));
+  return made;
 }
 
 void StyleManagerRegistry::destroy(const IStyleManager* manager) {

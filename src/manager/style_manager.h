@@ -60,7 +60,7 @@ class StyleManager final : public StyleOwner {
   /// A user style that is not in the list yet.
   StyleSequence::NodeHandle makeUserStyle();
 
-  /// Appends one.
+  /// Appends a style that makeUserStyle() made.
   UserStyle& append(StyleSequence::NodeHandle style) noexcept;
 
   // Whether a style is in a list; the style is only compared.

@@ -1,7 +1,6 @@
 #include "model/mutable_effect.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "model/mutable_style.h"
 

@@ -29,15 +29,9 @@ bool haveOneName(const NameKey& a, const NameKey& b) noexcept {
   return a.front == b.front && equalTexts(nameOf(a), nameOf(b));
 }
 
-// Whether a name of the run goes on at its depth. If so, the fronts become what stands there.
-bool moveFronts(Keys first, Keys end, std::size_t depth) noexcept {
-  bool goesOn = false;
-  for (auto key = first; key != end; ++key) {
-    const TextView name = nameOf(*key);
-    goesOn = goesOn || name.size() > depth;
-    key->front = frontOf(name.substr(std::min(depth, name.size())));
-  }
-  return goesOn;
+// The fronts become what stands at a depth, where all of the names go on.
+void moveFronts(Keys first, Keys end, std::size_t depth) noexcept {
+  for (auto key = first; key != end; ++key) key->front = frontOf(nameOf(*key).substr(depth));
 }
 
 // The end of the keys that have the front of the first one.
@@ -45,8 +39,8 @@ Keys endOfFront(Keys first, Keys end) noexcept {
   return std::find_if(first, end, [first](const NameKey& key) { return key.front != first->front; });
 }
 
-// Sorts names that are equal as far as the longer one goes on with U+0000 alone, and puts the earliest
-// item of each name before the others.
+// Sorts names that differ in how often U+0000 stands at their ends alone, and puts the earliest item of
+// each name before the others.
 void sortBySize(Keys first, Keys end) noexcept {
   for (auto key = first; key != end; ++key) key->front = nameOf(*key).size();
   if (!std::is_sorted(first, end, frontBefore)) std::sort(first, end, frontBefore);
@@ -65,9 +59,13 @@ void sortByName(NameKeys& keys, std::size_t first) {
     runs.pop_back();
     auto key = keys.begin() + static_cast<std::ptrdiff_t>(run.first);
     const auto end = keys.begin() + static_cast<std::ptrdiff_t>(run.end);
-    if (run.depth > 0 && !moveFronts(key, end, run.depth)) {
-      sortBySize(key, end);
-      continue;
+    if (run.depth > 0) {
+      // What ends here stands before what goes on, and need not be looked at again.
+      const auto ends = [&run](const NameKey& each) { return nameOf(each).size() <= run.depth; };
+      const auto goingOn = std::partition(key, end, ends);
+      sortBySize(key, goingOn);
+      moveFronts(goingOn, end, run.depth);
+      key = goingOn;
     }
     if (!std::is_sorted(key, end, frontBefore)) std::sort(key, end, frontBefore);
     for (Keys next; key != end; key = next) {

@@ -1,5 +1,5 @@
 // Parameter: a parameter of a stored style's effect. It lies in an array beside those of its effect,
-// and its texts in the style's block of texts, the value behind the name.
+// and its texts in the same block, the value behind the name.
 #pragma once
 
 #include <cstddef>

@@ -1,6 +1,6 @@
-// StoredContent: all that a stored style holds, frozen into two blocks: one for what an overwrite
-// replaces as a whole, one for the texts that it leaves in place where they keep their value.
-// StyleBuilder makes it.
+// StoredContent: all that a stored style holds, frozen into three blocks: identifier and path, which
+// creation results share; the texts that an overwrite leaves in place where they keep their value; and
+// what it replaces as a whole. StyleBuilder makes it.
 #pragma once
 
 #include "containers/frozen_array.h"

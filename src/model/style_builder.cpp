@@ -52,13 +52,13 @@ void StyleBuilder::freezeTexts(StoredContent& content) {
     for (const NameKey& key : keys_) listed_.push_back(key.item->name);
     ends[list] = listed_.size();
   }
-  std::size_t units = 0;
-  for (const TextView text : {id_, path_, vendor_, name_}) units += unitsOf(text);
-  for (const TextView text : listed_) units += unitsOf(text);
+  FrozenTextBlock identity(0, unitsOf(id_) + unitsOf(path_));
+  content.id = identity.add(id_);
+  content.path = identity.add(path_);
 
+  std::size_t units = unitsOf(vendor_) + unitsOf(name_);
+  for (const TextView text : listed_) units += unitsOf(text);
   FrozenTextBlock block(listed_.size(), units);
-  content.id = block.add(id_);
-  content.path = block.add(path_);
   content.vendor = block.add(vendor_);
   content.name = block.add(name_);
   content.attributes.languages = languages_;

@@ -1,5 +1,11 @@
 #include "platform/poison.h"
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define __SANITIZE_ADDRESS__ 1  // as GCC says it
+#endif
+#endif
+
 #if defined(__SANITIZE_ADDRESS__)
 
 #include <sanitizer/asan_interface.h>

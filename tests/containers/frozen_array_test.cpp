@@ -91,9 +91,13 @@ TEST(FrozenBlock, GivesItsMemoryPieceByPiece) {
   FrozenArray<Element> elements(block.take<Element>(2));
   Char* const units = block.take<Char>(5);
   EXPECT_EQ(static_cast<void*>(units), static_cast<void*>(elements.end() + 2));
-  FrozenBlock other;
-  other.swap(block);
-  EXPECT_EQ(elements.emplace(7).value(), 7) << "what lies in a block does not move with it";
+  {
+    FrozenBlock other;
+    other.swap(block);
+    block.swap(other);
+  }
+  EXPECT_EQ(elements.emplace(7).value(), 7)
+      << "what lies in a block does not move when it is exchanged";
 }
 
 }  // namespace

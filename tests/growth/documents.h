@@ -21,6 +21,12 @@ inline std::string reversed(int i, int n) { return sorted(n - 1 - i, n); }
 /// 7919 is a prime: no number comes twice.
 inline std::string scattered(int i, int n) { return sorted(static_cast<int>(i * 7919LL % n), n); }
 inline std::string same(int, int) { return "the same for all"; }
+/// U+0000 once or twice, and at last so often that the names differ in length alone.
+inline std::string nulls(int i, int n) {
+  std::string escapes;
+  for (int k = i + 1 < n ? 1 + i % 2 : n; k > 0; --k) escapes += "\\u0000";
+  return escapes;
+}
 
 inline std::string list(int n, const std::function<std::string(int)>& element) {
   std::string result;

@@ -18,9 +18,11 @@ TEST(CreatingAManagerWithoutMemory, RegistersNothingAndReleasesTheLock) {
   const auto user = test::pathText(directory.folder("user"));
   const Text appID = test::text("an application identifier that is allocated");
   const KoStyleChar* const further[] = {wrong.c_str(), right.c_str()};
+  constexpr int untouched = -1;
+  int error = untouched;
   const auto create = [&](const Text& system) {
     return CreateStyleManager(appID.c_str(), system.c_str(), user.c_str(), further, 2, further, 2,
-                              nullptr);
+                              &error);
   };
   EXPECT_FALSE(HasStyleManager(nullptr));
 
@@ -30,6 +32,7 @@ TEST(CreatingAManagerWithoutMemory, RegistersNothingAndReleasesTheLock) {
                                [&](long n, bool thrown) {
                                  EXPECT_TRUE(thrown) << n;
                                  EXPECT_EQ(manager, nullptr) << n;
+                                 EXPECT_EQ(error, untouched) << n;
                                  // Were one registered, it would be given, with the
                                  // directory of the call that failed.
                                  KoStyleManager* const other = create(right);
@@ -37,8 +40,10 @@ TEST(CreatingAManagerWithoutMemory, RegistersNothingAndReleasesTheLock) {
                                  EXPECT_EQ(Text(StyleManager_systemStyleDirPath(other)), right) << n;
                                  EXPECT_TRUE(HasStyleManager(other));
                                  EXPECT_TRUE(StyleManager_destroy(other));
+                                 error = untouched;
                                });
   EXPECT_GT(failures, 5);
+  EXPECT_EQ(error, KOSTYLE_OK);
   ASSERT_NE(manager, nullptr);
   EXPECT_TRUE(HasStyleManager(manager));
   EXPECT_EQ(Text(StyleManager_systemStyleDirPath(manager)), wrong);
