@@ -36,12 +36,9 @@ void addEffectVisits(Rows& rows, const std::filesystem::path& directory, std::si
   add("prev/effects", [=](KoStyleManager* manager) {
     return walkLength(Style_audioEffect(onlyStyle(manager), size - 1), AudioEffect_prev);
   });
-  add("has/effects", [=](KoStyleManager* manager) {
-    KoStyleStyle* const style = onlyStyle(manager);
-    return countHeld(
-        size, [=](std::size_t i) { return Style_audioEffect(style, i); },
-        [=](KoStyleEffect* effect) { return Style_hasAudioEffect(style, effect); });
-  });
+  addRow<Asking<KoStyleStyle, KoStyleEffect>>(rows, growthName("has/effects", size), Runs::many,
+                                              directory, size, onlyStyle, Style_audioEffect,
+                                              Style_hasAudioEffect);
 }
 
 void addParameterVisits(Rows& rows, const std::filesystem::path& directory, std::size_t size) {
@@ -54,12 +51,9 @@ void addParameterVisits(Rows& rows, const std::filesystem::path& directory, std:
   add("prev/parameters", [=](KoStyleManager* manager) {
     return walkLength(Effect_parameter(onlyEffect(manager), size - 1), Parameter_prev);
   });
-  add("has/parameters", [=](KoStyleManager* manager) {
-    KoStyleEffect* const effect = onlyEffect(manager);
-    return countHeld(
-        size, [=](std::size_t i) { return Effect_parameter(effect, i); },
-        [=](KoStyleParameter* parameter) { return Effect_hasParameter(effect, parameter); });
-  });
+  addRow<Asking<KoStyleEffect, KoStyleParameter>>(rows, growthName("has/parameters", size), Runs::many,
+                                                  directory, size, onlyEffect, Effect_parameter,
+                                                  Effect_hasParameter);
 }
 
 std::filesystem::path folder(const Settings& settings, const std::string& content, std::size_t size) {

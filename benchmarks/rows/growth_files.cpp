@@ -38,11 +38,10 @@ void addVisits(Rows& rows, const std::filesystem::path& directory, std::size_t s
     return walkLength(StyleManager_systemStyleCreationResult(manager, last(size)),
                       StyleCreationResult_prev);
   });
-  add("has/styles", [=](KoStyleManager* manager) {
-    return countHeld(
-        size, [=](std::size_t i) { return StyleManager_systemStyle(manager, i); },
-        [=](KoStyleStyle* style) { return StyleManager_hasSystemStyle(manager, style); });
-  });
+  addRow<Asking<KoStyleManager, KoStyleStyle>>(
+      rows, growthName("has/styles", size), Runs::many, directory, size,
+      [](KoStyleManager* manager) { return manager; }, StyleManager_systemStyle,
+      StyleManager_hasSystemStyle);
 }
 
 }  // namespace
