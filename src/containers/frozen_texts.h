@@ -40,28 +40,33 @@ class FrozenText {
   }
   ~FrozenText() = default;
 
-  const Char* c_str() const noexcept { return text_.data(); }
-  operator TextView() const noexcept { return text_; }
-  bool empty() const noexcept { return text_.empty(); }
+  const Char* c_str() const noexcept { return units_; }
+  operator TextView() const noexcept { return {units_, size_}; }
+  bool empty() const noexcept { return size_ == 0; }
 
   /// Ends the text before a unit of it, without moving it.
-  void truncate(std::size_t size) noexcept { text_ = text_.substr(0, size); }
+  void truncate(std::size_t size) noexcept { size_ = std::min(size_, size); }
 
   friend bool operator==(const FrozenText& a, const FrozenText& b) noexcept {
-    return a.text_ == b.text_;
+    return TextView(a) == TextView(b);
   }
 
   void swap(FrozenText& other) noexcept {
     std::swap(block_, other.block_);
-    std::swap(text_, other.text_);
+    std::swap(units_, other.units_);
+    std::swap(size_, other.size_);
   }
 
  private:
   friend class FrozenTextBlock;
-  FrozenText(SharedBlock block, TextView text) noexcept : block_(std::move(block)), text_(text) {}
+  FrozenText(SharedBlock block, TextView text) noexcept
+      : block_(std::move(block)), units_(text.data()), size_(text.size()) {}
+
+  static constexpr Char nothing[1] = {};
 
   SharedBlock block_;
-  TextView text_{KOSTYLE_TEXT(""), 0};
+  const Char* units_ = nothing;
+  std::size_t size_ = 0;
 };
 
 /// A list of texts, in the order given.

@@ -1,6 +1,5 @@
 #include "platform/posix_names.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
@@ -57,10 +56,14 @@ void appendUtf8(std::string& bytes, std::uint32_t codePoint) {
   }
 }
 
-// Most names are of these alone, which mean the same on both sides.
-template <class Unit>
-bool isAscii(Unit unit) {
-  return static_cast<std::make_unsigned_t<Unit>>(unit) < 0x80;
+// How many units at the start are ASCII, which means the same on both sides. Most names are nothing
+// else.
+template <class View>
+std::size_t countAscii(View name) {
+  std::size_t count = 0;
+  using Unit = std::make_unsigned_t<typename View::value_type>;
+  while (count < name.size() && static_cast<Unit>(name[count]) < 0x80) ++count;
+  return count;
 }
 
 bool isHighSurrogate(std::uint32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
@@ -72,11 +75,11 @@ bool isStrayByte(std::uint32_t unit) {
 }  // namespace
 
 Text textFromName(std::string_view name) {
-  const auto ascii = std::find_if_not(name.begin(), name.end(), isAscii<char>);
+  const std::string_view ascii = name.substr(0, countAscii(name));
   Text text;
   text.reserve(name.size());
-  text.assign(name.begin(), ascii);
-  name.remove_prefix(text.size());
+  text.assign(ascii.begin(), ascii.end());
+  name.remove_prefix(ascii.size());
   while (!name.empty()) {
     const Sequence sequence = decodeSequence(name);
     if (sequence.length == 0) {
@@ -91,10 +94,10 @@ Text textFromName(std::string_view name) {
 }
 
 std::optional<std::string> nameFromText(TextView text) {
-  const auto ascii = std::find_if_not(text.begin(), text.end(), isAscii<Char>);
+  const TextView ascii = text.substr(0, countAscii(text));
   std::string bytes;
   bytes.reserve(text.size());
-  bytes.assign(text.begin(), ascii);
+  bytes.assign(ascii.begin(), ascii.end());
   for (std::size_t i = bytes.size(); i < text.size(); ++i) {
     const std::uint32_t unit = text[i];
     if (isHighSurrogate(unit) && i + 1 < text.size() && isLowSurrogate(text[i + 1])) {
