@@ -35,7 +35,8 @@ class Native:
         if library:
             folder = scratch / "library"
             folder.mkdir()
-            (folder / "libKoStyle.so.0").symlink_to(library.resolve())
+            # Under the name by which the program asks for its own.
+            (folder / next((ROOT / "build/bench/lib").glob("libKoStyle.so.[0-9]")).name).symlink_to(library.resolve())
             self.environment["LD_LIBRARY_PATH"] = str(folder)
 
     @staticmethod

@@ -80,6 +80,7 @@
 #include "property_editor.h"
 #include "style.h"
 #include "types.h"
+#include "version.h"
 /* IWYU pragma: end_exports */
 
 #endif

@@ -1,3 +1,5 @@
+#include <kostyle/version.h>
+
 #include "tool/tool.h"
 
 namespace test {
@@ -6,7 +8,7 @@ namespace {
 TEST(CommandLine, PrintsVersion) {
   const Outcome outcome = runTool({"--version"});
   expectSuccess(outcome);
-  EXPECT_EQ(outcome.out, "kostyle " KOSTYLE_VERSION "\n");
+  EXPECT_EQ(outcome.out, "kostyle " KOSTYLE_VERSION_STRING "\n");
 }
 
 TEST(CommandLine, HelpShowsEveryCommandWithExamples) {

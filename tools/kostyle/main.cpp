@@ -1,4 +1,5 @@
 #include <fmt/format.h>
+#include <kostyle/version.h>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -25,7 +26,7 @@ constexpr const char* examples = R"(Examples:
 int run(std::vector<std::string> arguments) {
   CLI::App app("Lists, shows and edits .kostyle style files.", "kostyle");
   app.allow_windows_style_options(false);
-  app.set_version_flag("--version", "kostyle " KOSTYLE_VERSION);
+  app.set_version_flag("--version", "kostyle " KOSTYLE_VERSION_STRING);
   app.require_subcommand(0, 1);
   app.footer(examples);
   tool::Command chosen;
