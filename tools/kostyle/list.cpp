@@ -5,10 +5,10 @@
 #include <memory>
 
 #include "attributes.h"
-#include "code_texts.h"
 #include "commands.h"
 #include "failure.h"
 #include "manager.h"
+#include "reasons.h"
 #include "style_json.h"
 #include "table.h"
 #include "text.h"

@@ -1,8 +1,8 @@
 #include "manager.h"
 
 #include <fmt/format.h>
+#include <kostyle/helpers.h>
 
-#include "code_texts.h"
 #include "failure.h"
 
 namespace tool {
@@ -42,7 +42,7 @@ Manager::Manager(const StyleDirectories& directories) {
                                userExtra.data(), userExtra.size(), &error);
   if (!handle_) {
     const bool userFails = error == KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE;
-    throw Refused(fmt::format("{}: {}", shownPath(userFails ? user : system), codeText(error)));
+    throw Refused(fmt::format("{}: {}", shownPath(userFails ? user : system), KoStyle_codeText(error)));
   }
   try {
     read(directories);
@@ -54,7 +54,8 @@ Manager::Manager(const StyleDirectories& directories) {
 
 void Manager::read(const StyleDirectories& directories) {
   const auto check = [](int error, const fs::path& path) {
-    if (error != KOSTYLE_OK) throw Refused(fmt::format("{}: {}", shownPath(path), codeText(error)));
+    if (error != KOSTYLE_OK)
+      throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
   };
   if (directories.system) check(StyleManager_readSystemStyles(handle_), *directories.system);
   if (directories.user) check(StyleManager_readUserStyles(handle_), *directories.user);

@@ -1,10 +1,10 @@
 #include <fmt/format.h>
+#include <kostyle/helpers.h>
 
 #include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 
-#include "code_texts.h"
 #include "commands.h"
 #include "failure.h"
 #include "manager.h"
@@ -24,7 +24,7 @@ int remove(const RemoveOptions& options) {
   KoStyleStyle* style = manager.userStyle(fromUtf8(options.id));
   const std::string path = pathToUtf8(Style_path(style));
   const int error = UserStyle_remove(style);
-  if (error != KOSTYLE_OK) throw Refused(fmt::format("{}: {}", path, codeText(error)));
+  if (error != KOSTYLE_OK) throw Refused(fmt::format("{}: {}", path, KoStyle_codeText(error)));
   return exitOk;
 }
 

@@ -1,12 +1,12 @@
 #include "saving.h"
 
 #include <fmt/format.h>
+#include <kostyle/helpers.h>
 
 #include <cmath>
 #include <exception>
 
 #include "backup.h"
-#include "code_texts.h"
 #include "failure.h"
 #include "output.h"
 #include "style_file.h"
@@ -81,7 +81,8 @@ void printWritten(KoStyleStyle* style) {
 }
 
 void check(int error, const fs::path& path) {
-  if (error != KOSTYLE_OK) throw Refused(fmt::format("{}: {}", shownPath(path), codeText(error)));
+  if (error != KOSTYLE_OK)
+    throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 
 #include <system_error>
 
-#include "code_texts.h"
 #include "failure.h"
+#include "reasons.h"
 
 namespace tool {
 

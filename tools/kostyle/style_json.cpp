@@ -1,5 +1,6 @@
 #include "style_json.h"
 
+#include <kostyle/helpers.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
 
@@ -7,8 +8,8 @@
 #include <string_view>
 
 #include "attributes.h"
-#include "code_texts.h"
 #include "parameter_value.h"
+#include "reasons.h"
 #include "text.h"
 
 namespace tool {
@@ -99,7 +100,7 @@ void writeParseError(Writer& writer, KoStyleCreationResult* result) {
   writer.StartObject();
   writer.Key("code");
   writer.Int(parseError);
-  writeMember(writer, "text", parseErrorText(parseError));
+  writeMember(writer, "text", KoStyle_parseErrorText(parseError));
   writer.Key("offset");
   writer.Uint64(StyleCreationResult_parseErrorOffset(result));
   writer.EndObject();
@@ -112,7 +113,7 @@ void writeRefusal(Writer& writer, KoStyleCreationResult* result) {
   writeMember(writer, "path", toUtf8(StyleCreationResult_filePath(result)));
   writer.Key("code");
   writer.Int(code);
-  writeMember(writer, "text", codeText(code));
+  writeMember(writer, "text", KoStyle_codeText(code));
   writeMember(writer, "id", toUtf8(StyleCreationResult_id(result)));
   writeMember(writer, "jsonPath", toUtf8(StyleCreationResult_jsonPath(result)));
   if (code == KOSTYLE_ERROR_JSON_SYNTAX) writeParseError(writer, result);

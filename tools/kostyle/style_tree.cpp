@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "attributes.h"
-#include "code_texts.h"
 #include "parameter_value.h"
+#include "reasons.h"
 #include "text.h"
 
 namespace tool {

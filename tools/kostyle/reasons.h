@@ -1,4 +1,4 @@
-// What the library's codes say, in words.
+// Why files were refused, and what kinds are, in words.
 #pragma once
 
 #include <kostyle/kostyle.h>
@@ -6,12 +6,6 @@
 #include <string>
 
 namespace tool {
-
-/// A value of enum KoStyleCode.
-const char* codeText(int code);
-
-/// A value of enum KoStyleParseError.
-const char* parseErrorText(int parseError);
 
 /// Why a file was refused: the code, and where in the file.
 std::string reason(KoStyleCreationResult* result);
