@@ -13,8 +13,10 @@
 #include "types.h"
 
 #ifdef __cplusplus
+#define KOSTYLE_INLINE inline
 #define KOSTYLE_CAST(Type, value) static_cast<Type>(value)
 #else
+#define KOSTYLE_INLINE static inline
 #define KOSTYLE_CAST(Type, value) ((Type)(value))
 #endif
 
@@ -24,7 +26,7 @@
  * One sentence for a code of enum KoStyleCode, in English, without a capital or a full stop, so that it
  * may stand behind a colon. Never NULL: a code that is not known gives a sentence that says so.
  */
-static inline const char* KoStyle_codeText(int code) {
+KOSTYLE_INLINE const char* KoStyle_codeText(int code) {
   switch (code) {
     case KOSTYLE_OK:
       return "success";
@@ -88,7 +90,7 @@ static inline const char* KoStyle_codeText(int code) {
 }
 
 /** One sentence for what StyleCreationResult_parseError() gives, in the same form; never NULL. */
-static inline const char* KoStyle_parseErrorText(int parseError) {
+KOSTYLE_INLINE const char* KoStyle_parseErrorText(int parseError) {
   switch (parseError) {
     case KOSTYLE_PARSE_OK:
       return "success";
@@ -136,7 +138,7 @@ static inline const char* KoStyle_parseErrorText(int parseError) {
  * no valid sequence (overlong forms, surrogates and what lies beyond U+10FFFF are none) is taken alone,
  * as `stray` plus its value, or as U+FFFD when `stray` is zero.
  */
-static inline uint32_t KoStyle_takeUtf8(const char** utf8, uint32_t stray) {
+KOSTYLE_INLINE uint32_t KoStyle_takeUtf8(const char** utf8, uint32_t stray) {
   const char* const at = *utf8;
   const uint32_t lead = KOSTYLE_CAST(unsigned char, at[0]);
   const int length = lead < 0x80   ? 1
@@ -162,8 +164,8 @@ static inline uint32_t KoStyle_takeUtf8(const char** utf8, uint32_t stray) {
 }
 
 /* Internal: the one body of both conversions to UTF-16. */
-static inline size_t KoStyle_widen(const char* utf8, KoStyleChar* buffer, size_t capacity,
-                                   uint32_t stray) {
+KOSTYLE_INLINE size_t KoStyle_widen(const char* utf8, KoStyleChar* buffer, size_t capacity,
+                                    uint32_t stray) {
   size_t length = 0;
   size_t written = 0;
   while (utf8 && *utf8) {
@@ -184,8 +186,8 @@ static inline size_t KoStyle_widen(const char* utf8, KoStyleChar* buffer, size_t
 }
 
 /* Internal: the one body of both conversions to UTF-8. */
-static inline size_t KoStyle_narrow(const KoStyleChar* text, char* buffer, size_t capacity,
-                                    uint32_t stray) {
+KOSTYLE_INLINE size_t KoStyle_narrow(const KoStyleChar* text, char* buffer, size_t capacity,
+                                     uint32_t stray) {
   size_t length = 0;
   size_t written = 0;
   while (text && *text) {
@@ -236,7 +238,7 @@ static inline size_t KoStyle_narrow(const KoStyleChar* text, char* buffer, size_
  * @return The units of the whole text without its NUL. When this is not less than `capacity`, the text
  *     was cut: a buffer of one unit more than this holds it.
  */
-static inline size_t KoStyle_textFromUtf8(const char* utf8, KoStyleChar* buffer, size_t capacity) {
+KOSTYLE_INLINE size_t KoStyle_textFromUtf8(const char* utf8, KoStyleChar* buffer, size_t capacity) {
   return KoStyle_widen(utf8, buffer, capacity, 0);
 }
 
@@ -248,7 +250,7 @@ static inline size_t KoStyle_textFromUtf8(const char* utf8, KoStyleChar* buffer,
  * @param capacity Of the buffer, in bytes. What does not fit is left off, never half a code point.
  * @return The bytes of the whole text without its NUL; cut when this is not less than `capacity`.
  */
-static inline size_t KoStyle_utf8FromText(const KoStyleChar* text, char* buffer, size_t capacity) {
+KOSTYLE_INLINE size_t KoStyle_utf8FromText(const KoStyleChar* text, char* buffer, size_t capacity) {
   return KoStyle_narrow(text, buffer, capacity, 0);
 }
 
@@ -256,7 +258,7 @@ static inline size_t KoStyle_utf8FromText(const KoStyleChar* text, char* buffer,
  * Converts a path of a system whose paths are bytes, as Linux, to the library's text, without loss: a
  * byte b that is not valid UTF-8 becomes the unit 0xDC00 + b. Otherwise as KoStyle_textFromUtf8().
  */
-static inline size_t KoStyle_textFromPath(const char* path, KoStyleChar* buffer, size_t capacity) {
+KOSTYLE_INLINE size_t KoStyle_textFromPath(const char* path, KoStyleChar* buffer, size_t capacity) {
   return KoStyle_widen(path, buffer, capacity, 0xDC00);
 }
 
@@ -264,14 +266,14 @@ static inline size_t KoStyle_textFromPath(const char* path, KoStyleChar* buffer,
  * Converts a path that the library gave to the bytes of the system: the way back of
  * KoStyle_textFromPath(). Another lone surrogate becomes U+FFFD. Otherwise as KoStyle_utf8FromText().
  */
-static inline size_t KoStyle_pathFromText(const KoStyleChar* text, char* buffer, size_t capacity) {
+KOSTYLE_INLINE size_t KoStyle_pathFromText(const KoStyleChar* text, char* buffer, size_t capacity) {
   return KoStyle_narrow(text, buffer, capacity, 0xDC00);
 }
 
 /* --- Places in files ------------------------------------------------------------------------------- */
 
 /* Internal: a code unit of a file, of 1, 2 or 4 bytes in either order. */
-static inline uint32_t KoStyle_unitAt(const unsigned char* bytes, size_t unitSize, size_t bigEndian) {
+KOSTYLE_INLINE uint32_t KoStyle_unitAt(const unsigned char* bytes, size_t unitSize, size_t bigEndian) {
   uint32_t unit = 0;
   for (size_t i = 0; i < unitSize; ++i) {
     const size_t shift = 8 * (bigEndian ? unitSize - 1 - i : i);
@@ -287,12 +289,11 @@ struct KoStyleEncoding {
   size_t markSize;
 };
 
-static inline struct KoStyleEncoding KoStyle_encodingOf(const unsigned char* bytes, size_t size) {
+KOSTYLE_INLINE struct KoStyleEncoding KoStyle_encodingOf(const unsigned char* bytes, size_t size) {
   struct KoStyleEncoding encoding = {1, 0, 0};
-  if (size < 4) return encoding;
-  const uint32_t start = KoStyle_unitAt(bytes, 4, 1);
-  const unsigned zeros =
-      (bytes[0] == 0) * 8U + (bytes[1] == 0) * 4U + (bytes[2] == 0) * 2U + (bytes[3] == 0);
+  const uint32_t start = size < 4 ? 0x20202020 : KoStyle_unitAt(bytes, 4, 1);
+  const unsigned zeros = (start >> 24 == 0) * 8U + ((start >> 16 & 0xFF) == 0) * 4U +
+                         ((start >> 8 & 0xFF) == 0) * 2U + ((start & 0xFF) == 0);
   const int utf32 = start == 0x0000FEFF || start == 0xFFFE0000;
   const int utf16 = !utf32 && (start >> 16 == 0xFEFF || start >> 16 == 0xFFFE);
   if (utf32 || (!utf16 && (zeros == 0xE || zeros == 0x7))) {
@@ -309,35 +310,59 @@ static inline struct KoStyleEncoding KoStyle_encodingOf(const unsigned char* byt
   return encoding;
 }
 
+/* Internal: the bytes of the character at a place of the file; CR LF is one. */
+KOSTYLE_INLINE size_t KoStyle_characterSize(const unsigned char* bytes, size_t size,
+                                            struct KoStyleEncoding encoding) {
+  const size_t step = encoding.unitSize;
+  size_t taken = step < size ? step : size;
+  uint32_t unit;
+  if (size < 2 * step) return taken;
+  unit = KoStyle_unitAt(bytes, step, encoding.bigEndian);
+  if (unit == '\r' && KoStyle_unitAt(bytes + step, step, encoding.bigEndian) == '\n') return 2 * step;
+  if (step == 2 && unit >= 0xD800 && unit <= 0xDBFF) {
+    const uint32_t next = KoStyle_unitAt(bytes + step, step, encoding.bigEndian);
+    if (next >= 0xDC00 && next <= 0xDFFF) taken = 4;
+  }
+  if (step == 1 && unit >= 0xC2) {
+    while (taken < size && taken < 4 && (bytes[taken] & 0xC0) == 0x80) ++taken;
+  }
+  return taken;
+}
+
 /**
- * Finds the line and the column of a place in a style file, for StyleCreationResult_parseErrorOffset().
+ * Finds the line and the column that StyleCreationResult_parseErrorOffset() means: those of the character
+ * whose last byte, or an earlier one of its own, is the offset's last. When the file ends too early that
+ * is its last character; after KOSTYLE_PARSE_TERMINATED it is the one behind the bracket.
  *
  * @param content The file's bytes in any encoding that the library reads: UTF-8, UTF-16 or UTF-32 of
  *     either byte order, with or without a byte-order mark.
  * @param size Of the content, in bytes.
- * @param offset Of the place, in bytes from the start of the file. Beyond the end it is taken as the end.
+ * @param offset A number of bytes from the start of the file, as the library gives it. Beyond the end it
+ *     is taken as the end.
  * @param line Gets the line, counted from 1. Lines end with LF, CR or CR LF.
  * @param column Gets the column, counted from 1 in code points; a byte-order mark is none.
  */
-static inline void KoStyle_findLine(const void* content, size_t size, uint64_t offset, size_t* line,
-                                    size_t* column) {
+KOSTYLE_INLINE void KoStyle_findLine(const void* content, size_t size, uint64_t offset, size_t* line,
+                                     size_t* column) {
   const unsigned char* const bytes = KOSTYLE_CAST(const unsigned char*, content);
   const struct KoStyleEncoding encoding = KoStyle_encodingOf(bytes, size);
-  const size_t step = encoding.unitSize;
-  uint32_t previous = 0;
+  const size_t end = offset < size ? KOSTYLE_CAST(size_t, offset) : size;
+  size_t at = encoding.markSize;
   *line = 1;
   *column = 1;
-  for (size_t at = encoding.markSize; at + step <= size && at + step <= offset; at += step) {
-    const uint32_t unit = KoStyle_unitAt(bytes + at, step, encoding.bigEndian);
-    const int continues = step == 1 ? (unit & 0xC0) == 0x80 : unit >= 0xDC00 && unit <= 0xDFFF;
-    const int endsLine = unit == '\r' || (unit == '\n' && previous != '\r');
-    if (endsLine) {
+  while (at < end) {
+    const size_t taken = KoStyle_characterSize(bytes + at, size - at, encoding);
+    uint32_t unit = 0;
+    if (at + taken >= end) return;
+    if (taken >= encoding.unitSize)
+      unit = KoStyle_unitAt(bytes + at, encoding.unitSize, encoding.bigEndian);
+    if (unit == '\r' || unit == '\n') {
       ++*line;
       *column = 1;
-    } else if (unit != '\n' && !continues) {
+    } else {
       ++*column;
     }
-    previous = unit;
+    at += taken;
   }
 }
 

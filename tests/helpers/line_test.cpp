@@ -1,10 +1,12 @@
 // Lines and columns of places in files.
 #include <gtest/gtest.h>
 #include <kostyle/helpers.h>
+#include <kostyle/kostyle.h>
 
 #include <string>
 
 #include "support/encodings.h"
+#include "support/host.h"
 
 namespace {
 
@@ -28,26 +30,54 @@ Place placeOf(const std::string& content, uint64_t offset) {
 TEST(HelperLine, CountsFromOne) {
   EXPECT_EQ(placeOf("", 0), (Place{1, 1}));
   EXPECT_EQ(placeOf("{}", 0), (Place{1, 1}));
-  EXPECT_EQ(placeOf("{}", 1), (Place{1, 2}));
-  EXPECT_EQ(placeOf("{}", 1000), (Place{1, 3}));
+  EXPECT_EQ(placeOf("{}", 1), (Place{1, 1}));
+  EXPECT_EQ(placeOf("{}", 2), (Place{1, 2}));
+  EXPECT_EQ(placeOf("{}", 1000), (Place{1, 2}));
 }
 
 TEST(HelperLine, EndsLinesWithEveryLineEnd) {
   const std::string content = "{\n\"a\"\r\n:\r1\n\n}";
-  EXPECT_EQ(placeOf(content, content.find('"')), (Place{2, 1}));
-  EXPECT_EQ(placeOf(content, content.find(':')), (Place{3, 1}));
-  EXPECT_EQ(placeOf(content, content.find('1')), (Place{4, 1}));
-  EXPECT_EQ(placeOf(content, content.find('}')), (Place{6, 1}));
+  const auto placeOfCharacter = [&](char character) {
+    return placeOf(content, content.find(character) + 1);
+  };
+  EXPECT_EQ(placeOfCharacter('\n'), (Place{1, 2})) << "a line's end belongs to it";
+  EXPECT_EQ(placeOfCharacter('a'), (Place{2, 2}));
+  EXPECT_EQ(placeOfCharacter('\r'), (Place{2, 4}));
+  EXPECT_EQ(placeOf(content, content.find("\r\n") + 2), (Place{2, 4})) << "CR LF is one";
+  EXPECT_EQ(placeOfCharacter(':'), (Place{3, 1}));
+  EXPECT_EQ(placeOfCharacter('1'), (Place{4, 1}));
+  EXPECT_EQ(placeOfCharacter('}'), (Place{6, 1}));
 }
 
-TEST(HelperLine, CountsCodePointsInEveryEncoding) {
-  const std::string before = "{\r\n  \"\xC3\xA9\xF0\x9F\x98\x80\": ";
-  for (const test::Encoding encoding : test::allEncodings()) {
-    for (const bool mark : {false, true}) {
-      const std::string content = test::encoded(before + "x}", encoding, mark);
-      const std::size_t offset = test::encoded(before, encoding, mark).size();
-      EXPECT_EQ(placeOf(content, offset), (Place{2, 9})) << test::nameOf(encoding) << mark;
-      EXPECT_EQ(placeOf(content, mark ? test::unitSize(encoding) : 0), (Place{1, 1}));
+struct Fault {
+  const char* content;
+  Place place;
+};
+
+// The library tells the offset, in every encoding, with and without a mark.
+TEST(HelperLine, IsThatOfTheLibrarysSyntaxErrors) {
+  const Fault faults[] = {
+      {"x   ", {1, 1}},
+      {"{\n  \"id\" x", {2, 8}},
+      {"{\r\n\r\n  x", {3, 3}},
+      {"{\n  \"id\": \"a\nb\"}", {2, 11}},
+      {"{\"\xC3\xA9\xF0\x9F\x98\x80\": \xC3\xA9}", {1, 8}},
+      {"{\"\xC3\xA9\xF0\x9F\x98\x80\": 1 \xF0\x9F\x98\x80}", {1, 10}},
+      {"{\n\"id\": \"a\"", {2, 9}},
+      {"{\"id\": 1}\n {", {2, 2}},
+  };
+  for (const Fault& fault : faults) {
+    for (const test::Encoding encoding : test::allEncodings()) {
+      for (const bool mark : {false, true}) {
+        const std::string content = test::encoded(fault.content, encoding, mark);
+        const test::Host host;
+        test::writeFile(host.system / "faulty.kostyle", content);
+        ASSERT_EQ(StyleManager_readSystemStyles(host.manager), KOSTYLE_OK);
+        KoStyleCreationResult* const result = StyleManager_systemStyleCreationResult(host.manager, 0);
+        ASSERT_EQ(StyleCreationResult_error(result), KOSTYLE_ERROR_JSON_SYNTAX);
+        EXPECT_EQ(placeOf(content, StyleCreationResult_parseErrorOffset(result)), fault.place)
+            << fault.content << ", " << test::nameOf(encoding) << (mark ? " with a mark" : "");
+      }
     }
   }
 }

@@ -1,4 +1,4 @@
-"""The built library carries the protections of its platform, its version, and needs system libraries only.
+"""The built library carries the protections of its platform and needs system libraries only.
 
 usage: check_hardening.py LIBRARY OBJDUMP
 """
@@ -17,10 +17,6 @@ def main(library, objdump):
     else:
         required = [r"RELRO", r"STACK .*\n.*flags rw-", r"FLAGS\s+0x0*8\b", r"SONAME\s+libKoStyle\.so\.\d+"]
         foreign = set()
-    if library.endswith(".dll"):
-        with open(library, "rb") as file:
-            if "VS_VERSION_INFO".encode("utf-16-le") not in file.read():
-                sys.exit(f"{library}: no version resource")
     missing = [pattern for pattern in required if not re.search(pattern, headers)]
     if missing or foreign:
         sys.exit(f"{library}: missing {missing}, needs {sorted(foreign)}")

@@ -46,6 +46,9 @@ def interface(include, exports):
         header = without_comments(path.read_text(encoding="utf-8"))
         found_functions.update(functions(header, entries))
         found_constants.update(constants(header))
+    names = {line.split(" = ")[0] for line in exports.read_text(encoding="ascii").splitlines() if line[:1].isalpha()}
+    if names != set(found_functions):
+        sys.exit(f"exported or declared alone: {sorted(names ^ set(found_functions))}")
     lines = [found_functions[name] for name in sorted(found_functions)]
     return lines + [""] + [found_constants[name] for name in sorted(found_constants)]
 

@@ -15,7 +15,14 @@ import tempfile
 SUBPROJECT = """
 cmake_minimum_required(VERSION 3.25)
 project(Host LANGUAGES C CXX)
+# A module of the host's that has the name of one of the library's.
+file(WRITE ${{CMAKE_BINARY_DIR}}/modules/CompilerOptions.cmake "message(FATAL_ERROR \"taken for another\")\n")
+list(APPEND CMAKE_MODULE_PATH ${{CMAKE_BINARY_DIR}}/modules)
 add_subdirectory("{source}" kostyle)
+get_directory_property(options COMPILE_OPTIONS)
+if(options)
+  message(FATAL_ERROR "the host is compiled with ${{options}}")
+endif()
 foreach(target kostyle test-exports list_names)
   if(TARGET ${{target}})
     message(FATAL_ERROR "${{target}} is none of the host's")
@@ -35,6 +42,10 @@ def run(command, **options):
     return subprocess.run(command, check=True, text=True, encoding="utf-8", **options)
 
 
+INSTALLED = ["include/kostyle/kostyle.h", "include/kostyle/helpers.h", "share/man/man1/kostyle.1",
+             "share/kostyle/kostyle.schema.json", "share/doc/KoStyle/LICENSE", "share/doc/KoStyle/format.md"]
+
+
 class Check:
     def __init__(self, build, source, compiler, toolchain, emulator, folder):
         self.build, self.source, self.compiler = build, source, compiler
@@ -48,6 +59,9 @@ class Check:
         moved = self.folder / "moved späce" / "tree"
         moved.parent.mkdir()
         first.rename(moved)
+        missing = [name for name in INSTALLED if not (moved / name).is_file()]
+        if missing:
+            sys.exit(f"not installed: {missing}")
         return moved
 
     def configure(self, source, *options):

@@ -19,13 +19,14 @@ with tempfile.TemporaryDirectory() as folder:
     file.write_text(example, encoding="utf-8")
     style = json.loads(subprocess.run([tool, "show", "--json", file], capture_output=True, check=True).stdout)
 document = json.loads(example)
-found = {
-    "name": style["name"], "genres": style["genres"], "chain": [effect["id"] for effect in style["audioEffects"]],
-    "types": {each["name"]: each["type"] for effect in style["audioEffects"] for each in effect["parameters"]},
-}
-expected = {
-    "name": document["name"], "genres": sorted(document["filter"]["genres"]), "chain": ["Chorus", "Reverb"],
-    "types": {"depth": "float", "voices": "int", "mode": "text", "mix": "float", "size": "text"},
-}
+TYPES = {int: "int", float: "float", str: "text"}
+found = {key: style[key] for key in ["id", "name", "vendor", "audioEffects", "midiEffects", *document["filter"]]}
+expected = {key: document[key] for key in ["id", "name", "vendor"]}
+expected.update({key: sorted(values) for key, values in document["filter"].items()})
+for key in ["audioEffect", "midiEffect"]:
+    expected[key + "s"] = [
+        {"id": name, "parameters": [{"name": each, "type": TYPES[type(value)], "value": value}
+                                    for each, value in sorted(effect["parameter"].items())]}
+        for name, effect in document[key].items()]
 if found != expected:
     sys.exit(f"expected {expected}, found {found}")
