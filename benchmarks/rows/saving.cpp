@@ -48,13 +48,19 @@ class SavingByLibrary : public Workload {
   std::vector<KoStyleStyle*> styles_;
 };
 
+enum class Afterwards { nothing, keepCopy };
+
 // Asks of the system what a save must ask: is the folder there, is the name free; then the file is
 // opened, written and closed. Names and identifiers are at hand, and the document refers to the
-// content's texts.
+// content's texts. To keep a copy is what a save does besides: the content that was saved is copied,
+// and what it was copied from is freed.
 class SavingByRapidjson : public Workload {
  public:
-  SavingByRapidjson(std::filesystem::path folder, std::size_t count, Form form)
-      : path_(std::move(folder)), contents_(typicalContents(count)), form_(form) {
+  SavingByRapidjson(std::filesystem::path folder, std::size_t count, Form form, Afterwards afterwards)
+      : path_(std::move(folder)),
+        contents_(typicalContents(count)),
+        form_(form),
+        afterwards_(afterwards) {
     for (std::size_t i = 0; i < count; ++i) {
       const std::string digits = std::to_string(i);
       const std::string id = "00000000-0000-4000-8000-" + std::string(12 - digits.size(), '0') + digits;
@@ -63,12 +69,28 @@ class SavingByRapidjson : public Workload {
     }
   }
 
-  void prepare() override { folder_.emplace(path_); }
+  void prepare() override {
+    folder_.emplace(path_);
+    if (afterwards_ == Afterwards::keepCopy) given_ = contents_;
+    kept_.reserve(given_.size());
+  }
   Done run() override {
-    for (std::size_t i = 0; i < files_.size(); ++i) save(contents_[i], files_[i]);
+    for (std::size_t i = 0; i < files_.size(); ++i) {
+      if (afterwards_ == Afterwards::nothing) {
+        save(contents_[i], files_[i]);
+      } else {
+        save(given_[i], files_[i]);
+        kept_.push_back(given_[i]);
+        given_[i] = StyleContent();
+      }
+    }
     return {files_.size()};
   }
-  void tidy() override { folder_.reset(); }
+  void tidy() override {
+    given_.clear();
+    kept_.clear();
+    folder_.reset();
+  }
 
  private:
   void save(const StyleContent& content, const std::filesystem::path& path) const {
@@ -87,25 +109,38 @@ class SavingByRapidjson : public Workload {
   std::filesystem::path path_;
   std::vector<StyleContent> contents_;
   Form form_;
+  Afterwards afterwards_;
+  std::vector<StyleContent> given_;
+  std::vector<StyleContent> kept_;
   std::vector<std::filesystem::path> files_;
   std::optional<WrittenFolder> folder_;
 };
 
-void addPair(Rows& rows, const std::string& name, const std::filesystem::path& folder,
+void addForm(Rows& rows, const std::string& name, const std::filesystem::path& folder, Runs runs,
              std::size_t saves, Form form) {
-  addRow<SavingByLibrary>(rows, name + "/library", Runs::once, folder / "library", saves, form);
-  addRow<SavingByRapidjson>(rows, name + "/rapidjson", Runs::once, folder / "rapidjson", saves, form);
+  addRow<SavingByLibrary>(rows, name + "/library", runs, folder / "library", saves, form);
+  addRow<SavingByRapidjson>(rows, name + "/rapidjson", runs, folder / "rapidjson", saves, form,
+                            Afterwards::nothing);
+  addRow<SavingByRapidjson>(rows, name + "/rapidjson-keeping", runs, folder / "rapidjson-keeping",
+                            saves, form, Afterwards::keepCopy);
+}
+
+void addPlace(Rows& rows, const std::string& name, const std::filesystem::path& folder, Runs runs,
+              std::size_t saves) {
+  addForm(rows, name + "/indented", folder, runs, saves, Form::indented);
+  addForm(rows, name + "/compact", folder, runs, saves, Form::compact);
 }
 
 }  // namespace
 
 void addSavingRows(Rows& rows, const Settings& settings) {
-  const auto addPlace = [&](const std::string& place, const std::filesystem::path& folder) {
-    addPair(rows, "saving/" + place + "/indented", folder, settings.saves, Form::indented);
-    addPair(rows, "saving/" + place + "/compact", folder, settings.saves, Form::compact);
-  };
-  addPlace("disk", settings.scratch / "saving");
-  if (!settings.fastScratch.empty()) addPlace("memory", settings.fastScratch / "saving");
+  const std::filesystem::path disk = settings.scratch / "saving";
+  const std::filesystem::path memory = settings.fastScratch / "saving";
+  addPlace(rows, "saving/disk", disk, Runs::once, settings.saves);
+  if (settings.fastScratch.empty()) return;
+  addPlace(rows, "saving/memory", memory, Runs::once, settings.saves);
+  constexpr std::size_t few = 10;
+  addPlace(rows, "saving/memory-few", memory, Runs::many, few);
 }
 
 }  // namespace bench

@@ -18,7 +18,7 @@
 #include <utility>
 #include <vector>
 
-#include "containers/rank_tree.h"
+#include "containers/node_order.h"
 #include "containers/slot_map.h"
 #include "containers/text_order.h"
 #include "platform/text.h"
@@ -47,12 +47,41 @@ class OwnedSequence {
     TextView text;
   };
 
-  // The trees and the keys go by the elements' slots.
+  // The orders and the keys go by the elements' slots.
   struct Body {
+    /// Makes room for all elements that there is room for.
+    void reserve() {
+      order.reserve(elements.capacity());
+      if constexpr (hasKeys) {
+        byKey.reserve(elements.capacity());
+        if (elements.capacity() > NodeOrder::few) reserveKeys();
+      }
+    }
+
+    Key keyOf(SlotNumber slot) const noexcept {
+      return keys.empty() ? Key(KeyOf()(elements[slot])) : keys[slot];
+    }
+
+    void insertKey(SlotNumber slot) noexcept {
+      const Key key(KeyOf()(elements[slot]));
+      if (!keys.empty()) keys[slot] = key;
+      const auto isNotAfter = [&](SlotNumber other) { return keyOf(other).compare(key) <= 0; };
+      byKey.insertBefore(byKey.partitionPoint(isNotAfter), slot);
+    }
+
     SlotMap<Element, Classes...> elements;
-    RankTree order;
-    RankTree byKey;
-    std::vector<Key> keys;
+    NodeOrder order;
+    NodeOrder byKey;
+    std::vector<Key> keys;  // of many elements; a few are asked for theirs
+
+   private:
+    void reserveKeys() {
+      const bool wereFew = keys.empty();
+      keys.resize(elements.capacity());
+      if (!wereFew) return;
+      for (SlotNumber slot = byKey.at(0); slot != noSlot; slot = byKey.next(slot))
+        keys[slot] = Key(KeyOf()(elements[slot]));
+    }
   };
 
  public:
@@ -148,12 +177,12 @@ class OwnedSequence {
     static_assert(hasKeys);
     if (!body_) return nullptr;
     const Key sought(key);
-    const auto isBefore = [&](SlotNumber slot) { return body_->keys[slot].compare(sought) < 0; };
+    const auto isBefore = [&](SlotNumber slot) { return body_->keyOf(slot).compare(sought) < 0; };
     const SlotNumber found = body_->byKey.partitionPoint(isBefore);
-    return found != noSlot && equalTexts(body_->keys[found].text, key) ? elementIn(found) : nullptr;
+    return found != noSlot && equalTexts(body_->keyOf(found).text, key) ? elementIn(found) : nullptr;
   }
 
-  /// The first position whose element `before` does not hold for; see RankTree::partitionPoint().
+  /// The first position whose element `before` does not hold for; see NodeOrder::partitionPoint().
   template <class Before>
   std::size_t partitionPoint(Before before) const {
     if (!body_) return 0;
@@ -167,11 +196,7 @@ class OwnedSequence {
     if (!body_) body_ = std::make_unique<Body>();
     auto& elements = body_->elements;
     NodeHandle made(*body_, elements.template emplace<Class>(std::forward<Arguments>(arguments)...));
-    body_->order.reserve(elements.capacity());
-    if constexpr (hasKeys) {
-      body_->byKey.reserve(elements.capacity());
-      body_->keys.resize(elements.capacity());
-    }
+    body_->reserve();
     return made;
   }
 
@@ -180,7 +205,7 @@ class OwnedSequence {
   Element& insert(std::size_t position, NodeHandle handle) noexcept {
     const SlotNumber slot = release(handle);
     body_->order.insertBefore(slotAt(position), slot);
-    insertKey(slot);
+    if constexpr (hasKeys) body_->insertKey(slot);
     return body_->elements[slot];
   }
 
@@ -190,7 +215,7 @@ class OwnedSequence {
   Element& insertByKey(NodeHandle handle) noexcept {
     static_assert(hasKeys);
     const SlotNumber slot = release(handle);
-    insertKey(slot);
+    body_->insertKey(slot);
     body_->order.insertBefore(slotAt(body_->byKey.position(slot)), slot);
     return body_->elements[slot];
   }
@@ -218,7 +243,7 @@ class OwnedSequence {
     const SlotNumber slot = find(element);
     body_->byKey.erase(slot);
     change();
-    insertKey(slot);
+    body_->insertKey(slot);
   }
 
   /// Destroys all elements, from the first to the last, and gives their memory back.
@@ -249,15 +274,6 @@ class OwnedSequence {
     const bool found = body_->order.contains(slot) &&
                        static_cast<const Interface*>(&body_->elements[slot]) == identity;
     return found ? slot : noSlot;
-  }
-
-  void insertKey(SlotNumber slot) noexcept {
-    if constexpr (hasKeys) {
-      auto& keys = body_->keys;
-      keys[slot] = Key(KeyOf()(body_->elements[slot]));
-      const auto isNotAfter = [&](SlotNumber other) { return keys[other].compare(keys[slot]) <= 0; };
-      body_->byKey.insertBefore(body_->byKey.partitionPoint(isNotAfter), slot);
-    }
   }
 
   std::unique_ptr<Body> body_;

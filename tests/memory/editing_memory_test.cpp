@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <string>
 
 #include "memory/failing_allocations.h"
 #include "support/host.h"
@@ -136,6 +137,29 @@ TEST_F(EditingWithoutMemory, AddingAParameterSortsAllOrNothing) {
     if (!failed) break;
   }
   EXPECT_GT(thrown, 2);
+}
+
+// With the seventeenth element, what finds elements by place and by key changes its form.
+TEST_F(EditingWithoutMemory, AListThatGrowsLongStaysAsItWas) {
+  KoStyleStyle* const style = makeStyle();
+  KoStyleEffect* const effect = MutableStyle_midiEffect(style, 0);
+  const auto nameOf = [](int number) {
+    return std::basic_string<KoStyleChar>{static_cast<KoStyleChar>('a' + number % 16),
+                                          static_cast<KoStyleChar>('a' + number / 16)};
+  };
+  for (int i = 16; i > 0; --i) ASSERT_TRUE(MutableEffect_addParameter(effect, nameOf(i).c_str()));
+  const test::StyleValue before = test::valueOf(style);
+  const long failures = test::failEachAllocation(
+      [&] { MutableEffect_addParameter(effect, nameOf(0).c_str()); },
+      [&](long n, bool thrown) {
+        EXPECT_TRUE(thrown) << n;
+        EXPECT_EQ(test::valueOf(style), before) << n;
+        EXPECT_FALSE(MutableEffect_addParameter(effect, nameOf(7).c_str())) << n;
+      });
+  EXPECT_GT(failures, 4);
+  EXPECT_EQ(Effect_numParameter(effect), 17u);
+  for (int i = 0; i <= 16; ++i)
+    EXPECT_FALSE(MutableEffect_addParameter(effect, nameOf(i).c_str())) << i;
 }
 
 // Edits that need no memory cannot fail for want of it.
