@@ -1,6 +1,7 @@
-// Filling mutable styles with typical content, and destroying them.
+// Filling mutable styles with typical content, what they hold then, and destroying them.
 #include <optional>
 
+#include "heap.h"
 #include "host.h"
 #include "rows/mutable_styles.h"
 #include "rows/rows.h"
@@ -49,6 +50,21 @@ class Filling : public EditingWorkload {
   }
 };
 
+class HoldingMutable : public EditingWorkload {
+ public:
+  using EditingWorkload::EditingWorkload;
+  void prepare() override { makeHost(); }
+  Done run() override {
+    const std::size_t before = memoryInUse();
+    fillStyles();
+    return {styles, memoryInUse() - before};
+  }
+  void tidy() override {
+    destroyStyles();
+    destroyHost();
+  }
+};
+
 class DestroyingMutable : public EditingWorkload {
  public:
   using EditingWorkload::EditingWorkload;
@@ -67,6 +83,7 @@ class DestroyingMutable : public EditingWorkload {
 
 void addEditingRows(Rows& rows, const Settings& settings) {
   addRow<Filling>(rows, "editing/filling", Runs::many, settings.scratch);
+  addRow<HoldingMutable>(rows, "memory/mutable/library", Runs::once, settings.scratch);
   addRow<DestroyingMutable>(rows, "editing/destroying", Runs::many, settings.scratch);
 }
 

@@ -32,41 +32,25 @@ class FrozenText {
   /// A copy in a block of its own.
   explicit FrozenText(TextView text);
 
-  FrozenText(const FrozenText&) = default;
-  FrozenText(FrozenText&& other) noexcept { swap(other); }
-  FrozenText& operator=(FrozenText other) noexcept {
-    swap(other);
-    return *this;
-  }
-  ~FrozenText() = default;
-
-  const Char* c_str() const noexcept { return units_; }
-  operator TextView() const noexcept { return {units_, size_}; }
-  bool empty() const noexcept { return size_ == 0; }
+  const Char* c_str() const noexcept { return units_.data() ? units_.data() : nothing; }
+  operator TextView() const noexcept { return {c_str(), units_.size()}; }
+  bool empty() const noexcept { return units_.size() == 0; }
 
   /// Ends the text before a unit of it, without moving it.
-  void truncate(std::size_t size) noexcept { size_ = std::min(size_, size); }
+  void truncate(std::size_t size) noexcept { units_.truncate(size); }
 
   friend bool operator==(const FrozenText& a, const FrozenText& b) noexcept {
     return TextView(a) == TextView(b);
   }
 
-  void swap(FrozenText& other) noexcept {
-    std::swap(block_, other.block_);
-    std::swap(units_, other.units_);
-    std::swap(size_, other.size_);
-  }
-
  private:
   friend class FrozenTextBlock;
   FrozenText(SharedBlock block, TextView text) noexcept
-      : block_(std::move(block)), units_(text.data()), size_(text.size()) {}
+      : units_(std::move(block), text.data(), text.size()) {}
 
   static constexpr Char nothing[1] = {};
 
-  SharedBlock block_;
-  const Char* units_ = nothing;
-  std::size_t size_ = 0;
+  SharedSpan<Char> units_;
 };
 
 /// A list of texts, in the order given.
@@ -78,42 +62,26 @@ class FrozenTexts {
   template <class Range>
   explicit FrozenTexts(const Range& texts);
 
-  FrozenTexts(const FrozenTexts&) = default;
-  FrozenTexts(FrozenTexts&& other) noexcept { swap(other); }
-  FrozenTexts& operator=(FrozenTexts other) noexcept {
-    swap(other);
-    return *this;
-  }
-  ~FrozenTexts() = default;
-
-  std::size_t size() const noexcept { return size_; }
-  bool empty() const noexcept { return size_ == 0; }
-  const TextView* begin() const noexcept { return texts_; }
-  const TextView* end() const noexcept { return texts_ + size_; }
+  std::size_t size() const noexcept { return texts_.size(); }
+  bool empty() const noexcept { return size() == 0; }
+  const TextView* begin() const noexcept { return texts_.data(); }
+  const TextView* end() const noexcept { return texts_.data() + size(); }
 
   /// The text at a position; null at or past the end.
   const TextView* at(std::size_t position) const noexcept {
-    return position < size_ ? &texts_[position] : nullptr;
+    return position < size() ? begin() + position : nullptr;
   }
 
   friend bool operator==(const FrozenTexts& a, const FrozenTexts& b) noexcept {
     return std::equal(a.begin(), a.end(), b.begin(), b.end());
   }
 
-  void swap(FrozenTexts& other) noexcept {
-    std::swap(block_, other.block_);
-    std::swap(texts_, other.texts_);
-    std::swap(size_, other.size_);
-  }
-
  private:
   friend class FrozenTextBlock;
   FrozenTexts(SharedBlock block, const TextView* texts, std::size_t size) noexcept
-      : block_(std::move(block)), texts_(texts), size_(size) {}
+      : texts_(std::move(block), texts, size) {}
 
-  SharedBlock block_;
-  const TextView* texts_ = nullptr;
-  std::size_t size_ = 0;
+  SharedSpan<TextView> texts_;
 };
 
 /// Makes texts and lists in one block.

@@ -1,7 +1,8 @@
-// SharedBlock: memory that several owners use and the last of them gives back. The owners belong to one
-// thread at a time.
+// SharedBlock: memory that several owners use and the last of them gives back. SharedSpan: elements in
+// such a block. The owners belong to one thread at a time.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <new>
 #include <utility>
@@ -34,6 +35,39 @@ class SharedBlock {
   };
 
   Header* header_ = nullptr;
+};
+
+/// Elements that live as long as a block, in which they stand; it destroys none. A copy has the same
+/// elements; what was moved from has none.
+template <class Element>
+class SharedSpan {
+ public:
+  SharedSpan() = default;
+  SharedSpan(SharedBlock block, const Element* first, std::size_t size) noexcept
+      : block_(std::move(block)), first_(first), size_(size) {}
+  SharedSpan(const SharedSpan&) = default;
+  SharedSpan(SharedSpan&& other) noexcept
+      : block_(std::move(other.block_)),
+        first_(std::exchange(other.first_, nullptr)),
+        size_(std::exchange(other.size_, 0)) {}
+  SharedSpan& operator=(SharedSpan other) noexcept {
+    std::swap(block_, other.block_);
+    std::swap(first_, other.first_);
+    std::swap(size_, other.size_);
+    return *this;
+  }
+  ~SharedSpan() = default;
+
+  const Element* data() const noexcept { return first_; }
+  std::size_t size() const noexcept { return size_; }
+
+  /// Leaves out the elements from a number on.
+  void truncate(std::size_t size) noexcept { size_ = std::min(size_, size); }
+
+ private:
+  SharedBlock block_;
+  const Element* first_ = nullptr;
+  std::size_t size_ = 0;
 };
 
 }  // namespace Tesk::KoStyle

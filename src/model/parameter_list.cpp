@@ -7,11 +7,11 @@
 namespace Tesk::KoStyle {
 namespace {
 
-auto nameBefore(TextView name) {
+auto isNamedBefore(TextView name) {
   return [name](const MutableParameter& parameter) { return parameter.wholeName() < name; };
 }
 
-auto nameNotAfter(TextView name) {
+auto isNamedNotAfter(TextView name) {
   return [name](const MutableParameter& parameter) { return parameter.wholeName() <= name; };
 }
 
@@ -58,8 +58,8 @@ void ParameterList::sort() {
   for (const Move& move : moves) taken.push_back(parameters_.extract(move.parameter));
   for (Move& move : moves) {
     const TextView name = move.parameter->wholeName();
-    move.position = std::clamp(move.position, parameters_.partitionPoint(nameBefore(name)),
-                               parameters_.partitionPoint(nameNotAfter(name)));
+    move.position = std::clamp(move.position, parameters_.partitionPoint(isNamedBefore(name)),
+                               parameters_.partitionPoint(isNamedNotAfter(name)));
   }
   for (std::size_t i = 0; i < moves.size(); ++i)
     parameters_.insert(moves[i].position + i, std::move(taken[i]));

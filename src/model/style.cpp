@@ -7,7 +7,7 @@ namespace {
 
 template <class Value>
 void exchangeUnlessEqual(Value& a, Value& b) noexcept {
-  if (!(a == b)) a.swap(b);
+  if (!(a == b)) std::swap(a, b);
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include <cstdlib>
 
 #include "example_text.h"
-#include "loaded_library.h"
+#include "support/loaded_library.h"
 
 namespace {
 

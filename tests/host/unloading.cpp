@@ -7,7 +7,7 @@
 #include <initializer_list>
 
 #include "example_text.h"
-#include "loaded_library.h"
+#include "support/loaded_library.h"
 
 namespace {
 

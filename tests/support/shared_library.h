@@ -7,14 +7,8 @@
 #include <string>
 #include <vector>
 
-#if defined(_WIN32)
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#else
-#include <dlfcn.h>
+#include "support/loaded_library.h"
+#if !defined(_WIN32)
 #include <elf.h>
 #include <link.h>
 
@@ -26,20 +20,20 @@ namespace test {
 /// The library that the program runs with, by the file name that the loader knows it by.
 class SharedLibrary {
  public:
-#if defined(_WIN32)
-  explicit SharedLibrary(const std::string& name) : handle_(LoadLibraryA(name.c_str())) {
-    if (!handle_) throw std::runtime_error("cannot load " + name);
+  explicit SharedLibrary(const std::string& name) : library_(name.c_str()) {
+    if (!library_.handle()) throw std::runtime_error("cannot load " + name);
   }
-  ~SharedLibrary() { FreeLibrary(handle_); }
+  SharedLibrary(const SharedLibrary&) = delete;
+  SharedLibrary& operator=(const SharedLibrary&) = delete;
+  ~SharedLibrary() { library_.unload(); }
 
   /// The address of an exported name; null when there is none.
-  const void* address(const std::string& name) const {
-    return reinterpret_cast<const void*>(GetProcAddress(handle_, name.c_str()));
-  }
+  const void* address(const std::string& name) const { return library_.address(name.c_str()); }
 
+#if defined(_WIN32)
   /// All names that the library exports.
   std::set<std::string> names() const {
-    const auto* const base = reinterpret_cast<const unsigned char*>(handle_);
+    const auto* const base = reinterpret_cast<const unsigned char*>(library_.handle());
     const auto& dos = at<IMAGE_DOS_HEADER>(base, 0);
     const auto& headers = at<IMAGE_NT_HEADERS>(base, static_cast<std::size_t>(dos.e_lfanew));
     const auto& entry = headers.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT];
@@ -49,23 +43,11 @@ class SharedLibrary {
     for (DWORD i = 0; i < table.NumberOfNames; ++i) result.insert(&at<char>(base, offsets[i]));
     return result;
   }
-
- private:
-  HMODULE handle_;
 #else
-  explicit SharedLibrary(const std::string& name)
-      : handle_(dlopen(name.c_str(), RTLD_NOW | RTLD_NOLOAD)) {
-    if (!handle_) throw std::runtime_error("not loaded: " + name);
-  }
-  ~SharedLibrary() { dlclose(handle_); }
-
-  /// The address of an exported name; null when there is none.
-  const void* address(const std::string& name) const { return dlsym(handle_, name.c_str()); }
-
   /// All names that the library exports.
   std::set<std::string> names() const {
     const link_map* map = nullptr;
-    if (dlinfo(handle_, RTLD_DI_LINKMAP, &map) != 0) throw std::runtime_error("no link map");
+    if (dlinfo(library_.handle(), RTLD_DI_LINKMAP, &map) != 0) throw std::runtime_error("no link map");
     const std::string file = readFile(map->l_name);
     const auto* const base = reinterpret_cast<const unsigned char*>(file.data());
     const auto& header = at<ElfW(Ehdr)>(base, 0);
@@ -82,17 +64,15 @@ class SharedLibrary {
     }
     return result;
   }
+#endif
 
  private:
-  void* handle_;
-#endif
-  SharedLibrary(const SharedLibrary&) = delete;
-  SharedLibrary& operator=(const SharedLibrary&) = delete;
-
   template <class Part>
   static const Part& at(const unsigned char* base, std::size_t offset) {
     return *reinterpret_cast<const Part*>(base + offset);
   }
+
+  LoadedLibrary library_;
 };
 
 }  // namespace test
