@@ -19,3 +19,11 @@ if(KOSTYLE_COVERAGE)
   add_compile_options(--coverage)
   add_link_options(--coverage)
 endif()
+
+# The same sources give the same binaries, wherever and whenever they are built.
+if(CMAKE_BUILD_TYPE STREQUAL Release AND NOT MSVC)
+  add_compile_options(-ffile-prefix-map=${PROJECT_BINARY_DIR}=. -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+  if(MINGW)
+    add_link_options(LINKER:--no-insert-timestamp)
+  endif()
+endif()

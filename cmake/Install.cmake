@@ -1,12 +1,22 @@
-# What `cmake --install` puts where. The tree may be moved afterwards.
+# What `cmake --install` puts where. The tree may be moved afterwards. The components are the packages that
+# cmake/Packages.cmake makes.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(packageFolder ${CMAKE_INSTALL_LIBDIR}/cmake/KoStyle)
-install(TARGETS KoStyle EXPORT KoStyleTargets FILE_SET HEADERS)
-install(EXPORT KoStyleTargets NAMESPACE KoStyle:: FILE KoStyleConfig.cmake DESTINATION ${packageFolder})
+install(TARGETS KoStyle EXPORT KoStyleTargets
+        RUNTIME COMPONENT library
+        LIBRARY COMPONENT library NAMELINK_COMPONENT development
+        ARCHIVE COMPONENT development
+        FILE_SET HEADERS COMPONENT development)
+get_target_property(importFiles KoStyle KOSTYLE_IMPORT_FILES)
+if(importFiles)
+  install(FILES ${importFiles} DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+endif()
+install(EXPORT KoStyleTargets NAMESPACE KoStyle:: DESTINATION ${packageFolder} COMPONENT development)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/KoStyleConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/KoStyleConfigVersion.cmake DESTINATION ${packageFolder})
+install(FILES cmake/KoStyleConfig.cmake ${PROJECT_BINARY_DIR}/KoStyleConfigVersion.cmake
+        DESTINATION ${packageFolder} COMPONENT development)
 
 # All relative to each other, so that the tree may be moved.
 set(pkgConfigFolder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
@@ -15,16 +25,19 @@ file(RELATIVE_PATH libraryFromPrefix ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FUL
 file(RELATIVE_PATH includeFromPrefix ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 file(RELATIVE_PATH libraryFromTool ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
 configure_file(${PROJECT_SOURCE_DIR}/cmake/kostyle.pc.in kostyle.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kostyle.pc DESTINATION ${pkgConfigFolder})
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kostyle.pc DESTINATION ${pkgConfigFolder} COMPONENT development)
 
 if(KOSTYLE_BUILD_TOOLS)
   set_target_properties(kostyle PROPERTIES INSTALL_RPATH "$ORIGIN/${libraryFromTool}")
-  install(TARGETS kostyle)
-  install(FILES ${PROJECT_SOURCE_DIR}/docs/kostyle.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(TARGETS kostyle COMPONENT tool)
+  install(FILES docs/kostyle.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
 endif()
+install(FILES schema/kostyle.schema.json DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/kostyle COMPONENT tool)
 
-set(docFolder ${CMAKE_INSTALL_DATAROOTDIR}/doc/KoStyle)
-install(FILES README.md NEWS.md LICENSE DESTINATION ${docFolder})
-install(DIRECTORY docs/ DESTINATION ${docFolder} FILES_MATCHING PATTERN "*.md" PATTERN "*.svg")
-install(DIRECTORY examples DESTINATION ${docFolder})
-install(FILES schema/kostyle.schema.json DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/kostyle)
+# In the order of the sources, so that the documents name each other's places rightly.
+install(FILES README.md NEWS.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
+        FILES_MATCHING PATTERN "*.md" PATTERN "*.svg")
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
+        PATTERN __pycache__ EXCLUDE PATTERN .gitattributes EXCLUDE)

@@ -43,7 +43,7 @@ def run(command, **options):
 
 
 INSTALLED = ["include/kostyle/kostyle.h", "include/kostyle/helpers.h", "share/man/man1/kostyle.1",
-             "share/kostyle/kostyle.schema.json", "share/doc/KoStyle/LICENSE", "share/doc/KoStyle/format.md"]
+             "share/kostyle/kostyle.schema.json", "share/doc/KoStyle/LICENSE", "share/doc/KoStyle/docs/format.md"]
 
 
 class Check:
