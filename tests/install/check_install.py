@@ -2,15 +2,16 @@
 
 usage: check_install.py FORM BUILD SOURCE CC TOOLCHAIN [EMULATOR]
 
-FORM is one of `package`, `pkg-config`, `subproject`. TOOLCHAIN is the file for a cross build, or empty.
+FORM is one of `package`, `pkg-config`, `absolute`, `subproject`. TOOLCHAIN is the file for a cross build, or empty.
 """
 import os
 import pathlib
-import shlex
 import shutil
 import subprocess
 import sys
 import tempfile
+
+from hosts import Hosts, require, run
 
 SUBPROJECT = """
 cmake_minimum_required(VERSION 3.25)
@@ -36,109 +37,74 @@ endforeach()
 add_subdirectory("{source}/examples" examples)
 """
 
-
-def run(command, **options):
-    print("+", shlex.join(map(str, command)), flush=True)
-    return subprocess.run(command, check=True, text=True, encoding="utf-8", **options)
-
-
 INSTALLED = ["include/kostyle/kostyle.h", "include/kostyle/helpers.h", "share/man/man1/kostyle.1",
              "share/kostyle/kostyle.schema.json", "share/doc/KoStyle/LICENSE", "share/doc/KoStyle/docs/format.md"]
 
 
-class Check:
-    def __init__(self, build, source, compiler, toolchain, emulator, folder):
-        self.build, self.source, self.compiler = build, source, compiler
-        self.toolchain = [f"-DCMAKE_TOOLCHAIN_FILE={toolchain}"] if toolchain else []
-        self.emulator, self.folder = emulator, folder
+def installed(build, hosts):
+    """Installs, moves the tree to where nobody expected it, and gives its place."""
+    first = hosts.folder / "first"
+    run(["cmake", "--install", build, "--prefix", first], stdout=subprocess.DEVNULL)
+    moved = hosts.folder / "moved späce" / "tree"
+    moved.parent.mkdir()
+    first.rename(moved)
+    require(moved, INSTALLED)
+    return moved
 
-    def installed(self):
-        """Installs, moves the tree to where nobody expected it, and gives its place."""
-        first = self.folder / "first"
-        run(["cmake", "--install", self.build, "--prefix", first], stdout=subprocess.DEVNULL)
-        moved = self.folder / "moved späce" / "tree"
-        moved.parent.mkdir()
-        first.rename(moved)
-        missing = [name for name in INSTALLED if not (moved / name).is_file()]
-        if missing:
-            sys.exit(f"not installed: {missing}")
-        return moved
 
-    def configure(self, source, *options):
-        build = self.folder / "host"
-        run(["cmake", "-G", "Ninja", "-S", source, "-B", build, *self.toolchain, *options], stdout=subprocess.DEVNULL)
-        run(["cmake", "--build", build], stdout=subprocess.DEVNULL)
-        return build
+def check_package(build, hosts):
+    tree = installed(build, hosts)
+    hosts.expect_tool_works(tree)
+    hosts.expect_cmake_finds(tree)
+    tomorrow = hosts.folder / "tomorrow"
+    tomorrow.mkdir()
+    (tomorrow / "CMakeLists.txt").write_text(
+        "cmake_minimum_required(VERSION 3.25)\nproject(Host LANGUAGES C)\nfind_package(KoStyle 2.0 REQUIRED)\n")
+    refused = subprocess.run(["cmake", "-G", "Ninja", "-S", tomorrow, "-B", hosts.folder / "refused",
+                              *hosts.toolchain, hosts.found_in(tree)], capture_output=True, text=True)
+    if refused.returncode == 0 or "1.0" not in refused.stderr:
+        sys.exit("a host that needs version 2 was given this one")
 
-    def started(self, program, *arguments):
-        return run([*self.emulator, program, *arguments], stdout=subprocess.PIPE).stdout
 
-    def expect_host_works(self, program):
-        names = self.started(program, self.source / "examples" / "styles" / "system").splitlines()
-        if "Concrete club" not in names:
-            sys.exit(f"{program} printed {names}")
+def check_pkg_config(build, hosts):
+    hosts.expect_pkg_config_finds(installed(build, hosts))
 
-    def beside_dll(self, program, library_folder):
-        """A DLL is found beside the program."""
-        if program.suffix != ".exe":
-            return program
-        return pathlib.Path(shutil.copy(program, library_folder))
 
-    def package(self):
-        tree = self.installed()
-        tool = next((tree / "bin").glob("kostyle*"))
-        if "kostyle 1." not in self.started(tool, "--version"):
-            sys.exit("the moved tool does not tell its version")
-        examples = next(tree.glob("share/doc/*/examples"))
-        host = self.configure(examples, self.found_in(tree))
-        self.expect_host_works(self.beside_dll(next(host.glob("list_names*")), tree / "bin"))
-        refused = subprocess.run(["cmake", "-G", "Ninja", "-S", self.tomorrow(), "-B", self.folder / "refused",
-                                  *self.toolchain, self.found_in(tree)], capture_output=True, text=True)
-        if refused.returncode == 0 or "1.0" not in refused.stderr:
-            sys.exit("a host that needs version 2 was given this one")
+def check_absolute(build, hosts):
+    """Folders that are given as absolute paths are told to hosts rightly too."""
+    prefix = hosts.folder / "prefix"
+    library, include = prefix / "lib" / "deep", hosts.folder / "elsewhere"
+    configured = hosts.folder / "configured"
+    run(["cmake", "-G", "Ninja", "-S", hosts.source, "-B", configured, *hosts.toolchain, "-DKOSTYLE_BUILD_TESTS=OFF",
+         "-DKOSTYLE_BUILD_TOOLS=OFF", f"-DCMAKE_INSTALL_PREFIX={prefix}", f"-DCMAKE_INSTALL_LIBDIR={library}",
+         f"-DCMAKE_INSTALL_INCLUDEDIR={include}"], stdout=subprocess.DEVNULL)
+    (library / "pkgconfig").mkdir(parents=True)
+    shutil.copy(configured / "kostyle.pc", library / "pkgconfig")
+    environment = {**os.environ, "PKG_CONFIG_LIBDIR": str(library / "pkgconfig")}
+    for variable, folder in [("libdir", library), ("includedir", include)]:
+        told = run(["pkg-config", f"--variable={variable}", "kostyle"], env=environment, stdout=subprocess.PIPE).stdout
+        if os.path.normpath(told.strip()) != str(folder):
+            sys.exit(f"{variable} is {told}, not {folder}")
 
-    def found_in(self, tree):
-        """A cross build looks below its own root only, unless it is told where the package is."""
-        if self.toolchain:
-            return f"-DKoStyle_DIR={next(tree.glob('lib*/**/cmake/KoStyle'))}"
-        return f"-DCMAKE_PREFIX_PATH={tree}"
 
-    def tomorrow(self):
-        source = self.folder / "tomorrow"
-        source.mkdir()
-        (source / "CMakeLists.txt").write_text(
-            "cmake_minimum_required(VERSION 3.25)\nproject(Host LANGUAGES C)\nfind_package(KoStyle 2.0 REQUIRED)\n")
-        return source
+def check_subproject(build, hosts):
+    source = hosts.folder / "subproject"
+    source.mkdir()
+    (source / "CMakeLists.txt").write_text(SUBPROJECT.format(source=hosts.source.as_posix()), encoding="utf-8")
+    host = hosts.configure(source, "-DCMAKE_BUILD_TYPE=Debug")
+    program = next(path for path in (host / "examples").glob("list_names*") if path.is_file())
+    library = next(host.glob("kostyle/src/*KoStyle.*"))
+    hosts.expect_host_works(hosts.beside_dll(program, library.parent))
 
-    def pkg_config(self):
-        tree = self.installed()
-        found = next(tree.glob("lib*/**/pkgconfig"))
-        environment = {**os.environ, "PKG_CONFIG_LIBDIR": str(found)}
-        # Byte by byte escaped for a shell.
-        printed = subprocess.run(["pkg-config", "--cflags", "--libs", "kostyle >= 1.0"], env=environment, check=True,
-                                 capture_output=True).stdout.decode("latin-1")
-        flags = [flag.encode("latin-1").decode() for flag in shlex.split(printed)]
-        windows = bool(self.emulator)
-        program = self.folder / ("list_names.exe" if windows else "list_names")
-        own = ["-municode"] if windows else [f"-Wl,-rpath,{found.parent}"]
-        run([self.compiler, self.source / "examples" / "list_names.c", "-o", program, *own, *flags])
-        self.expect_host_works(self.beside_dll(program, tree / "bin"))
 
-    def subproject(self):
-        source = self.folder / "subproject"
-        source.mkdir()
-        (source / "CMakeLists.txt").write_text(SUBPROJECT.format(source=self.source.as_posix()), encoding="utf-8")
-        host = self.configure(source, "-DCMAKE_BUILD_TYPE=Debug")
-        program = next(path for path in (host / "examples").glob("list_names*") if path.is_file())
-        library = next(host.glob("kostyle/src/*KoStyle.*"))
-        self.expect_host_works(self.beside_dll(program, library.parent))
+CHECKS = {"package": check_package, "pkg-config": check_pkg_config, "absolute": check_absolute,
+          "subproject": check_subproject}
 
 
 def main(form, build, source, compiler, toolchain="", *emulator):
     with tempfile.TemporaryDirectory() as folder:
-        check = Check(pathlib.Path(build), pathlib.Path(source), compiler, toolchain, list(emulator),
-                      pathlib.Path(folder))
-        {"package": check.package, "pkg-config": check.pkg_config, "subproject": check.subproject}[form]()
+        hosts = Hosts(pathlib.Path(source), compiler, toolchain, list(emulator), pathlib.Path(folder))
+        CHECKS[form](build, hosts)
 
 
 if __name__ == "__main__":

@@ -1,0 +1,18 @@
+"""Makes the packages of a build.
+
+usage: pack.py CPACK BUILD PACKAGES
+"""
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+
+
+def main(cpack, build, packages):
+    shutil.rmtree(packages, ignore_errors=True)
+    os.umask(0o022)
+    subprocess.run([cpack, "--config", pathlib.Path(build) / "CPackConfig.cmake", "-B", packages], check=True)
+
+
+main(*sys.argv[1:])
