@@ -1,5 +1,5 @@
 # The packages that CPack makes: Debian's of a build for /usr, an archive of a build for Windows.
-if(NOT KOSTYLE_BUILD_TOOLS)
+if(NOT KOSTYLE_BUILD_TOOLS OR NOT (WIN32 OR CMAKE_INSTALL_PREFIX STREQUAL "/usr"))
   return()
 endif()
 set(CPACK_PACKAGE_NAME KoStyle)
@@ -22,9 +22,7 @@ if(WIN32)
     install(FILES /usr/share/doc/${part}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR}/third-party
             RENAME ${part}.txt COMPONENT license OPTIONAL)
   endforeach()
-elseif(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
-  include(${PROJECT_SOURCE_DIR}/cmake/DebianPackages.cmake)
 else()
-  return()
+  include(${PROJECT_SOURCE_DIR}/cmake/DebianPackages.cmake)
 endif()
 include(CPack)

@@ -60,8 +60,8 @@ def same(first, second, folder):
 
 
 def main(*folders):
-    first = sorted(path for folder in folders for path in pathlib.Path(folder).iterdir()
-                   if path.suffix in (".deb", ".zip"))
+    first = {path.name: path for folder in folders for path in pathlib.Path(folder).iterdir()
+             if path.suffix in (".deb", ".zip")}
     with tempfile.TemporaryDirectory() as temporary:
         folder = pathlib.Path(temporary) / "another pläce"
         folder.mkdir()
@@ -71,9 +71,9 @@ def main(*folders):
         if made.returncode != 0:
             sys.exit(made.stdout)
         second = {path.name: path for path in (folder / "build" / "packages").iterdir()}
-        if [path.name for path in first] != sorted(second):
-            sys.exit(f"{[path.name for path in first]} here, {sorted(second)} there")
-        results = [same(path, second[path.name], temporary) for path in first]
+        if not first or first.keys() != second.keys():
+            sys.exit(f"{sorted(first)} here, {sorted(second)} there")
+        results = [same(path, second[name], temporary) for name, path in sorted(first.items())]
     sys.exit(0 if all(results) else 1)
 
 

@@ -1,6 +1,6 @@
 /*
- * A host for Windows without a C runtime, so that it can be linked as MSVC does where MSVC is not: prints the
- * names of the styles in the current directory.
+ * A host for Windows without a C runtime, so that it can be linked as MSVC does where MSVC is not:
+ * prints the names of the styles in the current directory.
  */
 #include <kostyle/helpers.h>
 #include <kostyle/kostyle.h>
@@ -8,8 +8,8 @@
 enum { STANDARD_OUTPUT = -11, CAPACITY = 4096 };
 
 __declspec(dllimport) void* GetStdHandle(unsigned long which);
-__declspec(dllimport) int WriteFile(void* file, const void* bytes, unsigned long size, unsigned long* written,
-                                    void* overlapped);
+__declspec(dllimport) int WriteFile(void* file, const void* bytes, unsigned long size,
+                                    unsigned long* written, void* overlapped);
 __declspec(dllimport) unsigned long GetCurrentDirectoryW(unsigned long capacity, wchar_t* directory);
 __declspec(dllimport) void ExitProcess(unsigned int code);
 
@@ -20,6 +20,7 @@ static char line[CAPACITY];
 int _fltused = 1;
 
 void start(void) {
+  void* const output = GetStdHandle((unsigned long)STANDARD_OUTPUT);
   int error = 0;
   unsigned long written = 0;
   GetCurrentDirectoryW(CAPACITY, directory);
@@ -32,9 +33,7 @@ void start(void) {
     size_t length = KoStyle_utf8FromText(Style_name(style), line, CAPACITY - 1);
     if (length > CAPACITY - 2) ExitProcess(2);
     line[length] = '\n';
-    if (!WriteFile(GetStdHandle((unsigned long)STANDARD_OUTPUT), line, (unsigned long)length + 1, &written, NULL)) {
-      ExitProcess(3);
-    }
+    if (!WriteFile(output, line, (unsigned long)length + 1, &written, NULL)) ExitProcess(3);
   }
   StyleManager_destroy(manager);
   ExitProcess(0);

@@ -12,7 +12,9 @@ import sys
 def main(cpack, build, packages):
     shutil.rmtree(packages, ignore_errors=True)
     os.umask(0o022)
-    subprocess.run([cpack, "--config", pathlib.Path(build) / "CPackConfig.cmake", "-B", packages], check=True)
+    # In the C locale CPack packs nothing in a folder whose name goes beyond ASCII.
+    subprocess.run([cpack, "--config", pathlib.Path(build) / "CPackConfig.cmake", "-B", packages], check=True,
+                   env={**os.environ, "LC_ALL": "C.UTF-8"})
 
 
 main(*sys.argv[1:])
