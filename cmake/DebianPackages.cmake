@@ -63,12 +63,12 @@ This package has the module kostyle for Python 3.")
   set(pythonFolder lib/python3/dist-packages/kostyle)
   find_package(Python3 REQUIRED COMPONENTS Interpreter)
   file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/kostyle/*.h)
-  add_custom_command(OUTPUT python/codes.py DEPENDS ${pythonSources}/generate.py ${headers} VERBATIM
+  add_custom_command(OUTPUT package-python/codes.py DEPENDS ${pythonSources}/generate.py ${headers} VERBATIM
                      COMMAND ${Python3_EXECUTABLE} -B ${pythonSources}/generate.py ${PROJECT_SOURCE_DIR}/include
-                             ${CMAKE_CURRENT_BINARY_DIR}/python/codes.py)
-  add_custom_target(kostyle-python ALL DEPENDS python/codes.py)
-  add_dependencies(package-contents kostyle-python)
+                             ${CMAKE_CURRENT_BINARY_DIR}/package-python/codes.py)
+  add_custom_target(package-python DEPENDS package-python/codes.py)
+  add_dependencies(package-contents package-python)
   install(DIRECTORY ${pythonSources}/src/kostyle/ DESTINATION ${pythonFolder} COMPONENT python
           FILES_MATCHING PATTERN "*.py" PATTERN py.typed PATTERN __pycache__ EXCLUDE)
-  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/python/codes.py DESTINATION ${pythonFolder} COMPONENT python)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/package-python/codes.py DESTINATION ${pythonFolder} COMPONENT python)
 endif()

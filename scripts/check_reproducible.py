@@ -66,6 +66,7 @@ def main(*folders):
         folder = pathlib.Path(temporary) / "another pläce"
         folder.mkdir()
         copy_sources(folder)
+        print("making the packages in another folder", flush=True)
         made = subprocess.run([folder / "scripts" / "package"], env={**os.environ, **ELSEWHERE}, text=True,
                               stdout=subprocess.PIPE, stderr=subprocess.STDOUT, errors="replace")
         if made.returncode != 0:
