@@ -1,5 +1,5 @@
-# The packages that CPack makes: Debian's of a build for /usr, an archive of a build for Windows.
-if(NOT KOSTYLE_BUILD_TOOLS OR NOT (WIN32 OR CMAKE_INSTALL_PREFIX STREQUAL "/usr"))
+# The packages that CPack makes: Debian's, or an archive of a build for Windows.
+if(NOT KOSTYLE_BUILD_TOOLS OR NOT (WIN32 OR KOSTYLE_DEBIAN_PACKAGES))
   return()
 endif()
 set(CPACK_PACKAGE_NAME KoStyle)

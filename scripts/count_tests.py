@@ -46,7 +46,7 @@ def count_test(results, program, has_cases):
     skipped = program.find("skipped")
     if skipped is not None and skipped.get("message", "").startswith("SKIP_RETURN_CODE"):
         # It has itself found that this machine cannot do it, and said why.
-        print(f"skipped: {program.get('name')}: {program.findtext('system-out', '').strip()}")
+        print(f"{program.get('name')}: {program.findtext('system-out', '').strip()}")
         counts.skipped = 1
         return counts
     succeeded = program.get("status") == "run"
