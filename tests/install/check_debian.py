@@ -80,7 +80,8 @@ class CleanRoot:
             skip(f"debootstrap makes no clean root here:\n{made.stdout[-2000:]}")
 
     def run(self, *command, **options):
-        environment = {"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL": "C.UTF-8", "DEBIAN_FRONTEND": "noninteractive"}
+        environment = {"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL": "C.UTF-8",
+                       "DEBIAN_FRONTEND": "noninteractive"}
         return run([*self.apart, "chroot", self.folder, *command], env=environment, stdout=subprocess.PIPE,
                    **options).stdout
 
