@@ -37,8 +37,9 @@ endforeach()
 add_subdirectory("{source}/examples" examples)
 """
 
-INSTALLED = ["include/kostyle/kostyle.h", "include/kostyle/helpers.h", "share/man/man1/kostyle.1",
-             "share/kostyle/kostyle.schema.json", "share/doc/KoStyle/LICENSE", "share/doc/KoStyle/docs/format.md"]
+INSTALLED = ["include/kostyle/kostyle.h", "include/kostyle/helpers.h", "include/kostyle/kostyle.hpp",
+             "include/kostyle/cpp/manager.hpp", "share/man/man1/kostyle.1", "share/kostyle/kostyle.schema.json",
+             "share/doc/KoStyle/LICENSE", "share/doc/KoStyle/docs/format.md"]
 
 
 def installed(build, hosts):

@@ -1,0 +1,121 @@
+/*
+ * KoStyle for C++: the attribute lists that styles of every kind have.
+ */
+#ifndef KOSTYLE_CPP_ATTRIBUTES_HPP
+#define KOSTYLE_CPP_ATTRIBUTES_HPP
+
+#include <cstddef>
+
+#include "../style.h"
+#include "range.hpp"
+#include "text.hpp"
+#include "view.hpp"
+
+namespace kostyle {
+
+class ManagerView;
+
+namespace detail {
+
+struct LanguageList {
+  using Owner = KoStyleStyle;
+  using Value = int;
+  static std::size_t count(Owner* style) noexcept { return Style_numLanguage(style); }
+  static Value at(Owner* style, std::size_t index) noexcept { return Style_language(style, index); }
+};
+
+struct SingerGroupList {
+  using Owner = KoStyleStyle;
+  using Value = Text;
+  static std::size_t count(Owner* style) noexcept { return Style_numSingerGroup(style); }
+  static Value at(Owner* style, std::size_t index) noexcept {
+    return Text(Style_singerGroup(style, index));
+  }
+};
+
+struct SingerIDList {
+  using Owner = KoStyleStyle;
+  using Value = Text;
+  static std::size_t count(Owner* style) noexcept { return Style_numSingerID(style); }
+  static Value at(Owner* style, std::size_t index) noexcept {
+    return Text(Style_singerID(style, index));
+  }
+};
+
+struct GenreList {
+  using Owner = KoStyleStyle;
+  using Value = Text;
+  static std::size_t count(Owner* style) noexcept { return Style_numGenre(style); }
+  static Value at(Owner* style, std::size_t index) noexcept { return Text(Style_genre(style, index)); }
+};
+
+struct SubGenreList {
+  using Owner = KoStyleStyle;
+  using Value = Text;
+  static std::size_t count(Owner* style) noexcept { return Style_numSubGenre(style); }
+  static Value at(Owner* style, std::size_t index) noexcept {
+    return Text(Style_subGenre(style, index));
+  }
+};
+
+struct ColorList {
+  using Owner = KoStyleStyle;
+  using Value = Text;
+  static std::size_t count(Owner* style) noexcept { return Style_numColor(style); }
+  static Value at(Owner* style, std::size_t index) noexcept { return Text(Style_color(style, index)); }
+};
+
+}  // namespace detail
+
+/** A style of any kind: system, user or mutable. */
+class Style : public View<KoStyleStyle> {
+ public:
+  using View::View;
+
+  /** The kind, of enum KoStyleKind; KOSTYLE_KIND_NONE for an empty view. */
+  int type() const noexcept { return Style_type(handle()); }
+
+  /** The manager that owns the style. */
+  ManagerView manager() const noexcept;
+
+  /**
+   * The display name; empty when the file's name is longer than KOSTYLE_MAX_NAME_LENGTH units, and for a
+   * mutable style that has none yet.
+   */
+  Text name() const noexcept { return Text(Style_name(handle())); }
+};
+
+/**
+ * A style with its attribute lists, each in ascending order. Category is that of their iterators: random
+ * access for stored styles, bidirectional for mutable ones, where an index takes logarithmic time.
+ */
+template <class Category>
+class StyleWithAttributes : public Style {
+ public:
+  using Style::Style;
+
+  template <class List>
+  using Range = IndexRange<List, Category>;
+
+  /** Numbers from KOSTYLE_MIN_LANGUAGE to KOSTYLE_MAX_LANGUAGE, to which the host gives a meaning. */
+  Range<detail::LanguageList> languages() const noexcept {
+    return Range<detail::LanguageList>(handle());
+  }
+  Range<detail::SingerGroupList> singerGroups() const noexcept {
+    return Range<detail::SingerGroupList>(handle());
+  }
+  /** Each of KOSTYLE_SINGER_ID_LENGTH units, fewer for the host when a file's holds U+0000. */
+  Range<detail::SingerIDList> singerIDs() const noexcept {
+    return Range<detail::SingerIDList>(handle());
+  }
+  Range<detail::GenreList> genres() const noexcept { return Range<detail::GenreList>(handle()); }
+  Range<detail::SubGenreList> subGenres() const noexcept {
+    return Range<detail::SubGenreList>(handle());
+  }
+  /** Any texts that are not empty. */
+  Range<detail::ColorList> colors() const noexcept { return Range<detail::ColorList>(handle()); }
+};
+
+}  // namespace kostyle
+
+#endif

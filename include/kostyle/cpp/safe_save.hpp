@@ -1,0 +1,189 @@
+/*
+ * KoStyle for C++: saving and overwriting with care.
+ *
+ * A plain save gives no error for a full disk, nor for what a file cannot hold. The functions here look at
+ * the style first, write it into a folder of their own in the user style directory and read it again, and
+ * only then save; what was saved is read again too. So what they report as saved is in its file, and what
+ * was there before stays when anything goes wrong.
+ */
+#ifndef KOSTYLE_CPP_SAFE_SAVE_HPP
+#define KOSTYLE_CPP_SAFE_SAVE_HPP
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "copy.hpp"
+#include "find_problems.hpp"
+#include "manager.hpp"
+#include "mutable_style.hpp"
+#include "problem.hpp"
+#include "rehearsal.hpp"
+#include "safe_files.hpp"
+#include "style.hpp"
+
+namespace kostyle {
+
+/** How to save. */
+struct SafeSaveOptions {
+  Layout layout = Layout::compact;
+
+  /**
+   * Whether losses, as Problem::isLoss() tells them, are no reason to refuse. The style is then saved as it
+   * will be read: without effects that have no parameters, "Tarn" as "Tarn630", the first of equal names.
+   */
+  bool acceptLosses = false;
+};
+
+/** What became of a safe save. */
+struct [[nodiscard]] SafeSaveResult {
+  /** The style that was saved; empty when it was not. */
+  UserStyle style = {};
+
+  /** Why it was not; or else the losses that were accepted. */
+  Problems problems = {};
+
+  /** Whether the style was saved. */
+  explicit operator bool() const noexcept { return static_cast<bool>(style); }
+};
+
+namespace detail {
+
+inline bool stops(const Problems& problems, const SafeSaveOptions& options) noexcept {
+  return std::any_of(problems.begin(), problems.end(), [&](const Problem& problem) {
+    return !options.acceptLosses || !problem.isLoss();
+  });
+}
+
+inline SafeSaveResult notSaved(Problem problem) {
+  SafeSaveResult result;
+  result.problems.push_back(std::move(problem));
+  return result;
+}
+
+// Whether a new file can be moved to where a style's file is; it is tried beside that.
+inline std::error_code tryReplacing(const std::filesystem::path& written,
+                                    const std::filesystem::path& file) {
+  std::error_code error;
+  const bool isFile = std::filesystem::is_regular_file(file, error);
+  if (error) return error;
+  if (!isFile) return std::make_error_code(std::errc::no_such_file_or_directory);
+  const std::filesystem::path beside = file.parent_path() / freshName("kostyle-safe-");
+  std::filesystem::rename(written, beside, error);
+  if (!error) removeQuietly(beside);
+  return error;
+}
+
+inline SafeSaveResult refusedSave(int code) { return notSaved({ProblemKind::refused, {}, code}); }
+
+// Saves what was rehearsed, and takes it back when it is not in its file.
+inline SafeSaveResult saveRehearsed(Rehearsal& rehearsal, ManagerView manager, Layout layout) {
+  OwnedMutableStyle copy(manager);
+  StyleCopier(copy.get(), StyleCopier::Form::asRead).copy(rehearsal.expected());
+  const Result<UserStyle> saved = copy.get().save(layout);
+  if (!saved) return refusedSave(saved.code());
+  copy.release();
+  const std::filesystem::path file = saved->path();
+  if (rehearsal.gives(file, saved->id())) return {*saved};
+  SafeSaveResult result{{}, rehearsal.takeProblems()};
+  if (!saved->remove()) result.problems.push_back({ProblemKind::notRestored, shownPath(file)});
+  return result;
+}
+
+// Overwrites with what was rehearsed; when it is not in its file then, the style gets its content back, and
+// after that its file.
+inline SafeSaveResult overwriteRehearsed(Rehearsal& rehearsal, UserStyle target, Layout layout) {
+  const std::filesystem::path file = target.path();
+  Backup backup(file);
+  if (backup.error())
+    return notSaved({ProblemKind::backupFailed, shownPath(file), KOSTYLE_OK, backup.error()});
+  OwnedMutableStyle before(target.manager());
+  StyleCopier(before.get(), StyleCopier::Form::asItIs).copy(target);
+  OwnedMutableStyle copy(target.manager());
+  StyleCopier(copy.get(), StyleCopier::Form::asRead).copy(rehearsal.expected());
+
+  const Result<UserStyle> saved = copy.get().overwrite(target, layout);
+  if (!saved) return refusedSave(saved.code());
+  copy.release();
+  if (rehearsal.gives(file, target.id())) {
+    backup.discard();
+    return {*saved};
+  }
+  SafeSaveResult result{{}, rehearsal.takeProblems()};
+  if (before.get().overwrite(target, layout)) before.release();
+  if (const std::error_code error = backup.restore())
+    result.problems.push_back({ProblemKind::notRestored, shownPath(backup.path()), KOSTYLE_OK, error});
+  return result;
+}
+
+}  // namespace detail
+
+/**
+ * Saves a mutable style as MutableStyle::save() does, or says why not and leaves everything as it was: no
+ * file, and the mutable style with its effects and parameters. On success it is destroyed.
+ *
+ * Problems are those of findProblems(); `folderFailed`; `refused` with what MutableStyle::save() gives;
+ * `notReadBack` and `readBackDiffers` when the file that was tried or saved is not what it should be, as on
+ * a full disk; `notRestored` after these two when the new file could not be deleted.
+ *
+ * In the user style directory stands meanwhile a folder "kostyle-safe-..." with a file in it, which reading
+ * passes over; a process that is killed leaves it. Where paths are limited its file has the longest, about
+ * forty units longer than the style's.
+ */
+inline SafeSaveResult safeSave(MutableStyle style, const SafeSaveOptions& options = {}) {
+  if (!style) return detail::refusedSave(KOSTYLE_ERROR_INVALID_HANDLE);
+  Problems problems = findProblems(style);
+  if (detail::stops(problems, options)) return {{}, std::move(problems)};
+
+  detail::Rehearsal rehearsal(style);
+  std::filesystem::path written;
+  if (!rehearsal.write(options.layout, written)) return {{}, rehearsal.takeProblems()};
+  detail::removeQuietly(written);
+  SafeSaveResult result = detail::saveRehearsed(rehearsal, style.manager(), options.layout);
+  if (!result) return result;
+  style.destroy();
+  result.problems = std::move(problems);
+  return result;
+}
+
+/**
+ * Overwrites a user style as MutableStyle::overwrite() does, or says why not and leaves the old file as it
+ * was. On success the mutable style is destroyed, and what stays and ends of the user style is as there.
+ *
+ * Problems are those of findProblems() and safeSave(); `vendorLost` when the user style has a vendor text;
+ * `notReplaceable` when its file is missing, or a new one cannot be moved to its place, as where that is on
+ * another file system than the user style directory; `backupFailed`; `refused` with what
+ * MutableStyle::overwrite() gives. In all these cases nothing has changed. Only when the file is spoiled
+ * after it could be written and read a moment before, `notReadBack` and `readBackDiffers` mean that the
+ * style was overwritten and put back: what an overwrite ends has ended then, and the style in memory is as
+ * it was as far as createMutableCopy() copies it; reading the set again makes it so altogether. When even the
+ * file cannot be put back, `notRestored` says where the old one is kept.
+ *
+ * Beside the file stands meanwhile another one, "kostyle-backup-...", which a process that is killed leaves:
+ * it is the old file.
+ */
+inline SafeSaveResult safeOverwrite(MutableStyle style, UserStyle target,
+                                    const SafeSaveOptions& options = {}) {
+  if (!style) return detail::refusedSave(KOSTYLE_ERROR_INVALID_HANDLE);
+  if (!style.manager().has(target)) return detail::refusedSave(KOSTYLE_ERROR_USER_STYLE_NOT_FOUND);
+  Problems problems = findProblems(style);
+  if (!target.vendor().empty()) problems.push_back({ProblemKind::vendorLost, "vendor"});
+  if (detail::stops(problems, options)) return {{}, std::move(problems)};
+
+  detail::Rehearsal rehearsal(style);
+  std::filesystem::path written;
+  if (!rehearsal.write(options.layout, written)) return {{}, rehearsal.takeProblems()};
+  const std::filesystem::path file = target.path();
+  if (const std::error_code error = detail::tryReplacing(written, file))
+    return detail::notSaved({ProblemKind::notReplaceable, detail::shownPath(file), KOSTYLE_OK, error});
+  SafeSaveResult result = detail::overwriteRehearsed(rehearsal, target, options.layout);
+  if (!result) return result;
+  style.destroy();
+  result.problems = std::move(problems);
+  return result;
+}
+
+}  // namespace kostyle
+
+#endif

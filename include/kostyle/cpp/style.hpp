@@ -1,0 +1,121 @@
+/*
+ * KoStyle for C++: system and user styles.
+ */
+#ifndef KOSTYLE_CPP_STYLE_HPP
+#define KOSTYLE_CPP_STYLE_HPP
+
+#include <cstddef>
+#include <filesystem>
+#include <iterator>
+
+#include "../style.h"
+#include "attributes.hpp"
+#include "effect.hpp"
+#include "path.hpp"
+#include "range.hpp"
+#include "result.hpp"
+#include "text.hpp"
+
+namespace kostyle {
+
+class PropertyEditor;
+
+namespace detail {
+
+struct AudioEffectList {
+  using Owner = KoStyleStyle;
+  using Value = AudioEffect;
+  static std::size_t count(Owner* style) noexcept { return Style_numAudioEffect(style); }
+  static Value at(Owner* style, std::size_t index) noexcept {
+    return Value(Style_audioEffect(style, index));
+  }
+};
+
+struct MidiEffectList {
+  using Owner = KoStyleStyle;
+  using Value = MidiEffect;
+  static std::size_t count(Owner* style) noexcept { return Style_numMidiEffect(style); }
+  static Value at(Owner* style, std::size_t index) noexcept {
+    return Value(Style_midiEffect(style, index));
+  }
+};
+
+}  // namespace detail
+
+/** The audio chain of a stored style. */
+using AudioEffects = IndexRange<detail::AudioEffectList, std::random_access_iterator_tag>;
+
+/** The MIDI chain of a stored style. */
+using MidiEffects = IndexRange<detail::MidiEffectList, std::random_access_iterator_tag>;
+
+/** A stored style: a system or a user style. It ends when its set is read again. */
+class StoredStyle : public StyleWithAttributes<std::random_access_iterator_tag> {
+ public:
+  using StyleWithAttributes::StyleWithAttributes;
+
+  /** The identifier, unique over the manager's system and user styles. */
+  Text id() const noexcept { return Text(Style_id(handle())); }
+
+  /** The path of the style's file: the directory as it was given, a separator and the file's name. */
+  std::filesystem::path path() const { return toPath(pathText()); }
+
+  /** The same as the library has it. */
+  Text pathText() const noexcept { return Text(Style_path(handle())); }
+
+  /**
+   * The vendor text; empty when the file has none. The library never writes it: a style that it overwrites
+   * or edits loses the text in its file, and keeps it in memory until the set is read again.
+   */
+  Text vendor() const noexcept { return Text(Style_vendor(handle())); }
+
+  AudioEffects audioEffects() const noexcept { return AudioEffects(handle()); }
+  MidiEffects midiEffects() const noexcept { return MidiEffects(handle()); }
+
+  /** Whether an effect is in the chain of its kind. The effect is only compared. */
+  bool has(AudioEffect effect) const noexcept {
+    return Style_hasAudioEffect(handle(), effect.handle());
+  }
+  bool has(MidiEffect effect) const noexcept { return Style_hasMidiEffect(handle(), effect.handle()); }
+};
+
+/** A system style: read from a system style directory, and never changed by the library. */
+class SystemStyle : public StoredStyle {
+ public:
+  using StoredStyle::StoredStyle;
+
+  /** The system style after this one in its manager; empty at the end. */
+  SystemStyle next() const noexcept { return SystemStyle(SystemStyle_next(handle())); }
+
+  /** The system style before this one in its manager; empty at the front. */
+  SystemStyle previous() const noexcept { return SystemStyle(SystemStyle_prev(handle())); }
+};
+
+/** A user style: read from or saved to a user style directory. */
+class UserStyle : public StoredStyle {
+ public:
+  using StoredStyle::StoredStyle;
+
+  /** The user style after this one in its manager; empty at the end. */
+  UserStyle next() const noexcept { return UserStyle(UserStyle_next(handle())); }
+
+  /** The user style before this one in its manager; empty at the front. */
+  UserStyle previous() const noexcept { return UserStyle(UserStyle_prev(handle())); }
+
+  /**
+   * Deletes the style's file and the style, with every view and text reached through it. Creation results
+   * stay. A directory in the file's place is removed when it is empty. On failure nothing has changed.
+   *
+   * @return success; KOSTYLE_ERROR_INVALID_HANDLE for an empty view or when memory ran out;
+   *         KOSTYLE_ERROR_DELETE_FAILED when the file is missing or the system refuses.
+   */
+  Result<void> remove() const noexcept { return Error(UserStyle_remove(handle())); }
+
+  /** Makes a property editor of the style, empty; see PropertyEditor. */
+  PropertyEditor edit() const;
+};
+
+inline StoredStyle StoredEffect::style() const noexcept { return StoredStyle(Effect_parent(handle())); }
+
+}  // namespace kostyle
+
+#endif
