@@ -34,7 +34,7 @@ inline std::string shownPath(const std::filesystem::path& path) {
 #endif
 }
 
-inline void removeQuietly(const std::filesystem::path& path) {
+inline void removeQuietly(const std::filesystem::path& path) noexcept {
   std::error_code ignored;
   std::filesystem::remove(path, ignored);
 }
@@ -93,8 +93,14 @@ class Backup {
   std::error_code error() const noexcept { return error_; }
   const std::filesystem::path& path() const noexcept { return path_; }
 
+  // Puts something in the place of a file that is gone, so that it can be overwritten once more.
+  void standIn() {
+    std::error_code ignored;
+    if (active_ && !std::filesystem::exists(file_, ignored)) linkOrCopy(path_, file_);
+  }
+
   // The answer says why the file is not what it was; the backup then stays.
-  std::error_code restore() {
+  std::error_code restore() noexcept {
     std::error_code error;
     if (!active_) return error;
     active_ = false;
@@ -104,7 +110,7 @@ class Backup {
     return error;
   }
 
-  void discard() {
+  void discard() noexcept {
     if (active_) removeQuietly(path_);
     active_ = false;
   }

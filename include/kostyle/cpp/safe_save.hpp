@@ -111,6 +111,7 @@ inline SafeSaveResult overwriteRehearsed(Rehearsal& rehearsal, UserStyle target,
     return {*saved};
   }
   SafeSaveResult result{{}, rehearsal.takeProblems()};
+  backup.standIn();
   if (before.get().overwrite(target, layout)) before.release();
   if (const std::error_code error = backup.restore())
     result.problems.push_back({ProblemKind::notRestored, shownPath(backup.path()), KOSTYLE_OK, error});
@@ -161,7 +162,8 @@ inline SafeSaveResult safeSave(MutableStyle style, const SafeSaveOptions& option
  * file cannot be put back, `notRestored` says where the old one is kept.
  *
  * Beside the file stands meanwhile another one, "kostyle-backup-...", which a process that is killed leaves:
- * it is the old file.
+ * it is the old file. When it is a renaming that failed, the new file stays in the user style directory as
+ * after MutableStyle::overwrite(), under a UUID without extension.
  */
 inline SafeSaveResult safeOverwrite(MutableStyle style, UserStyle target,
                                     const SafeSaveOptions& options = {}) {
