@@ -49,9 +49,11 @@ File openForReading(const NativePath& path) noexcept {
 }
 
 File openForWriting(const NativePath& path) noexcept {
-  if (current && current->refuseOpening) return nullptr;
+  if (!current) return realOpenForWriting(path);
+  if (current->refuseOpening) return nullptr;
   File file = realOpenForWriting(path);
-  if (!(current && current->refuseWriting)) return file;
+  const bool isFull = ++current->writings >= current->firstUnwritable && current->firstUnwritable > 0;
+  if (!current->refuseWriting && !isFull) return file;
   // The file exists now, empty; a stream that only reads refuses every write to it.
   file.reset();
   return realOpenForReading(path);

@@ -24,6 +24,8 @@ class Faults {
   bool refuseRenaming = false;
   /// Every write to an opened file fails, as on a full disk.
   bool refuseWriting = false;
+  /// The same for files that are opened to be written from this one on, counted from 1; 0 for none.
+  int firstUnwritable = 0;
   /// The deletion that is refused, counted from 1; 0 for none.
   int refusedDeletion = 0;
   /// The file that is deleted by somebody else just before it is opened to be read, counted from 1; 0
@@ -34,6 +36,7 @@ class Faults {
 
   int deletions = 0;
   int readings = 0;
+  int writings = 0;
 };
 
 }  // namespace test
