@@ -6,7 +6,7 @@
 #define KOSTYLE_CPP_REHEARSAL_HPP
 
 #include <algorithm>
-#include <cstring>
+#include <cmath>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -19,14 +19,13 @@
 #include "safe_files.hpp"
 #include "style.hpp"
 
-namespace kostyle {
-namespace detail {
+namespace kostyle::detail {
 
-// Floats are compared by their bits: 0 is not -0.
-inline bool sameValue(const ParameterValue& a, const ParameterValue& b) noexcept {
+// Of floats the sign of a zero counts.
+inline bool sameValue(const ParameterValue& a, const ParameterValue& b) {
   const float* const left = std::get_if<float>(&a);
   const float* const right = std::get_if<float>(&b);
-  return left && right ? std::memcmp(left, right, sizeof *left) == 0 : a == b;
+  return a == b && (!left || std::signbit(*left) == std::signbit(*right));
 }
 
 template <class List, class OtherList, class Same>
@@ -124,7 +123,6 @@ class Rehearsal {
   Problems problems_;
 };
 
-}  // namespace detail
-}  // namespace kostyle
+}  // namespace kostyle::detail
 
 #endif

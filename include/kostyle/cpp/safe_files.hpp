@@ -13,8 +13,7 @@
 
 #include "text.hpp"
 
-namespace kostyle {
-namespace detail {
+namespace kostyle::detail {
 
 // A name that is no style file's and that hardly anything else has. Names differ within the process, also
 // from those of other modules that have this header.
@@ -122,7 +121,6 @@ class Backup {
   bool active_;
 };
 
-}  // namespace detail
-}  // namespace kostyle
+}  // namespace kostyle::detail
 
 #endif
