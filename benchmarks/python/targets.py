@@ -80,6 +80,8 @@ TARGETS = [
            "destroying/typical/hand-written", 0.25, platforms=BOTH),
     walking("index"),
     walking("next"),
+    Target("walking by C++ ranges, over the C calls", "walking/ranges/library", "walking/index/library", 1.05,
+           platforms=BOTH),
     call("direct/Style_name", "virtual"),
     call("direct/Effect_id", "virtual"),
     call("direct/Parameter_name", "virtual"),

@@ -1,4 +1,5 @@
-// Full walks over the typical set, through the library's exports and through those of plain structs.
+// Full walks over the typical set, through the library's exports, through the ranges of the C++ layer,
+// and through the exports of plain structs.
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -8,6 +9,7 @@
 #include "rows/rows.h"
 #include "rows/walk.h"
 #include "rows/walk_api.h"
+#include "rows/walk_ranges.h"
 
 namespace bench {
 namespace {
@@ -55,12 +57,36 @@ class Walking : public Workload {
   std::shared_ptr<WalkedSet> set_;
 };
 
+// The calls are those of the walk by index, but that styles are walked by next.
+class WalkingRanges : public Workload {
+ public:
+  explicit WalkingRanges(std::shared_ptr<WalkedSet> set) : set_(std::move(set)) {}
+
+  void prepare() override {
+    set_->load();
+    Walk<LibraryApi> walk;
+    walk.byIndex(set_->styles(LibraryApi()));
+    calls_ = walk.calls();
+  }
+  Done run() override {
+    RangeWalk walk;
+    walk.styles(kostyle::ManagerView(set_->styles(LibraryApi())));
+    if (walk.sum() == 0) throw std::runtime_error("nothing was walked");
+    return {calls_};
+  }
+
+ private:
+  std::shared_ptr<WalkedSet> set_;
+  std::size_t calls_ = 0;
+};
+
 }  // namespace
 
 void addWalkingRows(Rows& rows, const Settings& settings) {
   const auto set = std::make_shared<WalkedSet>(settings.data / "sets" / "typical");
   addRow<Walking<LibraryApi, By::index>>(rows, "walking/index/library", Runs::many, set);
   addRow<Walking<LibraryApi, By::next>>(rows, "walking/next/library", Runs::many, set);
+  addRow<WalkingRanges>(rows, "walking/ranges/library", Runs::many, set);
   addRow<Walking<PlainApi, By::index>>(rows, "walking/index/plain", Runs::many, set);
   addRow<Walking<PlainApi, By::next>>(rows, "walking/next/plain", Runs::many, set);
 }
