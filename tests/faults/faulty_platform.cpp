@@ -44,15 +44,21 @@ bool renameFile(const NativePath& from, const NativePath& to) noexcept {
 }
 
 File openForReading(const NativePath& path) noexcept {
-  if (current && ++current->readings == current->vanishingFile) realDeleteFile(path);
+  if (!current) return realOpenForReading(path);
+  const int number = ++current->readings;
+  if (number == current->vanishingFile) realDeleteFile(path);
+  if (number == current->rewrittenFile)
+    std::fputs(current->rewrittenContent.c_str(), realOpenForWriting(path).get());
   return realOpenForReading(path);
 }
 
 File openForWriting(const NativePath& path) noexcept {
   if (!current) return realOpenForWriting(path);
+  const int number = ++current->writings;
+  current->beforeWriting(number);
   if (current->refuseOpening) return nullptr;
   File file = realOpenForWriting(path);
-  const bool isFull = ++current->writings >= current->firstUnwritable && current->firstUnwritable > 0;
+  const bool isFull = current->firstUnwritable > 0 && number >= current->firstUnwritable;
   if (!current->refuseWriting && !isFull) return file;
   // The file exists now, empty; a stream that only reads refuses every write to it.
   file.reset();

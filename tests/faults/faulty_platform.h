@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "platform/platform.h"
@@ -31,6 +32,12 @@ class Faults {
   /// The file that is deleted by somebody else just before it is opened to be read, counted from 1; 0
   /// for none.
   int vanishingFile = 0;
+  /// The file that somebody else writes just before it is opened to be read, counted from 1, and its
+  /// new content; 0 for none.
+  int rewrittenFile = 0;
+  std::string rewrittenContent;
+  /// Done just before a file is opened to be written, with its number, counted from 1.
+  std::function<void(int)> beforeWriting = [](int) {};
   /// The UUIDs that are made before random ones.
   std::vector<Text> nextUuids;
 

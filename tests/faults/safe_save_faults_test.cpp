@@ -23,6 +23,7 @@ namespace fs = test::fs;
 // The steps that open a file to write it.
 constexpr int rehearsal = 1;
 constexpr int realSave = 2;
+constexpr int restoring = 3;
 
 std::vector<ProblemKind> kindsOf(const SafeSaveResult& result) {
   std::vector<ProblemKind> kinds;
@@ -130,6 +131,39 @@ TEST_F(SafeSaveFaults, WhatTheLibraryRefusesIsSaidWithItsCode) {
   expectNothingChanged(saved, {ProblemKind::refused});
   EXPECT_EQ(saved.problems[0].code, KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE);
   expectNoOtherFile();
+}
+
+TEST_F(SafeSaveFaults, AFileThatIsReadAsSomethingElseIsNotSaved) {
+  for (const int read : {rehearsal, realSave}) {
+    Faults faults;
+    faults.rewrittenFile = read;
+    faults.rewrittenContent = test::document("other", "Other");
+    expectNothingChanged(kostyle::safeSave(style), {ProblemKind::readBackDiffers});
+  }
+  for (const int read : {rehearsal, realSave}) {
+    Faults faults;
+    faults.rewrittenFile = read;
+    faults.rewrittenContent = test::document("a", "New", R"("p":2)", "");
+    expectNothingChanged(safeOverwrite(style, target), {ProblemKind::readBackDiffers});
+  }
+  expectNoOtherFile();
+}
+
+TEST_F(SafeSaveFaults, AnOldFileThatCannotBePutBackIsKeptAndNamed) {
+  const fs::path file = host.user / "a.kostyle";
+  Faults faults;
+  faults.firstUnwritable = realSave;
+  faults.beforeWriting = [&](int number) {
+    if (number != restoring) return;
+    fs::remove(file);
+    fs::create_directories(file / "full");
+  };
+  const SafeSaveResult saved = safeOverwrite(style, target);
+  EXPECT_FALSE(saved);
+  EXPECT_EQ(kindsOf(saved), (std::vector{ProblemKind::notReadBack, ProblemKind::notRestored}));
+  EXPECT_TRUE(saved.problems[1].cause);
+  EXPECT_EQ(test::readFile(fs::u8path(saved.problems[1].where)), bytes);
+  EXPECT_TRUE(style.manager().has(style));
 }
 
 TEST_F(SafeSaveFaults, AFileThatVanishesBeforeItIsReadIsNotSaved) {

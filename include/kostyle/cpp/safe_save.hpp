@@ -4,7 +4,8 @@
  * A plain save gives no error for a full disk, nor for what a file cannot hold. The functions here look at
  * the style first, write it into a folder of their own in the user style directory and read it again, and
  * only then save; what was saved is read again too. So what they report as saved is in its file, and what
- * was there before stays when anything goes wrong.
+ * was there before stays when anything goes wrong. Files are written through to the system, not to the
+ * device: what the system loses when it crashes is not watched.
  */
 #ifndef KOSTYLE_CPP_SAFE_SAVE_HPP
 #define KOSTYLE_CPP_SAFE_SAVE_HPP

@@ -106,6 +106,11 @@ class TextArgument {
   TextArgument(const char* utf8) : copy_(fromUtf8(utf8)), text_(utf8 ? copy_.c_str() : nullptr) {}
   TextArgument(const std::string& utf8) : TextArgument(utf8.c_str()) {}
   TextArgument(std::string_view utf8) : copy_(fromUtf8(utf8)), text_(copy_.c_str()) {}
+#if defined(__cpp_lib_char8_t)
+  TextArgument(const char8_t* utf8) : TextArgument(reinterpret_cast<const char*>(utf8)) {}
+  TextArgument(const std::u8string& utf8) : TextArgument(utf8.c_str()) {}
+  TextArgument(std::u8string_view utf8) : TextArgument(std::u8string(utf8)) {}
+#endif
   TextArgument(const TextArgument&) = delete;
   TextArgument& operator=(const TextArgument&) = delete;
   ~TextArgument() = default;
