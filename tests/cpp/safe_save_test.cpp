@@ -24,7 +24,7 @@ struct CppSafeSave : testing::Test {
   void expectRefused(MutableStyle style, const Places& places, const SafeSaveOptions& options = {}) {
     const test::StyleValue before = valueOf(style.handle());
     const SafeSaveResult saved = safeSave(style, options);
-    EXPECT_FALSE(saved);
+    ASSERT_FALSE(saved);
     EXPECT_FALSE(saved.style);
     EXPECT_EQ(placesOf(saved.problems), places);
     EXPECT_EQ(valueOf(style.handle()), before);
@@ -140,7 +140,7 @@ struct CppSafeOverwrite : CppSafeSave {
     const std::string bytes = host.bytes("u");
     const test::StoredValue before = storedValueOf(target.handle());
     const SafeSaveResult saved = safeOverwrite(style, target);
-    EXPECT_FALSE(saved);
+    ASSERT_FALSE(saved);
     EXPECT_EQ(placesOf(saved.problems), places);
     EXPECT_TRUE(host.manager.has(style));
     EXPECT_EQ(storedValueOf(target.handle()), before);

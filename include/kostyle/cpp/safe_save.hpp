@@ -131,7 +131,8 @@ inline SafeSaveResult overwriteRehearsed(Rehearsal& rehearsal, UserStyle target,
  *
  * In the user style directory stands meanwhile a folder "kostyle-safe-..." with a file in it, which reading
  * passes over; a process that is killed leaves it. Where paths are limited its file has the longest, about
- * forty units longer than the style's.
+ * forty units longer than the style's. When memory runs out after the style was saved, it stays saved, and so
+ * does the mutable style.
  */
 inline SafeSaveResult safeSave(MutableStyle style, const SafeSaveOptions& options = {}) {
   if (!style) return detail::refusedSave(KOSTYLE_ERROR_INVALID_HANDLE);
