@@ -9,5 +9,6 @@ int main(int argc, char* argv[]) {
   if (const auto read = manager->readSystemStyles(); !read) std::cerr << read.sentence() << '\n';
   for (const auto style : manager->systemStyles()) std::cout << style.name().utf8() << '\n';
   for (const auto result : manager->systemCreationResults())
-    if (!result.taken()) std::cerr << result.filePath() << ": " << result.error().sentence() << '\n';
+    if (!result.taken())
+      std::cerr << result.filePathText().utf8() << ": " << result.error().sentence() << '\n';
 }

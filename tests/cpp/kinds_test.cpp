@@ -29,7 +29,7 @@ static_assert(std::is_nothrow_move_constructible_v<Manager> &&
               std::is_nothrow_move_assignable_v<Manager>);
 static_assert(!std::is_copy_constructible_v<Manager> && !std::is_copy_assignable_v<Manager>);
 static_assert(!std::is_copy_constructible_v<PropertyEditor> &&
-              !std::is_copy_assignable_v<PropertyEditor>);
+              !std::is_move_assignable_v<PropertyEditor>);
 
 // The kinds turn into more general ones, and into no others.
 template <class From, class To>

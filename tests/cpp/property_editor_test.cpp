@@ -33,8 +33,7 @@ TEST(CppPropertyEditor, EndsWithItsObject) {
     kostyle::PropertyEditor moved = std::move(editor);
     EXPECT_FALSE(editor.setName("x"));
     EXPECT_TRUE(moved.addColor("c"));
-    editor = std::move(moved);
-    EXPECT_FALSE(editor.addColor("c"));
+    EXPECT_FALSE(moved.addColor("c"));
   }
   EXPECT_FALSE(style.edit().save());
 }

@@ -70,6 +70,7 @@ struct ColorList {
 /** A style of any kind: system, user or mutable. */
 class Style : public View<KoStyleStyle> {
  public:
+  /** Empty, or of a handle, as View. */
   using View::View;
 
   /** The kind, of enum KoStyleKind; KOSTYLE_KIND_NONE for an empty view. */
@@ -92,27 +93,32 @@ class Style : public View<KoStyleStyle> {
 template <class Category>
 class StyleWithAttributes : public Style {
  public:
+  /** Empty, or of a handle, as View. */
   using Style::Style;
 
+  /** The range of one of the lists. */
   template <class List>
   using Range = IndexRange<List, Category>;
 
-  /** Numbers from KOSTYLE_MIN_LANGUAGE to KOSTYLE_MAX_LANGUAGE, to which the host gives a meaning. */
+  /** The languages: numbers from KOSTYLE_MIN_LANGUAGE to KOSTYLE_MAX_LANGUAGE, to which the host gives a meaning. */
   Range<detail::LanguageList> languages() const noexcept {
     return Range<detail::LanguageList>(handle());
   }
+  /** The singer groups, none of them empty. */
   Range<detail::SingerGroupList> singerGroups() const noexcept {
     return Range<detail::SingerGroupList>(handle());
   }
-  /** Each of KOSTYLE_SINGER_ID_LENGTH units, fewer for the host when a file's holds U+0000. */
+  /** The singer identifiers, each of KOSTYLE_SINGER_ID_LENGTH units, fewer for the host when a file's holds U+0000. */
   Range<detail::SingerIDList> singerIDs() const noexcept {
     return Range<detail::SingerIDList>(handle());
   }
+  /** The genres, none of them empty. */
   Range<detail::GenreList> genres() const noexcept { return Range<detail::GenreList>(handle()); }
+  /** The sub-genres, none of them empty. */
   Range<detail::SubGenreList> subGenres() const noexcept {
     return Range<detail::SubGenreList>(handle());
   }
-  /** Any texts that are not empty. */
+  /** The colours: any texts that are not empty. */
   Range<detail::ColorList> colors() const noexcept { return Range<detail::ColorList>(handle()); }
 };
 

@@ -96,6 +96,7 @@ class StyleCopier {
 
 /** A mutable style that was copied from a stored one, and what could not be copied. */
 struct MutableCopy {
+  /** Owned by its manager. */
   MutableStyle style;
 
   /** `vendorLost`, `nameMissing` and `textLost`; empty when everything was copied. */

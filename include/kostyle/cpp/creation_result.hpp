@@ -20,7 +20,9 @@ namespace kostyle {
 
 /** A place in a file, both counted from 1; columns in code points. */
 struct FilePosition {
+  /** The line. */
   std::size_t line = 1;
+  /** The column. */
   std::size_t column = 1;
 };
 
@@ -30,6 +32,7 @@ struct FilePosition {
  */
 class CreationResult : public View<KoStyleCreationResult> {
  public:
+  /** Empty, or of a handle, as View. */
   using View::View;
 
   /** The creation result after this one of the same set, in reading order; empty at the end. */

@@ -52,6 +52,7 @@ using MutableParameters = LinkedRange<detail::MutableParameterList>;
 /** An effect of either chain, of a stored or of a mutable style. */
 class Effect : public View<KoStyleEffect> {
  public:
+  /** Empty, or of a handle, as View. */
   using View::View;
 
   /** The kind, of enum KoStyleEffectKind; KOSTYLE_EFFECT_NONE for an empty view. */
@@ -64,11 +65,13 @@ class Effect : public View<KoStyleEffect> {
 /** An effect of a system or user style. */
 class StoredEffect : public Effect {
  public:
+  /** Empty, or of a handle, as View. */
   using Effect::Effect;
 
   /** The style that owns the effect. */
   StoredStyle style() const noexcept;
 
+  /** The parameters, in the order of names. */
   StoredParameters parameters() const noexcept { return StoredParameters(handle()); }
 
   /** Whether a parameter is one of the effect's. The parameter is only compared. */
@@ -80,6 +83,7 @@ class StoredEffect : public Effect {
 /** An effect of the audio chain of a system or user style. */
 class AudioEffect : public StoredEffect {
  public:
+  /** Empty, or of a handle, as View. */
   using StoredEffect::StoredEffect;
 
   /** The effect after this one in its chain; empty at the end. */
@@ -92,6 +96,7 @@ class AudioEffect : public StoredEffect {
 /** An effect of the MIDI chain of a system or user style. */
 class MidiEffect : public StoredEffect {
  public:
+  /** Empty, or of a handle, as View. */
   using StoredEffect::StoredEffect;
 
   /** The effect after this one in its chain; empty at the end. */
@@ -104,11 +109,13 @@ class MidiEffect : public StoredEffect {
 /** An effect of a mutable style. */
 class MutableEffect : public Effect {
  public:
+  /** Empty, or of a handle, as View. */
   using Effect::Effect;
 
   /** The style that owns the effect. */
   MutableStyle style() const noexcept;
 
+  /** The parameters, in the order of names as of the last addParameter(). */
   MutableParameters parameters() const noexcept { return MutableParameters(handle()); }
 
   /** Whether a parameter is one of the effect's. The parameter is only compared. */
@@ -149,6 +156,7 @@ class MutableEffect : public Effect {
 /** An effect of the audio chain of a mutable style. */
 class MutableAudioEffect : public MutableEffect {
  public:
+  /** Empty, or of a handle, as View. */
   using MutableEffect::MutableEffect;
 
   /** The effect after this one in its chain; empty at the end. */
@@ -165,6 +173,7 @@ class MutableAudioEffect : public MutableEffect {
 /** An effect of the MIDI chain of a mutable style. */
 class MutableMidiEffect : public MutableEffect {
  public:
+  /** Empty, or of a handle, as View. */
   using MutableEffect::MutableEffect;
 
   /** The effect after this one in its chain; empty at the end. */

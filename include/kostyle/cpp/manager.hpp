@@ -86,6 +86,7 @@ using UserCreationResults = IndexRange<detail::UserCreationResultList, std::rand
  */
 class ManagerView : public View<KoStyleManager> {
  public:
+  /** Empty, or of a handle, as View. */
   using View::View;
 
   /** The application identifier. */
@@ -115,20 +116,26 @@ class ManagerView : public View<KoStyleManager> {
   /** Reads the user styles anew, from the user directories, in the same way; property editors end. */
   Result<void> readUserStyles() const { return Error(StyleManager_readUserStyles(handle())); }
 
+  /** The system styles. */
   SystemStyles systemStyles() const noexcept { return SystemStyles(handle()); }
+  /** The user styles. */
   UserStyles userStyles() const noexcept { return UserStyles(handle()); }
+  /** What the last read of the system styles left behind. */
   SystemCreationResults systemCreationResults() const noexcept {
     return SystemCreationResults(handle());
   }
+  /** What the last read of the user styles left behind. */
   UserCreationResults userCreationResults() const noexcept { return UserCreationResults(handle()); }
 
-  /** Whether a style is one of the manager's of its kind. The style is only compared. */
+  /** Whether a style is one of the manager's system styles. The style is only compared. */
   bool has(SystemStyle style) const noexcept {
     return StyleManager_hasSystemStyle(handle(), style.handle());
   }
+  /** The same of a user style. */
   bool has(UserStyle style) const noexcept {
     return StyleManager_hasUserStyle(handle(), style.handle());
   }
+  /** The same of a mutable style. */
   bool has(MutableStyle style) const noexcept {
     return StyleManager_hasMutableStyle(handle(), style.handle());
   }
@@ -141,7 +148,9 @@ class ManagerView : public View<KoStyleManager> {
 
 /** Directories that are read as well. */
 struct FurtherDirectories {
+  /** As system styles, after the system directory. */
   std::vector<std::filesystem::path> system;
+  /** As user styles, after the user directory. */
   std::vector<std::filesystem::path> user;
 };
 
@@ -180,7 +189,9 @@ class Manager : public ManagerView {
   /** Takes over a manager that CreateStyleManager() gave. */
   explicit Manager(KoStyleManager* manager) noexcept : ManagerView(manager) {}
 
+  /** Takes over what another object has, which is empty then. */
   Manager(Manager&& other) noexcept : ManagerView(other.release()) {}
+  /** Destroys what the object has, and takes over what another one has. */
   Manager& operator=(Manager&& other) noexcept {
     if (this != &other) {
       StyleManager_destroy(handle());

@@ -56,15 +56,19 @@ enum class Layout : bool { compact, pretty };
  */
 class MutableStyle : public StyleWithAttributes<std::bidirectional_iterator_tag> {
  public:
+  /** Empty, or of a handle, as View. */
   using StyleWithAttributes::StyleWithAttributes;
 
+  /** The audio chain. */
   MutableAudioEffects audioEffects() const noexcept { return MutableAudioEffects(handle()); }
+  /** The MIDI chain. */
   MutableMidiEffects midiEffects() const noexcept { return MutableMidiEffects(handle()); }
 
-  /** Whether an effect is in the chain of its kind. The effect is only compared. */
+  /** Whether an effect is in the audio chain. The effect is only compared. */
   bool has(MutableAudioEffect effect) const noexcept {
     return Style_hasAudioEffect(handle(), effect.handle());
   }
+  /** Whether an effect is in the MIDI chain. The effect is only compared. */
   bool has(MutableMidiEffect effect) const noexcept {
     return Style_hasMidiEffect(handle(), effect.handle());
   }

@@ -23,6 +23,7 @@ using ParameterValue = std::variant<int, float, Text>;
 /** A parameter of a stored or of a mutable style. */
 class Parameter : public View<KoStyleParameter> {
  public:
+  /** Empty, or of a handle, as View. */
   using View::View;
 
   /** The value's type, of enum KoStyleParameterType; KOSTYLE_PARAMETER_NONE for an empty view. */
@@ -50,6 +51,7 @@ class Parameter : public View<KoStyleParameter> {
 /** A parameter of a system or user style. */
 class StoredParameter : public Parameter {
  public:
+  /** Empty, or of a handle, as View. */
   using Parameter::Parameter;
 
   /** The effect that owns the parameter. */
@@ -65,6 +67,7 @@ class StoredParameter : public Parameter {
 /** A parameter of a mutable style. */
 class MutableParameter : public Parameter {
  public:
+  /** Empty, or of a handle, as View. */
   using Parameter::Parameter;
 
   /** The effect that owns the parameter. */
@@ -103,6 +106,7 @@ class MutableParameter : public Parameter {
   void setValue(const TextArgument& value) const {
     MutableParameter_setValueString(handle(), value.c_str());
   }
+  /** The same. */
   void setValue(Text value) const { MutableParameter_setValueString(handle(), value.c_str()); }
 
   /** Takes over a value with its type, of this or of any other parameter. */

@@ -55,6 +55,7 @@ enum class ProblemKind {
 
 /** A problem: its kind, and where it is. */
 struct Problem {
+  /** What is the matter. */
   ProblemKind kind;
 
   /**

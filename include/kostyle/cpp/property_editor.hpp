@@ -26,15 +26,12 @@ namespace kostyle {
  */
 class PropertyEditor {
  public:
+  /** Takes over an editor; the other object has none then. */
   PropertyEditor(PropertyEditor&& other) noexcept
       : style_(std::exchange(other.style_, {})), editor_(std::exchange(other.editor_, nullptr)) {}
-  PropertyEditor& operator=(PropertyEditor&& other) noexcept {
-    std::swap(style_, other.style_);
-    std::swap(editor_, other.editor_);
-    return *this;
-  }
   PropertyEditor(const PropertyEditor&) = delete;
   PropertyEditor& operator=(const PropertyEditor&) = delete;
+  /** Destroys the editor with what it collected. */
   ~PropertyEditor() { UserStyle_destroyPropertyEditor(style_.handle()); }
 
   /**

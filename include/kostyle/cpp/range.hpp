@@ -147,16 +147,25 @@ class LinkedIterator {
 template <class List, class Category>
 class IndexRange {
  public:
+  /** What an iterator gives. */
   using value_type = typename List::Value;
+  /** Gives elements by value. */
   using iterator = detail::IndexIterator<List, Category>;
+  /** The same. */
   using const_iterator = iterator;
 
+  /** Empty. */
   IndexRange() noexcept = default;
+  /** Of an owner's handle. */
   explicit IndexRange(typename List::Owner* owner) noexcept : owner_(owner) {}
 
+  /** To the first element. */
   iterator begin() const noexcept { return {owner_, 0}; }
+  /** Behind the last element. */
   iterator end() const noexcept { return {owner_, size()}; }
+  /** The number of elements. */
   std::size_t size() const noexcept { return detail::sizeOf(List::count(owner_)); }
+  /** Whether there are none. */
   bool empty() const noexcept { return size() == 0; }
 
   /** The element at an index; an empty text or view, or -1 for a language, at or past the end. */
@@ -173,16 +182,25 @@ class IndexRange {
 template <class List>
 class LinkedRange {
  public:
+  /** What an iterator gives. */
   using value_type = typename List::Value;
+  /** Gives elements by value. */
   using iterator = detail::LinkedIterator<List>;
+  /** The same. */
   using const_iterator = iterator;
 
+  /** Empty. */
   LinkedRange() noexcept = default;
+  /** Of an owner's handle. */
   explicit LinkedRange(typename List::Owner* owner) noexcept : owner_(owner) {}
 
+  /** To the first element. */
   iterator begin() const noexcept { return {owner_, List::at(owner_, 0)}; }
+  /** Behind the last element. */
   iterator end() const noexcept { return {owner_, value_type()}; }
+  /** The number of elements. */
   std::size_t size() const noexcept { return detail::sizeOf(List::count(owner_)); }
+  /** Whether there are none. */
   bool empty() const noexcept { return size() == 0; }
 
   /** The element at an index; an empty view at or past the end. */

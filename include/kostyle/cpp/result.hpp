@@ -16,6 +16,7 @@ namespace kostyle {
 /** A code of enum KoStyleCode with its sentence. */
 class Error {
  public:
+  /** Of a code that a C function returned. */
   constexpr explicit Error(int code) noexcept : code_(code) {}
 
   /** The code; a library that is newer than these headers may give one that is not in the list. */
@@ -35,21 +36,32 @@ class Error {
 template <class Value>
 class [[nodiscard]] Result {
  public:
+  /** Success. */
   Result(Value value) noexcept : value_(std::move(value)) {}
+  /** Failure. */
   Result(Error error) noexcept : error_(error) {}
 
+  /** Whether there is a value. */
   bool has_value() const noexcept { return value_.has_value(); }
+  /** The same. */
   explicit operator bool() const noexcept { return has_value(); }
 
+  /** The value, when there is one. */
   Value& operator*() & noexcept { return *pointer(); }
+  /** The value, when there is one. */
   const Value& operator*() const& noexcept { return *pointer(); }
+  /** The value, when there is one, to be moved from. */
   Value&& operator*() && noexcept { return std::move(*pointer()); }
+  /** What the value has, when there is one. */
   Value* operator->() noexcept { return pointer(); }
+  /** What the value has, when there is one. */
   const Value* operator->() const noexcept { return pointer(); }
 
   /** Why there is no value; KOSTYLE_OK when there is one. */
   Error error() const noexcept { return error_; }
+  /** The code of error(). */
   int code() const noexcept { return error_.code(); }
+  /** The sentence of error(). */
   const char* sentence() const noexcept { return error_.sentence(); }
 
  private:
@@ -70,14 +82,21 @@ class [[nodiscard]] Result {
 template <>
 class [[nodiscard]] Result<void> {
  public:
+  /** Success. */
   constexpr Result() noexcept = default;
+  /** Failure, or success when the code is KOSTYLE_OK. */
   constexpr Result(Error error) noexcept : error_(error) {}
 
+  /** Whether it is success. */
   bool has_value() const noexcept { return error_.code() == KOSTYLE_OK; }
+  /** The same. */
   explicit operator bool() const noexcept { return has_value(); }
 
+  /** What went wrong; KOSTYLE_OK when nothing did. */
   Error error() const noexcept { return error_; }
+  /** The code of error(). */
   int code() const noexcept { return error_.code(); }
+  /** The sentence of error(). */
   const char* sentence() const noexcept { return error_.sentence(); }
 
  private:

@@ -28,6 +28,7 @@ namespace kostyle {
 
 /** How to save. */
 struct SafeSaveOptions {
+  /** How the file is laid out. */
   Layout layout = Layout::compact;
 
   /**

@@ -51,6 +51,7 @@ using MidiEffects = IndexRange<detail::MidiEffectList, std::random_access_iterat
 /** A stored style: a system or a user style. It ends when its set is read again. */
 class StoredStyle : public StyleWithAttributes<std::random_access_iterator_tag> {
  public:
+  /** Empty, or of a handle, as View. */
   using StyleWithAttributes::StyleWithAttributes;
 
   /** The identifier, unique over the manager's system and user styles. */
@@ -68,19 +69,23 @@ class StoredStyle : public StyleWithAttributes<std::random_access_iterator_tag> 
    */
   Text vendor() const noexcept { return Text(Style_vendor(handle())); }
 
+  /** The audio chain. */
   AudioEffects audioEffects() const noexcept { return AudioEffects(handle()); }
+  /** The MIDI chain. */
   MidiEffects midiEffects() const noexcept { return MidiEffects(handle()); }
 
-  /** Whether an effect is in the chain of its kind. The effect is only compared. */
+  /** Whether an effect is in the audio chain. The effect is only compared. */
   bool has(AudioEffect effect) const noexcept {
     return Style_hasAudioEffect(handle(), effect.handle());
   }
+  /** Whether an effect is in the MIDI chain. The effect is only compared. */
   bool has(MidiEffect effect) const noexcept { return Style_hasMidiEffect(handle(), effect.handle()); }
 };
 
 /** A system style: read from a system style directory, and never changed by the library. */
 class SystemStyle : public StoredStyle {
  public:
+  /** Empty, or of a handle, as View. */
   using StoredStyle::StoredStyle;
 
   /** The system style after this one in its manager; empty at the end. */
@@ -93,6 +98,7 @@ class SystemStyle : public StoredStyle {
 /** A user style: read from or saved to a user style directory. */
 class UserStyle : public StoredStyle {
  public:
+  /** Empty, or of a handle, as View. */
   using StoredStyle::StoredStyle;
 
   /** The user style after this one in its manager; empty at the end. */

@@ -73,16 +73,27 @@ class Text {
   /** Whether the text has no units; takes no pass. */
   constexpr bool empty() const noexcept { return *c_str() == KoStyleChar(); }
 
+  /** Whether all units are equal. */
   friend bool operator==(Text a, Text b) noexcept { return a.native() == b.native(); }
+  /** Whether any unit differs. */
   friend bool operator!=(Text a, Text b) noexcept { return !(a == b); }
+  /** Whether a text stands before another by its units. */
   friend bool operator<(Text a, Text b) noexcept { return a.native() < b.native(); }
+  /** Whether all units are equal. */
   friend bool operator==(Text a, TextView b) noexcept { return a.native() == b; }
+  /** Whether all units are equal. */
   friend bool operator==(TextView a, Text b) noexcept { return b == a; }
+  /** Whether any unit differs. */
   friend bool operator!=(Text a, TextView b) noexcept { return !(a == b); }
+  /** Whether any unit differs. */
   friend bool operator!=(TextView a, Text b) noexcept { return !(b == a); }
+  /** Whether the UTF-8 gives the same units. */
   friend bool operator==(Text a, std::string_view utf8) { return a == TextView(fromUtf8(utf8)); }
+  /** Whether the UTF-8 gives the same units. */
   friend bool operator==(std::string_view utf8, Text b) { return b == utf8; }
+  /** Whether the UTF-8 gives other units. */
   friend bool operator!=(Text a, std::string_view utf8) { return !(a == utf8); }
+  /** Whether the UTF-8 gives other units. */
   friend bool operator!=(std::string_view utf8, Text b) { return !(b == utf8); }
 
  private:
@@ -99,16 +110,26 @@ class Text {
  */
 class TextArgument {
  public:
+  /** Passed as it is. */
   TextArgument(Text text) noexcept : text_(text.c_str()) {}
+  /** Passed as it is; ends with a NUL. */
   TextArgument(const KoStyleChar* text) noexcept : text_(text) {}
+  /** Passed as it is. */
   TextArgument(const NativeString& text) noexcept : text_(text.c_str()) {}
+  /** Copied. */
   TextArgument(TextView text) : copy_(text), text_(copy_.c_str()) {}
+  /** Converted; ends with a NUL. */
   TextArgument(const char* utf8) : copy_(fromUtf8(utf8)), text_(utf8 ? copy_.c_str() : nullptr) {}
+  /** Converted. */
   TextArgument(const std::string& utf8) : TextArgument(utf8.c_str()) {}
+  /** Converted. */
   TextArgument(std::string_view utf8) : copy_(fromUtf8(utf8)), text_(copy_.c_str()) {}
 #if defined(__cpp_lib_char8_t)
+  /** Converted; ends with a NUL. */
   TextArgument(const char8_t* utf8) : TextArgument(reinterpret_cast<const char*>(utf8)) {}
+  /** Converted. */
   TextArgument(const std::u8string& utf8) : TextArgument(utf8.c_str()) {}
+  /** Converted. */
   TextArgument(std::u8string_view utf8) : TextArgument(std::u8string(utf8)) {}
 #endif
   TextArgument(const TextArgument&) = delete;

@@ -17,6 +17,7 @@ namespace kostyle {
 template <class Handle>
 class View {
  public:
+  /** Empty. */
   constexpr View() noexcept = default;
 
   /** Of a handle of the C interface, which must be of the kind that the view is for, or NULL. */
@@ -30,6 +31,7 @@ class View {
 
   /** Whether two views refer to one object. */
   friend constexpr bool operator==(View a, View b) noexcept { return a.handle_ == b.handle_; }
+  /** Whether they refer to different ones. */
   friend constexpr bool operator!=(View a, View b) noexcept { return a.handle_ != b.handle_; }
 
  private:
