@@ -47,6 +47,14 @@ TEST_F(CppCreationResult, TellsLineAndColumnOfASyntaxError) {
   EXPECT_EQ(result.parseErrorPosition(content).column, 8U);
 }
 
+TEST_F(CppCreationResult, IsLeftByReadingSystemStylesToo) {
+  host.addSystemStyle("s", "{}");
+  const auto results = host.manager.systemCreationResults();
+  ASSERT_EQ(results.size(), 1U);
+  EXPECT_EQ(results[0].type(), KOSTYLE_KIND_SYSTEM);
+  EXPECT_EQ(results[0].error().code(), KOSTYLE_ERROR_MEMBER_MISSING);
+}
+
 TEST_F(CppCreationResult, KnowsItsNeighbours) {
   host.addUserStyle("a");
   host.addUserStyle("b");

@@ -5,7 +5,8 @@
  * the style first, write it into a folder of their own in the user style directory and read it again, and
  * only then save; what was saved is read again too. So what they report as saved is in its file, and what
  * was there before stays when anything goes wrong. Files are written through to the system, not to the
- * device: what the system loses when it crashes is not watched.
+ * device: what the system loses when it crashes is not watched. Each call creates and destroys a manager, so
+ * HasStyleManager() must not run meanwhile.
  */
 #ifndef KOSTYLE_CPP_SAFE_SAVE_HPP
 #define KOSTYLE_CPP_SAFE_SAVE_HPP
