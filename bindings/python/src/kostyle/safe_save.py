@@ -1,0 +1,211 @@
+"""Saving with care: what would not come back is refused before anything is written, what was written is read
+again, and whatever fails leaves the old file as it was."""
+from __future__ import annotations
+
+import dataclasses
+import math
+import os
+import pathlib
+import shutil
+import sys
+import uuid
+from typing import Iterator, Tuple
+
+from .attributes import LISTS
+from .errors import CodeError, Finding, NotSavedError, UnsafeError
+from .mutable import MutableStyle
+from .parameters import ParameterValue
+from .property_editor import PropertyEditor
+from .records import EffectRecord, StyleRecord, record_of
+from .scan import scan
+from .styles import Style, UserStyle
+from .text import has_lone_surrogate
+
+_SURROGATE = "a lone surrogate cannot be written"
+
+
+def check(style: Style) -> Tuple[Finding, ...]:
+    """All that would not come back from a file if the style were written as it is: effects without
+    parameters, infinities and NaN, lone surrogates, parameters called "Tarn" and parameters of one name. Of a
+    stored style it tells whether its file could be written again, as a property editor does.
+
+    >>> with manager.create_mutable_style() as style:
+    ...     style.audio_effects.append("Gate")
+    ...     for finding in kostyle.check(style):
+    ...         print(finding)
+    <MutableEffect Gate>
+    audio effect 'Gate': no effect without parameters comes back
+    """
+    return tuple(_findings(record_of(style)))
+
+
+def _findings(record: StyleRecord) -> Iterator[Finding]:
+    if has_lone_surrogate(record.name):
+        yield Finding(f"name {record.name!r}", _SURROGATE)
+    for name in LISTS[1:]:
+        for text in getattr(record, name):
+            if has_lone_surrogate(text):
+                yield Finding(f"{name} {text!r}", _SURROGATE)
+    for kind, effects in (("audio", record.audio_effects), ("MIDI", record.midi_effects)):
+        for effect in effects:
+            yield from _effect_findings(f"{kind} effect {effect.id!r}", effect)
+
+
+def _effect_findings(place: str, effect: EffectRecord) -> Iterator[Finding]:
+    if has_lone_surrogate(effect.id):
+        yield Finding(place, _SURROGATE)
+    if not effect.parameters:
+        yield Finding(place, "no effect without parameters comes back")
+    seen = set()
+    for name, value in effect.parameters:
+        for reason in _parameter_reasons(name, value):
+            yield Finding(f"{place}, parameter {name!r}", reason)
+        if name in seen:
+            yield Finding(f"{place}, parameter {name!r}", "of two parameters with one name only the first comes back")
+        seen.add(name)
+
+
+def _parameter_reasons(name: str, value: ParameterValue) -> Iterator[str]:
+    if name == "Tarn":
+        yield "it comes back as Tarn630"
+    if has_lone_surrogate(name) or (isinstance(value, str) and has_lone_surrogate(value)):
+        yield _SURROGATE
+    if isinstance(value, float) and not math.isfinite(value):
+        yield "an infinity and NaN cannot be written"
+
+
+def _require_safe(record: StyleRecord) -> None:
+    findings = list(_findings(record))
+    if findings:
+        raise UnsafeError(findings)
+
+
+class _Backup:
+    """A second name for a file, or a copy of one that is written in place. It lies beside the file, so that
+    putting it back takes no space, and its name is none that a read takes."""
+
+    def __init__(self, file: pathlib.Path, in_place: bool) -> None:
+        self.file = file
+        self.path = file.with_name(f"kostyle-backup-{uuid.uuid4()}")
+        try:
+            if in_place:
+                raise OSError
+            os.link(file, self.path)
+        except OSError:
+            self._copy()
+
+    def _copy(self) -> None:
+        try:
+            shutil.copy2(self.file, self.path)
+        except OSError as error:
+            self.discard()
+            raise NotSavedError(self.file, f"no backup can be made: {error.strerror}") from error
+
+    def discard(self) -> None:
+        try:
+            self.path.unlink()
+        except OSError:
+            pass  # a backup too many does no harm
+
+    def restore(self) -> bool:
+        try:
+            os.replace(self.path, self.file)
+        except OSError:
+            return False
+        self.discard()  # two names of one file are not replaced
+        return True
+
+
+def save_safely(style: MutableStyle, pretty: bool) -> UserStyle:
+    """Does what MutableStyle.save_safely() says."""
+    written = record_of(style)
+    _require_safe(written)
+    with style.mutable_copy() as spare:  # saving ends what it saves
+        saved = spare.save(pretty=pretty)
+    try:
+        _read_back(saved, written)
+    except BaseException:
+        saved.remove()
+        raise
+    style.destroy()
+    return saved
+
+
+def overwrite_safely(style: MutableStyle, target: UserStyle, pretty: bool) -> UserStyle:
+    """Does what MutableStyle.overwrite_safely() says."""
+    written = record_of(style)
+    _require_safe(written)
+    _require_replaceable(target)
+    with style.mutable_copy() as spare, target.mutable_copy() as previous:
+        backup = _Backup(target.path, in_place=False)
+        try:
+            spare.overwrite(target, pretty=pretty)
+            _read_back(target, written)
+        except BaseException as error:
+            if spare.ended:
+                _put_back_in_memory(previous, target)
+            _restore(backup, error)
+            raise
+    backup.discard()
+    style.destroy()
+    return target
+
+
+def edit_safely(editor: PropertyEditor, style: UserStyle) -> Tuple[Finding, ...]:
+    """Does what PropertyEditor.save_safely() says."""
+    wanted = dataclasses.replace(record_of(style), name=editor.name, sub_genres=editor.sub_genres, colors=editor.colors)
+    _require_safe(wanted)
+    backup = _Backup(style.path, in_place=True)
+    try:
+        editor.save()
+        _read_back(style, wanted)
+    except BaseException as error:
+        _restore(backup, error)
+        raise
+    backup.discard()
+    lost = f"an edited file has none: {style.vendor!r}"
+    return (Finding("vendor", lost),) if style.vendor else ()
+
+
+def _require_replaceable(target: UserStyle) -> None:
+    """Outside Windows a file is not replaced from another file system."""
+    directory = target.manager.user_directory
+    if sys.platform == "win32" or not directory.exists() or not target.path.exists():
+        return
+    if os.stat(directory).st_dev != os.lstat(target.path).st_dev:
+        raise UnsafeError([Finding(str(target.path), "it lies on another file system than the user directory")])
+
+
+def _put_back_in_memory(previous: MutableStyle, target: UserStyle) -> None:
+    """What that does to the file does no harm: its backup comes over it."""
+    if all(finding.place == "vendor" for finding in previous.left_out):
+        try:
+            previous.overwrite(target)
+        except CodeError:
+            pass  # it shows what was to be written, until it is read again
+
+
+def _restore(backup: _Backup, error: BaseException) -> None:
+    if not backup.restore():
+        raise NotSavedError(backup.file, str(error), backup.path) from error
+
+
+def _read_back(saved: UserStyle, written: StyleRecord) -> None:
+    path = saved.path
+    try:
+        [file] = scan([path])
+    except OSError as error:
+        raise NotSavedError(path, f"it cannot be read again: {error.strerror}") from error
+    if file.style is None:
+        raise NotSavedError(path, str(file.refusal))
+    expected = dataclasses.replace(written, id=saved.id, vendor="")
+    if _comparable(file.style) != _comparable(expected):
+        raise NotSavedError(path, "the file does not hold what was written")
+
+
+def _comparable(record: StyleRecord) -> str:
+    """Tells 1 from 1.0, and takes names and lists in any order."""
+    chains = {name: [(effect.id, sorted(effect.parameters)) for effect in getattr(record, name)]
+              for name in ("audio_effects", "midi_effects")}
+    lists = {name: sorted(getattr(record, name)) for name in LISTS}
+    return repr((record.id, record.name, record.vendor, lists, chains))

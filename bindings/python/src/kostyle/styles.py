@@ -1,0 +1,142 @@
+"""Styles: what all kinds can be asked, and the stored ones."""
+from __future__ import annotations
+
+import pathlib
+from typing import Tuple, TYPE_CHECKING, Union
+
+from .attributes import read_languages, read_texts
+from .codes import Code, EffectKind, Kind
+from .effects import Chain
+from .errors import CodeError
+from .functions import c
+from .handles import Handle
+from .property_editor import PropertyEditor
+from .text import decode
+
+if TYPE_CHECKING:
+    from .manager import Manager
+    from .mutable import MutableStyle
+
+
+class Style(Handle):
+    """A style of any kind."""
+
+    @property
+    def manager(self) -> Manager:
+        """The manager that owns the style."""
+        from .manager import Manager
+        level: Union[Handle, None] = self
+        while not isinstance(level, Manager):
+            assert level is not None
+            level = level._owner
+        return level
+
+    @property
+    def kind(self) -> Kind:
+        """System, user or mutable."""
+        return Kind(c.Style_type(self._handle))
+
+    @property
+    def name(self) -> str:
+        """The display name; empty when the file's name is longer than Limit.MAX_NAME_LENGTH units, and for
+        a mutable style that has none yet."""
+        return decode(c.Style_name(self._handle))
+
+    def mutable_copy(self) -> MutableStyle:
+        """A new mutable style with all that this one has. What cannot be copied is listed in its
+        `left_out`: the vendor, which mutable styles do not have, and what is refused because a U+0000 of
+        the file cuts it short."""
+        from .copying import mutable_copy
+        return mutable_copy(self)
+
+    def __repr__(self) -> str:
+        return f"<{type(self).__name__} ended>" if self.ended else f"<{type(self).__name__} {self.name!r}>"
+
+
+class StoredStyle(Style):
+    """A style that was read from a file. Ends when its set is read again, and with its manager.
+
+    >>> club = manager.system_styles.find("concrete-club")
+    >>> club.name, club.languages, club.genres
+    ('Concrete club', (0,), ('House', 'Techno'))
+    >>> [effect.id for effect in club.audio_effects]
+    ['Gate', 'Distortion', 'Delay']
+    """
+
+    @property
+    def id(self) -> str:
+        """The identifier, unique over the manager's system and user styles."""
+        return decode(c.Style_id(self._handle))
+
+    @property
+    def path(self) -> pathlib.Path:
+        """The file: the directory as it was given, and the file's name."""
+        return pathlib.Path(decode(c.Style_path(self._handle)))
+
+    @property
+    def vendor(self) -> str:
+        """Who made the style; empty when the file does not say. The library never writes it: a style that
+        is overwritten or edited loses it in its file, and here when the set is read again."""
+        return decode(c.Style_vendor(self._handle))
+
+    @property
+    def languages(self) -> Tuple[int, ...]:
+        """Numbers from Limit.MIN_LANGUAGE to Limit.MAX_LANGUAGE; the host and its styles agree on what
+        they mean."""
+        return read_languages(self._handle)
+
+    @property
+    def singer_groups(self) -> Tuple[str, ...]:
+        """Ascending, as all lists."""
+        return read_texts(self._handle, "singer_groups")
+
+    @property
+    def singer_ids(self) -> Tuple[str, ...]:
+        """Each of Limit.SINGER_ID_LENGTH UTF-16 units."""
+        return read_texts(self._handle, "singer_ids")
+
+    @property
+    def genres(self) -> Tuple[str, ...]:
+        """Ascending."""
+        return read_texts(self._handle, "genres")
+
+    @property
+    def sub_genres(self) -> Tuple[str, ...]:
+        """Ascending."""
+        return read_texts(self._handle, "sub_genres")
+
+    @property
+    def colors(self) -> Tuple[str, ...]:
+        """Ascending; any texts."""
+        return read_texts(self._handle, "colors")
+
+    @property
+    def audio_effects(self) -> Chain:
+        """The audio chain."""
+        return Chain(self, EffectKind.AUDIO)
+
+    @property
+    def midi_effects(self) -> Chain:
+        """The MIDI chain."""
+        return Chain(self, EffectKind.MIDI)
+
+
+class SystemStyle(StoredStyle):
+    """A style of a system directory, which the library never changes."""
+
+
+class UserStyle(StoredStyle):
+    """A style of a user directory. MutableStyle.overwrite() gives it a new content: its effects then end,
+    and everything else of it stays."""
+
+    def remove(self) -> None:
+        """Deletes the style's file, and ends the style. Raises CodeError, and nothing has changed."""
+        code = c.UserStyle_remove(self._handle)
+        if code != Code.OK:
+            raise CodeError(code, str(self.path))
+        self._end("it was removed")
+
+    def property_editor(self) -> PropertyEditor:
+        """An editor of name, sub-genres and colours, empty. Ends the editor that the style had."""
+        self._end_children("the style has another editor", PropertyEditor)
+        return self._child(PropertyEditor, c.UserStyle_createPropertyEditor(self._handle))
