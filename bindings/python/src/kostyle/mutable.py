@@ -107,8 +107,9 @@ class MutableStyle(Style):
         address = c.MutableStyle_save(self._handle, pretty, ctypes.byref(code))
         if not address:
             raise CodeError(code.value, str(self.manager.user_directory))
+        saved = self.manager._user_style(address)
         self._end("it was saved")
-        return self.manager._user_style(address)
+        return saved
 
     def overwrite(self, target: UserStyle, *, pretty: bool = True) -> UserStyle:
         """Writes the style over the file of a user style of the same manager, which keeps its identifier and

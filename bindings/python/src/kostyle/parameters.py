@@ -36,7 +36,7 @@ def write_value(address: int, value: ParameterValue) -> None:
     if isinstance(value, str):
         c.MutableParameter_setValueString(address, encode(value))
     elif isinstance(value, float):
-        struct.pack("f", value)  # raises OverflowError for what is finite and beyond 32 bits
+        struct.pack("<f", value)  # raises OverflowError for what is finite and beyond 32 bits
         c.MutableParameter_setValueFloat(address, value)
     elif value in _INTS:
         c.MutableParameter_setValueInt(address, value)

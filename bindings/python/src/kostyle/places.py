@@ -4,13 +4,12 @@ from __future__ import annotations
 import re
 from typing import Tuple
 
-# The characters of a file, CR LF being one. A unit that is cut off at the end is one too.
-_UTF8 = re.compile(rb"\r\n|[\xc2-\xff][\x80-\xbf]{0,3}|.", re.S)
-_UTF16_LITTLE = re.compile(rb"\r\0\n\0|.[\xd8-\xdb].[\xdc-\xdf]|..|.", re.S)
-_UTF16_BIG = re.compile(rb"\0\r\0\n|[\xd8-\xdb].[\xdc-\xdf].|..|.", re.S)
-_UTF32_LITTLE = re.compile(rb"\r\0\0\0\n\0\0\0|....|.{1,3}", re.S)
-_UTF32_BIG = re.compile(rb"\0\0\0\r\0\0\0\n|....|.{1,3}", re.S)
-_LINE_ENDS = {b"\r", b"\n", b"\r\n"}
+# The characters of a file; the group takes line ends. A unit that is cut off at the end is a character too.
+_UTF8 = re.compile(rb"(\r\n?|\n)|[\xc2-\xff][\x80-\xbf]{0,3}|.", re.S)
+_UTF16_LITTLE = re.compile(rb"(\r\0(?:\n\0)?|\n\0)|.[\xd8-\xdb].[\xdc-\xdf]|..|.", re.S)
+_UTF16_BIG = re.compile(rb"(\0\r(?:\0\n)?|\0\n)|[\xd8-\xdb].[\xdc-\xdf].|..|.", re.S)
+_UTF32_LITTLE = re.compile(rb"(\r\0\0\0(?:\n\0\0\0)?|\n\0\0\0)|....|.{1,3}", re.S)
+_UTF32_BIG = re.compile(rb"(\0\0\0\r(?:\0\0\0\n)?|\0\0\0\n)|....|.{1,3}", re.S)
 
 _MARKS = [(b"\0\0\xfe\xff", _UTF32_BIG), (b"\xff\xfe\0\0", _UTF32_LITTLE), (b"\xfe\xff", _UTF16_BIG),
           (b"\xff\xfe", _UTF16_LITTLE), (b"\xef\xbb\xbf", _UTF8)]
@@ -42,7 +41,7 @@ def find_line(content: bytes, offset: int) -> Tuple[int, int]:
     for match in characters.finditer(content, start):
         if match.end() >= end:
             break
-        if match.group().replace(b"\0", b"") in _LINE_ENDS:
+        if match.lastindex:
             line, column = line + 1, 1
         else:
             column += 1

@@ -55,6 +55,7 @@ class PropertyEditor(Handle):
     @property
     def name(self) -> str:
         """The name that was given last; empty at first. Setting it raises RefusedError for an empty one."""
+        self._handle
         return self._name
 
     @name.setter
@@ -66,11 +67,13 @@ class PropertyEditor(Handle):
     @property
     def sub_genres(self) -> Tuple[str, ...]:
         """The sub-genres that were added."""
+        self._handle
         return tuple(self._sub_genres)
 
     @property
     def colors(self) -> Tuple[str, ...]:
         """The colours that were added."""
+        self._handle
         return tuple(self._colors)
 
     def add_sub_genre(self, sub_genre: str) -> None:
@@ -101,3 +104,6 @@ class PropertyEditor(Handle):
         the file as it was. Gives what the file has lost: the vendor."""
         from .safe_save import edit_safely
         return edit_safely(self, self._style)
+
+    def __repr__(self) -> str:
+        return "<PropertyEditor ended>" if self.ended else f"<PropertyEditor of {self._style!r}>"

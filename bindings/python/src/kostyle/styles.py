@@ -25,6 +25,7 @@ class Style(Handle):
     def manager(self) -> Manager:
         """The manager that owns the style."""
         from .manager import Manager
+        self._handle
         level: Union[Handle, None] = self
         while not isinstance(level, Manager):
             assert level is not None

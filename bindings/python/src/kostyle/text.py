@@ -41,7 +41,7 @@ def decode(address: Optional[int]) -> str:
     # The end of the text is not known, so it is looked for piece by piece.
     piece = ctypes.string_at(address, _PIECE - address % _PIECE)
     end = _find_end(piece)
-    return _decode(piece[:end] if end >= 0 else _long_text(address, piece), "surrogatepass")[0]
+    return _decode(piece[:end] if end >= 0 else _long_text(address, piece), "surrogatepass", True)[0]
 
 
 def _long_text(address: int, piece: bytes) -> bytes:

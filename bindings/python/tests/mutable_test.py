@@ -1,0 +1,161 @@
+"""Building styles in memory."""
+import math
+import struct
+
+import kostyle
+
+from support import StyleTest, document
+
+
+class AttributesTest(StyleTest):
+    def test_are_sets_in_the_order_of_the_library(self) -> None:
+        style = self.mutable()
+        for name in ("singer_groups", "genres", "sub_genres", "colors"):
+            values = getattr(style, name)
+            values.update(["b", "a", "b"])
+            self.assertEqual(list(values), ["a", "b"])
+            values.discard("x")
+            values.remove("a")
+            with self.assertRaises(KeyError):
+                values.remove("a")
+            self.assertEqual((list(values), "b" in values, len(values)), (["b"], True, 1))
+            values.clear()
+            self.assertEqual(len(values), 0)
+
+    def test_refuse_what_no_file_has(self) -> None:
+        style = self.mutable()
+        for values, bad in [(style.genres, ""), (style.genres, "a\0"), (style.singer_ids, "short")]:
+            with self.subTest(bad=bad), self.assertRaises(kostyle.RefusedError):
+                values.add(bad)
+        for number in (-1, 5, 2 ** 32, -2 ** 40):
+            with self.subTest(number=number), self.assertRaises(kostyle.RefusedError):
+                style.languages.add(number)
+        style.languages.update([4, 0])
+        style.singer_ids.add("\U0001f3b5" * 8)
+        self.assertEqual((list(style.languages), list(style.singer_ids)), ([0, 4], ["\U0001f3b5" * 8]))
+
+
+class NameTest(StyleTest):
+    def test_has_at_most_100_units(self) -> None:
+        style = self.manager.create_mutable_style()
+        self.assertEqual(style.name, "")
+        style.name = "\U0001f3b5" * 50
+        for bad in ("", "x" * 101, "\U0001f3b5" * 50 + "x", "a\0"):
+            with self.assertRaises(kostyle.RefusedError):
+                style.name = bad
+        self.assertEqual(style.name, "\U0001f3b5" * 50)
+
+
+class ChainTest(StyleTest):
+    def test_inserts_moves_and_destroys(self) -> None:
+        chain = self.manager.create_mutable_style().midi_effects
+        last = chain.append("c")
+        chain.insert(0, "a")
+        chain.insert(1, "b")
+        chain.insert(99, "d")
+        self.assertEqual([effect.id for effect in chain], ["a", "b", "c", "d"])
+        last.move(0)
+        chain[1].move(99)
+        chain[1].destroy()
+        self.assertEqual([effect.id for effect in chain], ["c", "d", "a"])
+        self.assertIs(chain[0], last)
+        self.assertIn(last, chain)
+        self.assertEqual(last.kind, kostyle.EffectKind.MIDI)
+
+    def test_refuses_identifiers(self) -> None:
+        style = self.mutable()
+        for bad in ("", "Gate", "x\0"):
+            with self.assertRaises(kostyle.RefusedError):
+                style.audio_effects.append(bad)
+        style.midi_effects.append("Gate")
+        for index in (-1, -2 ** 40):
+            with self.assertRaises(IndexError):
+                style.audio_effects.insert(index, "x")
+            with self.assertRaises(IndexError):
+                style.audio_effects[0].move(index)
+
+
+class ParametersTest(StyleTest):
+    def setUp(self) -> None:
+        super().setUp()
+        self.effect = self.mutable().midi_effects.append("Effect")
+        self.parameters = self.effect.parameters
+
+    def test_are_a_mapping(self) -> None:
+        self.parameters.update(b=1, a="x")
+        self.parameters["c"] = 0.5
+        self.parameters["b"] = "now a text"
+        self.assertEqual(dict(self.parameters), {"a": "x", "b": "now a text", "c": 0.5})
+        self.assertEqual(self.parameters.pop("a"), "x")
+        with self.assertRaises(KeyError):
+            del self.parameters["a"]
+        self.assertEqual(self.parameters.setdefault("d", 7), 7)
+        self.parameters.clear()
+        self.assertEqual((len(self.parameters), len(self.effect.parameter_list)), (0, 0))
+
+    def test_keep_values_in_their_types(self) -> None:
+        for value in (2 ** 31 - 1, -2 ** 31, 0, 0.1, -0.0, math.inf, math.nan, 3.4e38, "", "x" * 1000, "\ud83c"):
+            self.parameters["v"] = value
+            stored = struct.unpack("f", struct.pack("f", value))[0] if isinstance(value, float) else value
+            self.assertEqual(repr(self.parameters["v"]), repr(stored))
+
+    def test_refuse_values_and_change_nothing(self) -> None:
+        self.parameters["known"] = 1
+        for value, error in [(2 ** 31, OverflowError), (-2 ** 31 - 1, OverflowError), (3.5e38, OverflowError),
+                             (True, TypeError), (None, TypeError), (b"x", TypeError), ("a\0", ValueError)]:
+            for name in ("known", "new"):
+                with self.subTest(value=value, name=name), self.assertRaises(error):
+                    self.parameters[name] = value  # type: ignore[assignment]
+        self.assertEqual(dict(self.parameters), {"known": 1})
+
+    def test_refuse_names(self) -> None:
+        self.effect.add_parameter("known", 1)
+        for name in ("", "known", "a\0"):
+            with self.assertRaises(kostyle.RefusedError):
+                self.effect.add_parameter(name, 1)
+        with self.assertRaises(kostyle.RefusedError):
+            self.parameters[""] = 1
+
+    def test_are_renamed(self) -> None:
+        self.parameters.update(a=1, b=2)
+        first, second = self.effect.parameter_list
+        first.name = "z"
+        self.assertEqual(list(self.parameters.items()), [("z", 1), ("b", 2)])
+        second.name = "z"
+        self.assertEqual(dict(self.parameters), {"z": 1})
+        self.assertEqual([parameter.value for parameter in self.effect.parameter_list], [1, 2])
+        with self.assertRaises(kostyle.RefusedError):
+            first.name = ""
+        second.value = "x"
+        self.assertEqual((second.value, second.type), ("x", kostyle.ParameterType.STRING))
+        first.destroy()
+        self.assertEqual(dict(self.parameters), {"z": "x"})
+
+
+class CopyTest(StyleTest):
+    def test_has_all_but_the_vendor(self) -> None:
+        style = self.read_one(document(
+            vendor="Maker", filter={"languages": [1], "singerGroups": ["g"], "singerIDs": ["0123456789abcdef"],
+                                    "genres": ["Pop"], "subGenres": ["s"], "colors": ["c"]},
+            midiEffect={"Arp": {"parameter": {"rate": "1/16", "n": 3, "x": 0.5}}}))
+        with style.mutable_copy() as copy:
+            expected = kostyle.record_of(style)
+            expected.id = expected.vendor = ""
+            self.assertEqual(kostyle.record_of(copy), expected)
+            self.assertEqual([finding.place for finding in copy.left_out], ["vendor"])
+
+    def test_of_a_mutable_style_is_another_one(self) -> None:
+        style = self.mutable()
+        copy = style.mutable_copy()
+        copy.name = "Copy"
+        self.assertEqual((style.name, copy.left_out), ("Mutable", ()))
+
+    def test_lists_what_a_nul_of_the_file_spoils(self) -> None:
+        style = self.read_one(document(
+            filter={"genres": ["\0x", "a\0b", "a\0c"]},
+            audioEffect={"E\0a": {"parameter": {"p\0a": 1, "p\0b": 2, "\0": 3}}, "E\0b": {"parameter": {"p": 1}}}))
+        with style.mutable_copy() as copy:
+            self.assertEqual([finding.place for finding in copy.left_out],
+                             ["genres ''", "genres 'a'", "audio effect 'E', parameter ''",
+                              "audio effect 'E', parameter 'p'", "audio effect 'E'"])
+            self.assertEqual((list(copy.genres), dict(copy.audio_effects[0].parameters)), (["a"], {"p": 1}))
