@@ -87,12 +87,15 @@ class _Backup:
     def __init__(self, file: pathlib.Path, in_place: bool) -> None:
         self.file = file
         self.path = file.with_name(f"kostyle-backup-{uuid.uuid4()}")
-        try:
-            if in_place:
-                raise OSError
-            os.link(file, self.path)
-        except OSError:
+        if in_place or not self._link():
             self._copy()
+
+    def _link(self) -> bool:
+        try:
+            os.link(self.file, self.path)
+        except OSError:
+            return False  # not every file system has links
+        return True
 
     def _copy(self) -> None:
         try:

@@ -24,6 +24,7 @@ from .text import PathLike, decode, encode, encode_path
 
 # So many files lie in one folder, and so many styles in memory, at a time.
 _BATCH = 1000
+PREFIX = "kostyle-scan-"
 
 
 def scan(paths: Iterable[PathLike]) -> List[FileRecord]:
@@ -102,7 +103,7 @@ def _scan_round(records: List[FileRecord]) -> Dict[str, List[FileRecord]]:
 def _manager(folder: str) -> Iterator[int]:
     path = encode_path(folder)
     code = ctypes.c_int(Code.OK)
-    manager = c.CreateStyleManager(encode(f"kostyle-scan-{uuid.uuid4()}"), path, path, None, 0, None, 0,
+    manager = c.CreateStyleManager(encode(f"{PREFIX}{uuid.uuid4()}"), path, path, None, 0, None, 0,
                                    ctypes.byref(code))
     if not manager:
         raise CodeError(code.value, folder)
@@ -134,8 +135,8 @@ def _folder_of_links(records: List[FileRecord]) -> Iterator[str]:
 def _make_folder() -> str:
     # In memory where the system has such a place: making a link on a disk can take longer than reading a file.
     with contextlib.suppress(OSError):
-        return tempfile.mkdtemp(prefix="kostyle-scan-", dir="/dev/shm")
-    return tempfile.mkdtemp(prefix="kostyle-scan-")
+        return tempfile.mkdtemp(prefix=f"{PREFIX}{os.getpid()}-", dir="/dev/shm")
+    return tempfile.mkdtemp(prefix=f"{PREFIX}{os.getpid()}-")
 
 
 def _show(path: str, link: str) -> None:

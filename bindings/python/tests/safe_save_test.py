@@ -1,0 +1,249 @@
+"""Saving with care: nothing is lost unsaid, and a failure leaves all as it was."""
+import contextlib
+import math
+import os
+import random
+import shutil
+import tempfile
+import unittest
+from typing import Any, Callable, Iterator, List
+from unittest import mock
+
+import kostyle
+from kostyle import safe_save
+
+from support import StyleTest, document
+
+# How a style comes to hold something that does not come back, and what is said about it.
+LOSSES = [
+    ("'Empty'", "no effect without parameters", lambda style: style.midi_effects.append("Empty")),
+    ("'p'", "an infinity", lambda style: style.audio_effects[0].add_parameter("p", math.inf)),
+    ("'p'", "an infinity", lambda style: style.audio_effects[0].add_parameter("p", -math.inf)),
+    ("'p'", "NaN", lambda style: style.audio_effects[0].add_parameter("p", math.nan)),
+    ("'Tarn'", "Tarn630", lambda style: style.audio_effects[0].add_parameter("Tarn", 1)),
+    ("'hold'", "one name", lambda style: setattr(style.audio_effects[0].add_parameter("p", 1), "name", "hold")),
+    ("'p'", "lone surrogate", lambda style: style.audio_effects[0].add_parameter("p", "\ud83c")),
+    ("parameter", "lone surrogate", lambda style: style.audio_effects[0].add_parameter("\udfb5", 1)),
+    ("MIDI effect", "lone surrogate", lambda style: style.midi_effects.append("\udfb5").add_parameter("p", 1)),
+    ("name", "lone surrogate", lambda style: setattr(style, "name", "x\ud83c")),
+    ("genres", "lone surrogate", lambda style: style.genres.add("\udfb5")),
+    ("singer_ids", "lone surrogate", lambda style: style.singer_ids.add("\udfb5" * 16)),
+]
+
+
+@contextlib.contextmanager
+def full_disk(room: int) -> Iterator[None]:
+    """Files cannot grow beyond so many bytes, as on a disk that is full."""
+    import resource
+    limits = resource.getrlimit(resource.RLIMIT_FSIZE)
+    resource.setrlimit(resource.RLIMIT_FSIZE, (room, limits[1]))
+    try:
+        yield
+    finally:
+        resource.setrlimit(resource.RLIMIT_FSIZE, limits)
+
+
+class SafeTest(StyleTest):
+    def setUp(self) -> None:
+        super().setUp()
+        self.target = self.read_one(document(vendor="Maker", filter={"genres": ["Old"]}))
+        self.expected = kostyle.record_of(self.target)
+        self.before = self.target.path.read_bytes()
+
+    def expect_all_as_it_was(self) -> None:
+        """On the disk, and of the target in memory."""
+        self.assertEqual([path.name for path in self.user.iterdir()], ["one.kostyle"])
+        self.assertEqual(self.target.path.read_bytes(), self.before)
+        self.assertEqual(kostyle.record_of(self.target), self.expected)
+        self.assertEqual(list(self.manager.user_styles), [self.target])
+
+    def saves(self, style: kostyle.MutableStyle) -> List[Callable[[], Any]]:
+        return [style.save_safely, lambda: style.overwrite_safely(self.target)]
+
+
+class CheckTest(SafeTest):
+    def test_finds_each_loss_before_anything_is_written(self) -> None:
+        for place, reason, spoil in LOSSES:
+            style = self.mutable()
+            spoil(style)
+            for save in self.saves(style):
+                with self.subTest(place=place, reason=reason), self.assertRaises(kostyle.UnsafeError) as caught:
+                    save()
+                [finding] = caught.exception.findings
+                self.assertIn(place, finding.place)
+                self.assertIn(reason, finding.reason)
+                self.assertEqual((finding,), kostyle.check(style))
+            self.assertFalse(style.ended)
+        self.expect_all_as_it_was()
+
+    def test_finds_nothing_else(self) -> None:
+        style = self.mutable("\U0001f3b5 \u00e9 \" \\ \n")
+        style.audio_effects[0].parameters.update({"Tarn630": 1, "tarn": 2})
+        self.assertEqual(kostyle.check(style), ())
+
+    def test_tells_of_a_stored_style_that_its_file_cannot_be_written_again(self) -> None:
+        style = self.read_one(document(audioEffect={"A": {"parameter": {"x": 1e300}}, "B": {"parameter": {"x": None}},
+                                                    "C": {"parameter": {"x": "\udfb5"}}}))
+        before = style.path.read_bytes()
+        self.assertEqual([finding.place for finding in kostyle.check(style)],
+                         ["audio effect 'A', parameter 'x'", "audio effect 'B'", "audio effect 'C', parameter 'x'"])
+        with style.property_editor() as editor:
+            editor.name = "New"
+            with self.assertRaises(kostyle.UnsafeError):
+                editor.save_safely()
+        self.assertEqual((style.path.read_bytes(), style.name), (before, "One"))
+
+    def test_tells_of_a_target_on_another_file_system(self) -> None:
+        shared = "/dev/shm"
+        if not os.path.isdir(shared) or os.stat(shared).st_dev == os.stat(self.user).st_dev:
+            self.skipTest("there is one file system only")
+        with tempfile.TemporaryDirectory(dir=shared) as other:
+            file = self.write(self.folder / "x", document("far"))
+            shutil.copy(file, os.path.join(other, "far.kostyle"))
+            with kostyle.Manager("far", self.system, self.user, user_directories=[other]) as manager:
+                manager.read()
+                far = manager.user_styles.find("far")
+                assert far is not None
+                before = far.path.read_bytes()
+                with far.mutable_copy() as copy, self.assertRaises(kostyle.UnsafeError):
+                    copy.overwrite_safely(far)
+                self.assertEqual(far.path.read_bytes(), before)
+        self.expect_all_as_it_was()
+
+
+class SuccessTest(SafeTest):
+    def test_of_saving(self) -> None:
+        style = self.mutable("New")
+        saved = style.save_safely(pretty=False)
+        self.assertTrue(style.ended)
+        self.assertEqual(kostyle.scan([saved.path])[0].style, kostyle.record_of(saved))
+        self.assertNotIn(b"\n", saved.path.read_bytes())
+        self.assertEqual(len(list(self.user.iterdir())), 2)
+
+    def test_of_overwriting(self) -> None:
+        style = self.mutable("New")
+        self.assertIs(style.overwrite_safely(self.target), self.target)
+        self.assertTrue(style.ended)
+        self.assertEqual(self.target.name, "New")
+        [record] = kostyle.scan([self.target.path])
+        assert record.style is not None
+        self.assertEqual((record.style.name, record.style.vendor), ("New", ""))
+        self.assertEqual([path.name for path in self.user.iterdir()], ["one.kostyle"])
+
+    def test_of_overwriting_a_style_with_its_copy(self) -> None:
+        with self.target.mutable_copy() as copy:
+            copy.genres.add("New")
+            copy.overwrite_safely(self.target)
+        self.assertEqual(self.target.genres, ("New", "Old"))
+
+    def test_of_editing_tells_of_the_vendor(self) -> None:
+        with self.target.property_editor() as editor:
+            editor.name = "New"
+            editor.add_color("red")
+            self.assertEqual([finding.place for finding in editor.save_safely()], ["vendor"])
+        self.assertEqual((self.target.name, self.target.colors), ("New", ("red",)))
+        self.assertEqual([path.name for path in self.user.iterdir()], ["one.kostyle"])
+
+    def test_of_any_style(self) -> None:
+        generator = random.Random(3)
+        values = [0, -1, 2 ** 31 - 1, 0.1, 3.0, -0.0, 1e-45, 3.4e38, "", "x", "\U0001f3b5", "\u2028\"\\/\n\x01"]
+        for trial in range(30):
+            style = self.mutable(f"Trial {trial}")
+            for chain in (style.audio_effects, style.midi_effects):
+                for number in range(generator.randrange(4)):
+                    chain.append(f"E{number}").parameters.update(
+                        {f"p{place}\u00e9": generator.choice(values) for place in range(generator.randrange(1, 6))})
+            style.languages.update(generator.sample(range(5), 3))
+            style.colors.update(generator.sample(["a", "\ue000", "\U0001f3b5", "\uffff"], 3))
+            expected = kostyle.record_of(style)
+            saved = style.save_safely()
+            expected.id = saved.id
+            self.assertEqual(repr(kostyle.scan([saved.path])[0].style), repr(expected))
+
+
+class FailureTest(SafeTest):
+    def expect_not_saved(self, save: Callable[[], Any]) -> kostyle.NotSavedError:
+        with self.assertRaises(kostyle.NotSavedError) as caught:
+            save()
+        self.assertIsNone(caught.exception.backup)
+        return caught.exception
+
+    def big(self) -> kostyle.MutableStyle:
+        style = self.mutable("Big")
+        style.genres.update([f"genre {number}" for number in range(2000)])
+        return style
+
+    @unittest.skipIf(os.name == "nt", "files cannot be bounded there")
+    def test_on_a_full_disk_leaves_all_as_it_was(self) -> None:
+        for room in (0, 1000, 10_000):
+            style = self.big()
+            for save in self.saves(style):
+                with self.subTest(room=room), full_disk(room):
+                    failure = self.expect_not_saved(save)
+                self.assertIn("not valid JSON", str(failure))
+                self.assertEqual((style.ended, style.name, len(style.genres)), (False, "Big", 2000))
+                self.expect_all_as_it_was()
+
+    @unittest.skipIf(os.name == "nt", "files cannot be bounded there")
+    def test_on_a_full_disk_does_not_begin_to_edit(self) -> None:
+        with self.target.property_editor() as editor, full_disk(10):
+            editor.name = "New"
+            self.assertIn("backup", str(self.expect_not_saved(editor.save_safely)))
+        self.expect_all_as_it_was()
+
+    @unittest.skipIf(os.name == "nt", "files cannot be bounded there")
+    def test_of_editing_puts_the_file_back(self) -> None:
+        with self.target.property_editor() as editor, full_disk(len(self.before) + 50):
+            editor.name = "New"
+            for number in range(100):
+                editor.add_color(f"color {number}")
+            self.expect_not_saved(editor.save_safely)
+        self.assertEqual(self.target.path.read_bytes(), self.before)
+        self.assertEqual([path.name for path in self.user.iterdir()], ["one.kostyle"])
+
+    def test_to_read_back_leaves_all_as_it_was(self) -> None:
+        for failure in (OSError(28, "No space left on device"), KeyboardInterrupt()):
+            style = self.mutable()
+            for save in self.saves(style):
+                with mock.patch.object(safe_save, "scan", side_effect=failure):
+                    with self.assertRaises((kostyle.NotSavedError, KeyboardInterrupt)):
+                        save()
+                self.assertFalse(style.ended)
+                self.expect_all_as_it_was()
+
+    def test_to_find_the_same_leaves_all_as_it_was(self) -> None:
+        [other] = kostyle.scan([self.target.path])
+        style = self.mutable()
+        for save in self.saves(style):
+            with mock.patch.object(safe_save, "scan", return_value=[other]):
+                self.assertIn("does not hold what was written", str(self.expect_not_saved(save)))
+            self.expect_all_as_it_was()
+
+    def test_to_put_the_file_back_tells_where_it_is(self) -> None:
+        style = self.mutable()
+        with mock.patch.object(safe_save, "scan", side_effect=OSError(5, "Input/output error")), \
+                mock.patch("os.replace", side_effect=OSError), self.assertRaises(kostyle.NotSavedError) as caught:
+            style.overwrite_safely(self.target)
+        backup = caught.exception.backup
+        assert backup is not None
+        self.assertEqual(backup.read_bytes(), self.before)
+        self.assertNotEqual(backup.suffix, ".kostyle")
+        self.assertIn(str(backup), str(caught.exception))
+
+    def test_of_the_library_leaves_all_as_it_was(self) -> None:
+        style = self.manager.create_mutable_style()
+        style.audio_effects.append("Gate").parameters["hold"] = 1
+        with self.assertRaises(kostyle.CodeError):
+            style.overwrite_safely(self.target)
+        self.expect_all_as_it_was()
+
+    def test_when_the_target_is_gone(self) -> None:
+        self.target.path.unlink()
+        self.assertIn("backup", str(self.expect_not_saved(lambda: self.mutable().overwrite_safely(self.target))))
+
+    @unittest.skipIf(os.name == "nt", "links are made by os.link() there")
+    def test_without_links_makes_a_copy(self) -> None:
+        with mock.patch("os.link", side_effect=OSError):
+            self.mutable("New").overwrite_safely(self.target)
+            self.assertEqual(self.target.name, "New")
+            self.assertEqual([path.name for path in self.user.iterdir()], ["one.kostyle"])
