@@ -71,22 +71,23 @@ def sentences(helpers: str, function: str) -> Tuple[Dict[str, str], str]:
     return texts, default.group(1)
 
 
-def sentence_function(codes: str, helpers: str, function: str, enum_name: str, python_enum: str, name: str) -> List[str]:
+def sentence_function(codes: str, helpers: str, function: str, enum_name: str, python_enum: str,
+                      name: str) -> List[str]:
     texts, default = sentences(helpers, function)
     values = {member: value for member, value, _ in members(codes, enum_name)}
     table = f"_{name.upper()}S"
     lines = ["", "", f"{table} = {{"]
     lines += [f"    {values[member]}: {text}," for member, text in texts.items()]
     lines += ["}", "", "", f"def {name}(number: int) -> str:",
-              f'    """One sentence for a number of {python_enum}, without a capital or a full stop; any number has one."""',
+              f'    """One sentence for any number of {python_enum}, without a capital or a full stop."""',
               f"    return {table}.get(number, {default})"]
     return lines
 
 
 def generate(include: pathlib.Path) -> str:
     codes, helpers = read_header(include, "codes.h"), read_header(include, "helpers.h")
-    lines = ['"""Version, codes, kinds, limits and sentences. Made from the C headers by generate.py."""', "import enum", "",
-             f'VERSION = "{version(include)}"']
+    lines = ['"""Version, codes, kinds, limits and sentences. Made from the C headers by generate.py."""',
+             "import enum", "", f'VERSION = "{version(include)}"']
     for entry in ENUMERATIONS:
         lines += enumeration(codes, *entry)
     for function, enum_name, python_enum, name in SENTENCES:

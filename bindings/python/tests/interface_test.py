@@ -16,6 +16,9 @@ from support import SOURCE
 INTERFACE = (SOURCE / "tests" / "host" / "interface.txt").read_text(encoding="ascii")
 PACKAGE = SOURCE / "bindings" / "python" / "src" / "kostyle"
 
+ENCODINGS = ["utf-8", "utf-8-sig", "utf-16-le", "utf-16-be", "utf-16", "utf-32-le", "utf-32-be", "utf-32"]
+MARKS = [b"", b"\xff\xfe", b"\xfe\xff\0", b"\xef\xbb\xbf", b"\0\0\xfe\xff", b"\xff\xfe\0\0"]
+
 # What the C types are to ctypes, as results and as arguments.
 TYPES = {"void": None, "bool": ctypes.c_bool, "int": ctypes.c_int, "float": ctypes.c_float, "size_t": ctypes.c_size_t,
          "int*": functions.INT_PLACE, "const KoStyleChar* const*": functions.TEXTS_ARGUMENT}
@@ -78,7 +81,8 @@ class CodesTest(unittest.TestCase):
 
     def test_have_the_version_of_the_headers(self) -> None:
         header = (SOURCE / "include" / "kostyle" / "version.h").read_text(encoding="utf-8")
-        self.assertEqual(kostyle.__version__.split("."), re.findall(r"VERSION_(?:MAJOR|MINOR|PATCH) (\d+)$", header, re.M))
+        numbers = re.findall(r"VERSION_(?:MAJOR|MINOR|PATCH) (\d+)$", header, re.M)
+        self.assertEqual(kostyle.__version__.split("."), numbers)
 
     def test_have_words_in_their_documentation(self) -> None:
         for enumeration in (codes.Code, codes.ParseError, codes.Kind, codes.Limit):
@@ -110,9 +114,7 @@ class HelpersTest(unittest.TestCase):
         characters = ["a", " ", "\n", "\r", "\r\n", "\u00e9", "\u0100", "\u0a0d", "\u0d0a", "\u2028", "\U0001f3b5"]
         for trial in range(300):
             text = "{\"" + "".join(generator.choices(characters, k=generator.randrange(30)))
-            encoding = generator.choice(["utf-8", "utf-8-sig", "utf-16-le", "utf-16-be", "utf-16", "utf-32-le", "utf-32-be",
-                                         "utf-32"])
-            content = text.encode(encoding)
+            content = text.encode(generator.choice(ENCODINGS))
             self.compare(content)
             self.compare(content[:generator.randrange(len(content) + 1)])
 
@@ -120,8 +122,7 @@ class HelpersTest(unittest.TestCase):
         generator = random.Random(8)
         for trial in range(300):
             alphabet = generator.choice([b"\0\r\nab\xd8\xdc", b"a\x80\xbf\xc1\xc2\xe0\xf0\xff\r\n", bytes(range(256))])
-            self.compare(generator.choice([b"", b"\xff\xfe", b"\xfe\xff\0", b"\xef\xbb\xbf", b"\0\0\xfe\xff", b"\xff\xfe\0\0"])
-                         + bytes(generator.choices(alphabet, k=generator.randrange(24))))
+            self.compare(generator.choice(MARKS) + bytes(generator.choices(alphabet, k=generator.randrange(24))))
 
     def compare(self, content: bytes) -> None:
         for offset in [*range(len(content) + 2), 2 ** 64 - 1]:

@@ -26,8 +26,9 @@ class LibraryTest(unittest.TestCase):
         variables = {**os.environ, "PYTHONPATH": str(self.folder), **environment}
         if library:
             variables["KOSTYLE_LIBRARY"] = library
-        return subprocess.run([sys.executable, "-c", f"import kostyle\n{statement}"], env=variables, check=True, text=True,
-                              cwd=self.folder, capture_output=True).stdout.strip()
+        done = subprocess.run([sys.executable, "-c", f"import kostyle\n{statement}"], env=variables, check=True,
+                              text=True, cwd=self.folder, capture_output=True)
+        return done.stdout.strip()
 
     def test_lies_beside_the_modules(self) -> None:
         self.assertEqual(library_path(), str(self.library.resolve()))

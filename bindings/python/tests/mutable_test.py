@@ -1,6 +1,7 @@
 """Building styles in memory."""
 import math
 import struct
+from typing import List
 
 import kostyle
 
@@ -94,7 +95,9 @@ class ParametersTest(StyleTest):
         self.assertEqual((len(self.parameters), len(self.effect.parameter_list)), (0, 0))
 
     def test_keep_values_in_their_types(self) -> None:
-        for value in (2 ** 31 - 1, -2 ** 31, 0, 0.1, -0.0, math.inf, math.nan, 3.4e38, "", "x" * 1000, "\ud83c"):
+        values: List[kostyle.ParameterValue] = [2 ** 31 - 1, -2 ** 31, 0, 0.1, -0.0, math.inf, math.nan, 3.4e38, "",
+                                                "x" * 1000, "\ud83c"]
+        for value in values:
             self.parameters["v"] = value
             stored = struct.unpack("f", struct.pack("f", value))[0] if isinstance(value, float) else value
             self.assertEqual(repr(self.parameters["v"]), repr(stored))

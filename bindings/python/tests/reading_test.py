@@ -6,6 +6,7 @@ import shutil
 import unittest
 
 import kostyle
+from kostyle.attributes import LISTS
 
 from support import EXAMPLES, StyleTest, document
 
@@ -28,11 +29,14 @@ class ManagerTest(StyleTest):
         self.assertIsNot(again, self.manager)
 
     def test_is_refused_with_a_code_and_a_sentence(self) -> None:
-        for code, arguments in [(kostyle.Code.APP_ID_MISSING, ("", self.system, self.user)),
-                                (kostyle.Code.SYSTEM_DIRECTORY_MISSING, ("x", self.folder / "none", self.user)),
-                                (kostyle.Code.USER_DIRECTORY_NOT_CREATABLE, ("x", self.system, "/proc/none/none"))]:
+        self.write(self.folder / "file", b"")
+        below = self.folder / "file" / "user"
+        for code, app_id, system, user in [
+                (kostyle.Code.APP_ID_MISSING, "", self.system, self.user),
+                (kostyle.Code.SYSTEM_DIRECTORY_MISSING, "x", self.folder / "none", self.user),
+                (kostyle.Code.USER_DIRECTORY_NOT_CREATABLE, "x", self.system, below)]:
             with self.subTest(code=code), self.assertRaises(kostyle.CodeError) as caught:
-                kostyle.Manager(*arguments)
+                kostyle.Manager(app_id, system, user)
             self.assertIs(caught.exception.code, code)
             self.assertEqual(caught.exception.sentence, kostyle.code_text(code))
             self.assertIn(caught.exception.sentence, str(caught.exception))
@@ -113,7 +117,8 @@ class StoredStyleTest(StyleTest):
             "id": "\u00fcber", "name": "\U0001f3b5", "vendor": "Maker",
             "filter": {"languages": [3, 0, 9], "singerGroups": ["b", "a"], "singerIDs": ["0123456789abcdef"],
                        "genres": ["Pop"], "subGenres": ["Retro"], "colors": ["red"]},
-            "audioEffect": {"Two": {"parameter": {"z": "text", "int": -5, "float": 0.1}}, "One": {"parameter": {"e": ""}}},
+            "audioEffect": {"Two": {"parameter": {"z": "text", "int": -5, "float": 0.1}},
+                            "One": {"parameter": {"e": ""}}},
             "midiEffect": {"Arp": {"parameter": {"Tarn": 1, "huge": 1e300}}}})
         record = kostyle.record_of(style)
         single = 0.10000000149011612
@@ -123,7 +128,7 @@ class StoredStyleTest(StyleTest):
             (kostyle.EffectRecord("Two", (("float", single), ("int", -5), ("z", "text"))),
              kostyle.EffectRecord("One", (("e", ""),))),
             (kostyle.EffectRecord("Arp", (("Tarn630", 1), ("huge", math.inf))),)))
-        for name in ("id", "name", "vendor", "languages", "singer_groups", "singer_ids", "genres", "sub_genres", "colors"):
+        for name in ("id", "name", "vendor", *LISTS):
             self.assertEqual(getattr(style, name), getattr(record, name))
         self.assertEqual((style.path, style.kind), (self.user / "one.kostyle", kostyle.Kind.USER))
 

@@ -6,7 +6,7 @@ import random
 import shutil
 import tempfile
 import unittest
-from typing import Any, Callable, Iterator, List
+from typing import Any, Callable, Iterator, List, Tuple
 from unittest import mock
 
 import kostyle
@@ -15,7 +15,7 @@ from kostyle import safe_save
 from support import StyleTest, document
 
 # How a style comes to hold something that does not come back, and what is said about it.
-LOSSES = [
+LOSSES: List[Tuple[str, str, Callable[[kostyle.MutableStyle], Any]]] = [
     ("'Empty'", "no effect without parameters", lambda style: style.midi_effects.append("Empty")),
     ("'p'", "an infinity", lambda style: style.audio_effects[0].add_parameter("p", math.inf)),
     ("'p'", "an infinity", lambda style: style.audio_effects[0].add_parameter("p", -math.inf)),
@@ -146,7 +146,7 @@ class SuccessTest(SafeTest):
 
     def test_of_any_style(self) -> None:
         generator = random.Random(3)
-        values = [0, -1, 2 ** 31 - 1, 0.1, 3.0, -0.0, 1e-45, 3.4e38, "", "x", "\U0001f3b5", "\u2028\"\\/\n\x01"]
+        values: List[kostyle.ParameterValue] = [0, -1, 2 ** 31 - 1, 0.1, 3.0, -0.0, 1e-45, 3.4e38, "", "x", "\U0001f3b5", "\u2028\"\\/\n\x01"]
         for trial in range(30):
             style = self.mutable(f"Trial {trial}")
             for chain in (style.audio_effects, style.midi_effects):

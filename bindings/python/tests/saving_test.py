@@ -87,10 +87,12 @@ class PropertyEditorTest(StyleTest):
 
     def test_refuses_values(self) -> None:
         with self.read_one(document()).property_editor() as editor:
-            for wrong in (lambda: setattr(editor, "name", ""), lambda: editor.add_color(""),
-                          lambda: editor.add_sub_genre("\0")):
-                with self.assertRaises(kostyle.RefusedError):
-                    wrong()
+            with self.assertRaises(kostyle.RefusedError):
+                editor.name = ""
+            for add in (editor.add_color, editor.add_sub_genre):
+                for wrong in ("", "a\0"):
+                    with self.assertRaises(kostyle.RefusedError):
+                        add(wrong)
             editor.add_color("red")
             with self.assertRaises(kostyle.RefusedError):
                 editor.add_color("red")

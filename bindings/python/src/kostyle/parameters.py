@@ -167,5 +167,6 @@ def parameter_list(effect: Effect) -> HandleSequence[Parameter]:
 
 def mutable_parameter_list(effect: MutableEffect) -> HandleSequence[MutableParameter]:
     """The parameters of a mutable effect."""
+    at = c.MutableEffect_parameter
     return HandleSequence(lambda: int(c.Effect_numParameter(effect._handle)),
-                          lambda index: effect._child(MutableParameter, c.MutableEffect_parameter(effect._handle, index)))
+                          lambda index: effect._child(MutableParameter, at(effect._handle, index)))

@@ -37,8 +37,8 @@ def scan(paths: Iterable[PathLike]) -> List[FileRecord]:
 
     The function and the records can be pickled, so any pool of processes or machines may run it, and any
     number of threads at a time. It writes links (on Windows hard links, or copies where those cannot be made)
-    into a folder of its own below /dev/shm or else tempfile.gettempdir(), and removes them. Raises OSError when that folder
-    cannot be made.
+    into a folder of its own below /dev/shm or else tempfile.gettempdir(), and removes them. Raises OSError when
+    that folder cannot be made.
 
     >>> for record in kostyle.scan([system_directory / "concrete_club.kostyle", "missing.kostyle"]):
     ...     print(record.style.name if record.style else record.refusal)
