@@ -146,7 +146,8 @@ class SuccessTest(SafeTest):
 
     def test_of_any_style(self) -> None:
         generator = random.Random(3)
-        values: List[kostyle.ParameterValue] = [0, -1, 2 ** 31 - 1, 0.1, 3.0, -0.0, 1e-45, 3.4e38, "", "x", "\U0001f3b5", "\u2028\"\\/\n\x01"]
+        values: List[kostyle.ParameterValue] = [0, -1, 2 ** 31 - 1, 0.1, 3.0, -0.0, 1e-45, 3.4e38, "", "x",
+                                                "\U0001f3b5", "\u2028\"\\/\n\x01"]
         for trial in range(30):
             style = self.mutable(f"Trial {trial}")
             for chain in (style.audio_effects, style.midi_effects):
