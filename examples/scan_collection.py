@@ -168,14 +168,16 @@ def connected(scheduler: Optional[str]) -> Iterator[distributed.Client]:
             client.wait_for_workers(1)
             yield client
     else:
-        with tempfile.TemporaryDirectory() as folder, distributed.LocalCluster(
-                n_workers=os.cpu_count(), threads_per_worker=1, dashboard_address=None, local_directory=folder) as cluster:
-            with distributed.Client(cluster) as client:
-                yield client
+        options = {"n_workers": os.cpu_count(), "threads_per_worker": 1, "dashboard_address": None}
+        with tempfile.TemporaryDirectory() as folder, \
+                distributed.LocalCluster(**options, local_directory=folder) as cluster, \
+                distributed.Client(cluster) as client:
+            yield client
 
 
 def main() -> int:
-    parser = argparse.ArgumentParser(usage=__doc__.split("usage: ")[1].split("\n")[0], description=__doc__.split("\n")[0])
+    summary, usage, *_ = __doc__.split("\n\n")
+    parser = argparse.ArgumentParser(usage=usage.replace("usage: ", ""), description=summary)
     parser.add_argument("--scheduler", metavar="ADDRESS", help="of a running Dask cluster, as tcp://host:8786")
     parser.add_argument("--batch", metavar="FILES", type=int, default=500, help="a worker reads at a time (500)")
     parser.add_argument("table", metavar="TABLE")

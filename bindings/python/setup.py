@@ -23,6 +23,7 @@ except ImportError:
 HERE = pathlib.Path(__file__).resolve().parent
 SOURCE = HERE.parent.parent
 sys.path.insert(0, str(HERE))
+sys.dont_write_bytecode = True
 import generate  # noqa: E402
 
 WINDOWS = "win_amd64"

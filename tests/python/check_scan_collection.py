@@ -48,8 +48,9 @@ def content_of(number):
     if number % 50 == 1:
         return json.dumps({"id": str(number), "audioEffect": {}})
     parameters = {f"p{place}": generator.choice([number, number / 7, f"text {number}", 1e300]) for place in range(4)}
-    return json.dumps({"id": str(number % 19_000), "name": f"Style \u00fc {number}", "filter": {"languages": [number % 5]},
-                       "audioEffect": {"Gate": {"parameter": parameters}}}, ensure_ascii=number % 2 == 0)
+    return json.dumps({"id": str(number % 19_000), "name": f"Style \u00fc {number}",
+                       "filter": {"languages": [number % 5]}, "audioEffect": {"Gate": {"parameter": parameters}}},
+                      ensure_ascii=number % 2 == 0)
 
 
 def make_collection(folder):
