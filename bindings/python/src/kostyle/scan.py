@@ -159,5 +159,5 @@ def _why_not_opened(path: str) -> str:
             return "the file could not be opened when it was read"
     except OSError as error:
         return error.strerror or str(error)
-    except ValueError as error:
-        return str(error)
+    except ValueError:
+        return "the system has no such paths"
