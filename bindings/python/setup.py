@@ -53,6 +53,7 @@ class BuildPackage(build_py):
         super().run()
         package = pathlib.Path(self.build_lib) / "kostyle"
         (package / "codes.py").write_text(generate.generate(SOURCE / "include"), encoding="utf-8")
+        shutil.copyfile(SOURCE / "LICENSE", package / "LICENSE")
         library = ready_library or built_library(self.get_finalized_command("build").build_base)
         shutil.copyfile(library, package / library_name())
 

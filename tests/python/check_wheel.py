@@ -77,7 +77,7 @@ class Check:
         expected = rf"kostyle-{self.version}-py3-none-{platform}\.whl"
         expect(re.fullmatch(expected, wheel.name), f"it is called {wheel.name}")
         package = {f"kostyle/{path.name}" for path in (self.project / "src" / "kostyle").glob("*.py")}
-        package |= {"kostyle/py.typed", "kostyle/codes.py", f"kostyle/{library}"}
+        package |= {"kostyle/py.typed", "kostyle/codes.py", "kostyle/LICENSE", f"kostyle/{library}"}
         with zipfile.ZipFile(wheel) as archive:
             names = {name for name in archive.namelist() if ".dist-info/" not in name}
             expect(names == package, f"differently in the wheel: {sorted(names ^ package)}")

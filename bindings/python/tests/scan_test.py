@@ -164,6 +164,10 @@ class ScanTest(StyleTest):
             self.assertFalse(shown.is_symlink())
             if failure:
                 self.assertEqual(shown.read_bytes(), pathlib.Path(path).read_bytes())
+        with mock.patch("sys.platform", "win32"), mock.patch("os.access", return_value=False), \
+                mock.patch("os.link") as link:
+            module._show(path, str(self.folder / "read-only"))
+        self.assertEqual((link.call_count, (self.folder / "read-only").exists()), (0, True))
 
     def test_leaves_nothing_behind(self) -> None:
         def left() -> List[str]:

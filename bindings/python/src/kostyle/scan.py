@@ -143,8 +143,8 @@ def _show(path: str, link: str) -> None:
     if sys.platform != "win32":
         with contextlib.suppress(OSError):  # not every file system has links
             return os.symlink(path, link)
-    else:
-        with contextlib.suppress(OSError):  # not to another volume, and not without rights
+    elif os.access(path, os.W_OK):  # a link to a file that is read-only could not be removed
+        with contextlib.suppress(OSError):  # not to another volume
             return os.link(path, link)
     if stat.S_ISREG(os.stat(path).st_mode):
         shutil.copyfile(path, link)
