@@ -120,7 +120,8 @@ def main():
     roomy = os.path.isdir(shared) and shutil.disk_usage(shared).free > arguments.files * 20_000
     for kind in KINDS:
         with tempfile.TemporaryDirectory(dir=shared if roomy else None) as folder:
-            measure(kind, make_files(pathlib.Path(folder), kind, arguments.files), arguments.rounds, arguments.processes)
+            files = make_files(pathlib.Path(folder), kind, arguments.files)
+            measure(kind, files, arguments.rounds, arguments.processes)
 
 
 if __name__ == "__main__":

@@ -15,7 +15,6 @@ that did it is found, and has its row too. The exit code is 0 when every file ha
 import argparse
 import contextlib
 import csv
-import dataclasses
 import itertools
 import json
 import os
@@ -66,10 +65,10 @@ def row_of(record: kostyle.FileRecord) -> Row:
     row = dict.fromkeys(COLUMNS, "")
     row["path"] = record.path
     if record.style:
-        style = dataclasses.asdict(record.style)
-        row.update({name: style[name] for name in ("id", "name", "vendor")})
-        row.update({name: as_json(style[name]) for name in LISTS})
-        row.update({name: as_json([[effect["id"], dict(effect["parameters"])] for effect in style[name]])
+        style = record.style
+        row.update({name: getattr(style, name) for name in ("id", "name", "vendor")})
+        row.update({name: as_json(getattr(style, name)) for name in LISTS})
+        row.update({name: as_json([[effect.id, dict(effect.parameters)] for effect in getattr(style, name)])
                     for name in CHAINS})
     elif record.refusal:
         refusal = record.refusal

@@ -155,6 +155,22 @@ def check_embedded(example, folder):
         sys.exit("the embedded scheduler lost files")
 
 
+def check_parquet(example, folder):
+    """Where pyarrow is, the table holds the same; else that is said before the work begins."""
+    table = folder / "small.parquet"
+    done = subprocess.run([sys.executable, example, str(table), str(folder / "small")], text=True,
+                          stderr=subprocess.PIPE)
+    try:
+        import pyarrow.parquet
+    except ImportError:
+        if done.returncode == 0 or "needs pyarrow" not in done.stderr or table.exists():
+            sys.exit(f"without pyarrow it said {done.stderr}")
+        print("no pyarrow here: tables in Parquet are not tried")
+        return
+    rows = sorted(pyarrow.parquet.read_table(table).to_pylist(), key=lambda row: row["path"])
+    expect_same(rows, read_table(folder / "small.csv"))
+
+
 def check_deadly_file(module):
     """A file of which every worker dies costs its own row only."""
     def work(batch):
@@ -179,6 +195,7 @@ def main(example):
         folder = pathlib.Path(name)
         check_cluster(example, module, folder)
         check_embedded(example, folder)
+        check_parquet(example, folder)
     check_deadly_file(module)
 
 

@@ -68,7 +68,8 @@ class Manager(Handle):
     """Reads the styles of a system and a user directory, and owns them.
 
     An application identifier has one manager in a process: when there is one already, it is the one that is
-    given, whatever the directories, and closing it closes it for all. The directories:
+    given, whatever the directories, and closing it closes it for all. Other code of the process that shares the
+    library must not destroy a manager that Python uses. The directories:
 
     - `system_directory` has to exist; `user_directory` is made with all its parents when it does not;
     - `system_directories` and `user_directories` are read too, in this order, when they exist.
