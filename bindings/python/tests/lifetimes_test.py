@@ -53,6 +53,13 @@ class EndedTest(StyleTest):
         self.assertFalse(mutable.ended)
         self.assertEqual(len(system), 0)
 
+    def test_after_the_system_set_was_read_again(self) -> None:
+        self.write(self.system / "x.kostyle", document())
+        self.manager.read()
+        style = self.manager.system_styles[0]
+        self.manager.read_system_styles()
+        self.expect_ended(style, "its style set was read again")
+
     def test_only_in_the_set_that_was_read(self) -> None:
         style = self.read_one(document())
         self.manager.read_system_styles()

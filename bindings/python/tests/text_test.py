@@ -1,7 +1,10 @@
 """Text between Python and the library."""
 import ctypes
 import ntpath
+import os
 import random
+import subprocess
+import sys
 import unittest
 from unittest import mock
 
@@ -11,6 +14,22 @@ from kostyle import text
 from support import StyleTest
 
 SAMPLES = ["", "a", "Ab", "\u00e9", "\u0100\u0200", "\U0001f3b5", "\ud83c", "\udfb5x", "x\udfb5\ud83c", "\uffff\ufeff"]
+
+
+AT_THE_END_OF_A_PAGE = """
+import ctypes, mmap
+from kostyle import text
+memory = mmap.mmap(-1, 2 * mmap.PAGESIZE)
+start = ctypes.addressof(ctypes.c_char.from_buffer(memory))
+for length in [*range(300), 2000]:
+    units = text.encode("x" * length)
+    memory[mmap.PAGESIZE - len(units):mmap.PAGESIZE] = units
+    libc = ctypes.CDLL(None, use_errno=True)
+    protect = lambda rights: libc.mprotect(ctypes.c_void_p(start + mmap.PAGESIZE), mmap.PAGESIZE, rights)
+    assert protect(0) == 0
+    assert text.decode(start + mmap.PAGESIZE - len(units)) == "x" * length
+    protect(mmap.PROT_READ | mmap.PROT_WRITE)
+"""
 
 
 def buffer_of(units: bytes, shift: int) -> "tuple[ctypes.Array[ctypes.c_char], int]":
@@ -39,6 +58,10 @@ class TextTest(unittest.TestCase):
             buffer, address = buffer_of(text.encode(joined)[:-2], 0)
             self.assertEqual(text.decode(address), joined)
 
+    @unittest.skipIf(os.name == "nt", "memory is protected in another way there")
+    def test_is_never_read_beyond_the_memory_page_of_its_end(self) -> None:
+        subprocess.run([sys.executable, "-c", AT_THE_END_OF_A_PAGE], check=True)
+
     def test_of_a_null_address_is_empty(self) -> None:
         self.assertEqual(text.decode(None), "")
 
@@ -65,7 +88,6 @@ class TextOfTheLibraryTest(StyleTest):
 
     def test_of_a_path_stands_for_bytes_that_are_no_utf8(self) -> None:
         name = b"caf\xe9 \xf0\x9f\x8e\xb5.kostyle"
-        import os
         if os.name == "nt":
             self.skipTest("paths are UTF-16 there")
         file = self.user / os.fsdecode(name)
