@@ -1,5 +1,7 @@
 """Measures how many style files kostyle.scan() reads in a second on one core, and what that is made of.
 
+Needs Dask, for the rows of examples/scan_collection.py.
+
 usage: scan.py [--files NUMBER] [--rounds NUMBER] [--processes NUMBER]
 
 The files are made in a temporary folder, in memory where there is room, and read once before the clock runs. Each
@@ -14,10 +16,14 @@ import pickle
 import random
 import shutil
 import statistics
+import sys
 import tempfile
 import time
 
 import kostyle
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "examples"))
+import scan_collection  # noqa: E402
 
 KINDS = {"small": (1, 7, 1, 7), "typical": (6, 14, 6, 6)}  # effects and parameters of each, audio and MIDI
 BATCH = 500
@@ -81,6 +87,7 @@ def rows(paths, processes, pool):
         ("the library's reading alone", time.process_time, lambda: read_by_library(paths)),
         ("open, read, close alone", time.process_time, lambda: open_read_close(paths)),
         ("records to bytes", time.process_time, lambda: pickle.dumps(records)),
+        ("records to rows of a table", time.process_time, lambda: list(map(scan_collection.row_of, records))),
         ("scan, by the clock", time.perf_counter, lambda: list(map(scan_and_forget, batches))),
         (f"{processes} processes, by the clock", time.perf_counter, lambda: list(pool.map(scan_and_forget, batches))),
     ]
