@@ -79,9 +79,9 @@ def scan_and_forget(batch):
 
 def rows(paths, processes, pool):
     """What is measured: its name, the clock and the work. Times of one process are its processor times."""
-    records = as_records(paths)
     batches = [paths[start:start + BATCH] for start in range(0, len(paths), BATCH)]
-    list(pool.map(scan_and_forget, batches))
+    list(pool.map(scan_and_forget, batches))  # starts them, before they would inherit the records
+    records = as_records(paths)
     return [
         ("scan", time.process_time, lambda: as_records(paths)),
         ("the library's reading alone", time.process_time, lambda: read_by_library(paths)),
