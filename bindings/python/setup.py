@@ -1,11 +1,13 @@
 """Builds the wheel: the package, the module that generate.py writes, and the library, built by CMake.
 
 KOSTYLE_LIBRARY_FILE names a library that is built already, to be taken instead: a KoStyle.dll makes the wheel for
-Windows, wherever the wheel is built. CMake's own variables (CMAKE_BUILD_TYPE, CMAKE_GENERATOR, CXX...) count as ever.
+Windows, wherever the wheel is built. CMAKE_ARGS holds further options for CMake, whose own variables (CMAKE_BUILD_TYPE,
+CMAKE_GENERATOR, CXX...) count as ever.
 """
 import atexit
 import os
 import pathlib
+import shlex
 import shutil
 import subprocess
 import sys
@@ -43,7 +45,7 @@ def built_library(folder):
     """Builds the library alone, in Release mode unless the environment says otherwise."""
     build = pathlib.Path(folder) / "library"
     subprocess.run(["cmake", "-S", SOURCE, "-B", build, "-DKOSTYLE_BUILD_TESTS=OFF", "-DKOSTYLE_BUILD_TOOLS=OFF",
-                    "-DKOSTYLE_INSTALL=OFF"], check=True)
+                    "-DKOSTYLE_INSTALL=OFF", *shlex.split(os.environ.get("CMAKE_ARGS", ""))], check=True)
     subprocess.run(["cmake", "--build", build, "--config", "Release", "--target", "KoStyle", "--parallel"], check=True)
     return next(build.glob(f"**/{library_name()}"))
 
