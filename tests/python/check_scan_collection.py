@@ -64,9 +64,10 @@ def make_collection(folder):
 
 
 @contextlib.contextmanager
-def started(*command):
+def started(*command, **environment):
     """A process that is stopped in any case, by its id."""
-    process = subprocess.Popen([sys.executable, *command], stderr=subprocess.PIPE, text=True, errors="replace")
+    process = subprocess.Popen([sys.executable, *command], env={**os.environ, **environment}, stderr=subprocess.PIPE,
+                               text=True, errors="replace")
     try:
         yield process
     finally:
@@ -83,7 +84,10 @@ def cluster(folder):
               "--nthreads", "1", "--local-directory"]
     with started("-m", "distributed.cli.dask_scheduler", *loopback, "--port", "0", "--scheduler-file",
                  str(where)) as scheduler:
-        with started(*worker, str(folder / "first")) as first, started(*worker, str(folder / "second")) as second:
+        # A worker that is killed leaves files behind.
+        place = {"TMPDIR": str(folder)}
+        with started(*worker, str(folder / "first"), **place) as first, \
+                started(*worker, str(folder / "second"), **place) as second:
             for _ in range(600):
                 if where.exists():
                     break

@@ -170,33 +170,36 @@ class ScanTest(StyleTest):
         self.assertEqual((link.call_count, (self.folder / "read-only").exists()), (0, True))
 
     def test_leaves_nothing_behind(self) -> None:
-        def left() -> List[str]:
-            return [name for folder in {tempfile.gettempdir(), "/dev/shm"} if os.path.isdir(folder)
-                    for name in os.listdir(folder) if name.startswith(f"{module.PREFIX}{os.getpid()}-")]
-
-        seen = []
+        seen: List[str] = []
 
         def interrupted(style: int) -> kostyle.StyleRecord:
-            seen.extend(left())
+            seen.extend(os.listdir(temporary))
             raise KeyboardInterrupt
 
         path = self.write(self.folder / "x", document())
-        kostyle.scan([path, self.folder / "none"])
-        with mock.patch.object(module, "read_style", interrupted), self.assertRaises(KeyboardInterrupt):
-            kostyle.scan([path])
-        self.assertEqual((len(seen), left()), (1, []))
+        temporary = self.folder / "temporary"
+        temporary.mkdir()
+        with mock.patch.dict(os.environ, TMPDIR=str(temporary)), mock.patch("tempfile.tempdir", None):
+            kostyle.scan([path, self.folder / "none"])
+            with mock.patch.object(module, "read_style", interrupted), self.assertRaises(KeyboardInterrupt):
+                kostyle.scan([path])
+        self.assertEqual((len(seen), list(temporary.iterdir())), (1, []))
 
-    def test_makes_its_folder_elsewhere_without_memory(self) -> None:
+    def test_makes_its_folder_in_memory_where_there_is_such_a_place(self) -> None:
         path = self.write(self.folder / "x", document())
         real = tempfile.mkdtemp
+        places: List[Optional[str]] = []
 
         def elsewhere(prefix: str, dir: Optional[str] = None) -> str:
+            places.append(dir)
             if dir:
                 raise OSError
             return real(prefix=prefix)
 
-        with mock.patch("tempfile.mkdtemp", elsewhere):
+        with mock.patch.dict(os.environ), mock.patch("tempfile.mkdtemp", elsewhere):
+            os.environ.pop("TMPDIR", None)
             self.assertIsNotNone(self.scan_one(path).style)
+            self.assertEqual(places, ["/dev/shm", None])
 
     def test_needs_several_folders_for_many_files(self) -> None:
         paths = [self.write(self.folder / f"{number}", document(f"id{number}")) for number in range(25)]
