@@ -9,7 +9,7 @@ import unittest
 from typing import Dict, Iterator, List, Tuple
 
 import kostyle
-from kostyle import codes, functions
+from kostyle import codes, functions, text
 
 from support import SOURCE
 
@@ -104,6 +104,17 @@ class HelpersTest(unittest.TestCase):
             self.assertEqual(kostyle.code_text(number), self.helpers.codeText(number).decode())
             self.assertEqual(kostyle.parse_error_text(number), self.helpers.parseErrorText(number).decode())
 
+    @unittest.skipIf(os.name == "nt", "paths are no bytes there")
+    def test_have_the_same_text_for_paths(self) -> None:
+        generator = random.Random(9)
+        alphabet = b"a/\xc3\xa9\xe2\x82\xac\xf0\x9f\x8e\xb5\xed\xa0\xff\xf4"
+        for _ in range(2000):
+            sample = bytes(generator.choices(alphabet, k=generator.randrange(12)))
+            units = (ctypes.c_uint16 * 32)()
+            self.helpers.textFromPath(sample, units, 32)
+            expected = bytes(units)[:2 * (list(units).index(0) + 1)]
+            self.assertEqual(text.encode(os.fsdecode(sample)), expected, sample)
+
     def find_line(self, content: bytes, offset: int) -> Tuple[int, int]:
         line, column = ctypes.c_size_t(), ctypes.c_size_t()
         self.helpers.findLine(content, len(content), offset, line, column)
@@ -113,8 +124,8 @@ class HelpersTest(unittest.TestCase):
         generator = random.Random(7)
         characters = ["a", " ", "\n", "\r", "\r\n", "\u00e9", "\u0100", "\u0a0d", "\u0d0a", "\u2028", "\U0001f3b5"]
         for trial in range(300):
-            text = "{\"" + "".join(generator.choices(characters, k=generator.randrange(30)))
-            content = text.encode(generator.choice(ENCODINGS))
+            line = "{\"" + "".join(generator.choices(characters, k=generator.randrange(30)))
+            content = line.encode(generator.choice(ENCODINGS))
             self.compare(content)
             self.compare(content[:generator.randrange(len(content) + 1)])
 

@@ -1,8 +1,8 @@
 """Text: Python's str and the library's UTF-16, the same on every platform.
 
 A lone surrogate of the library's text is one in the str, and the other way round. A path's byte that is not
-valid in UTF-8 is the same lone surrogate in the library as in os.fsdecode(), so paths need no conversion of
-their own.
+valid in UTF-8 is the same lone surrogate in the library as in os.fsdecode() (where sys.getfilesystemencoding() is
+UTF-8, as it is unless a locale of old says otherwise), so paths need no conversion of their own.
 """
 from __future__ import annotations
 
