@@ -71,6 +71,18 @@ class OverwriteTest(StyleTest):
                 self.assertEqual(caught.exception.code, kostyle.Code.USER_STYLE_NOT_FOUND)
 
 
+    def test_takes_user_styles_alone(self) -> None:
+        style = self.read_one(document())
+        wrong: Any
+        for wrong in (style.audio_effects[0], self.mutable(), None, style.id):
+            for overwrite in (self.mutable().overwrite, self.mutable().overwrite_safely):
+                with self.assertRaises(TypeError):
+                    overwrite(wrong)
+            if not isinstance(wrong, kostyle.MutableStyle):
+                with self.assertRaises(TypeError):
+                    kostyle.record_of(wrong)
+
+
 class PropertyEditorTest(StyleTest):
     def test_replaces_name_sub_genres_and_colors(self) -> None:
         style = self.read_one(document(filter={"genres": ["Pop"], "subGenres": ["old"], "colors": ["old"]}))

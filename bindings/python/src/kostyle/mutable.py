@@ -116,6 +116,8 @@ class MutableStyle(Style):
         path, takes the new content and is given back; its effects and this style end. Raises CodeError, and
         nothing has changed: WRITE_EMPTY_NAME, NO_EFFECT, TARGET_NOT_REPLACEABLE, USER_DIRECTORY_NOT_CREATABLE,
         OPEN_FAILED. overwrite_safely() also looks at what goes wrong while the file is being written."""
+        if not isinstance(target, UserStyle):
+            raise TypeError(f"a user style is needed, not {target!r}")
         if target not in self.manager.user_styles:
             raise CodeError(Code.USER_STYLE_NOT_FOUND, target.id)
         code = ctypes.c_int(Code.OK)

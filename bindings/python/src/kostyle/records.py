@@ -6,9 +6,9 @@ from typing import Callable, Optional, Tuple
 
 from .codes import Code, Kind, ParseError, code_text, parse_error_text
 from .functions import c
-from .handles import Handle
 from .parameters import ParameterValue, read_value
 from .places import find_line
+from .styles import Style
 from .text import PathLike, decode
 
 
@@ -84,12 +84,14 @@ class FileRecord:
     """Why it was refused; None when it was not."""
 
 
-def record_of(style: Handle) -> StyleRecord:
-    """The record of a stored or a mutable style.
+def record_of(style: Style) -> StyleRecord:
+    """The record of a stored or a mutable style; raises TypeError for anything else.
 
     >>> kostyle.record_of(manager.system_styles.find("concrete-club")).genres
     ('House', 'Techno')
     """
+    if not isinstance(style, Style):
+        raise TypeError(f"a style is needed, not {style!r}")
     return read_style(style._handle)
 
 

@@ -136,6 +136,8 @@ def save_safely(style: MutableStyle, pretty: bool) -> UserStyle:
 
 def overwrite_safely(style: MutableStyle, target: UserStyle, pretty: bool) -> UserStyle:
     """Does what MutableStyle.overwrite_safely() says."""
+    if not isinstance(target, UserStyle):
+        raise TypeError(f"a user style is needed, not {target!r}")
     written = record_of(style)
     _require_safe(written)
     _require_replaceable(target)
