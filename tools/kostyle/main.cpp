@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "commands.h"
-#include "failure.h"
-#include "output.h"
-#include "text.h"
+#include "basics/failure.h"
+#include "basics/output.h"
+#include "basics/text.h"
+#include "commands/commands.h"
 
 namespace {
 

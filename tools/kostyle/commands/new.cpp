@@ -1,0 +1,54 @@
+#include <CLI/CLI.hpp>
+#include <memory>
+
+#include "basics/failure.h"
+#include "basics/paths.h"
+#include "commands/commands.h"
+#include "reading/manager.h"
+#include "writing/mutable_style.h"
+#include "writing/notices.h"
+#include "writing/saving.h"
+#include "writing/style_edits.h"
+
+namespace tool {
+namespace {
+
+struct NewOptions {
+  StyleDirectories directories;
+  StyleEdits edits;
+};
+
+int create(const NewOptions& options) {
+  requireExistingButUser(options.directories);
+  MissingDirectories made(*options.directories.user);
+  const Manager manager(options.directories);
+  MutableStyle mutableStyle(manager);
+  mutableStyle.apply(options.edits);
+  const Losses losses = saveNew(mutableStyle, *options.directories.user, options.edits.pretty);
+  made.keep();
+  noticeLosses(losses);
+  return exitOk;
+}
+
+}  // namespace
+
+void addNewCommand(CLI::App& app, Command& chosen) {
+  const auto options = std::make_shared<NewOptions>();
+  CLI::App* command = app.add_subcommand("new", "Creates a user style");
+  addDirectoryOptions(*command, options->directories);
+  command->get_option("--user")->required();
+  addCreationOptions(*command, options->edits);
+  command->footer(
+      R"(Prints the identifier and the path of the new file. The user directory is created when missing.
+
+A VALUE without fraction and exponent is an int, another number a float, anything else text; TYPE says
+otherwise. When both chains have an effect, audio:EFFECT.NAME and midi:EFFECT.NAME tell them apart.
+
+Examples:
+  kostyle new --user styles/user --name "Night drive" --language 0 --genre Synthwave
+    --audio-effect Filter --param Filter.cutoff=0.4 --param Filter.poles=4 --param Filter.mode=low
+  kostyle new --user styles/user --name Steps --midi-effect Arp --param Arp.pattern:text=1221 --pretty)");
+  command->callback([options, &chosen] { chosen = [options] { return create(*options); }; });
+}
+
+}  // namespace tool

@@ -1,0 +1,156 @@
+#include "printing/style_json.h"
+
+#include <kostyle/helpers.h>
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
+
+#include <cmath>
+#include <string_view>
+
+#include "basics/text.h"
+#include "reading/attributes.h"
+#include "reading/parameter_value.h"
+#include "reading/reasons.h"
+
+namespace tool {
+namespace {
+
+using Writer = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
+
+void writeText(Writer& writer, std::string_view utf8) {
+  writer.String(utf8.data(), static_cast<rapidjson::SizeType>(utf8.size()));
+}
+
+void writeMember(Writer& writer, const char* key, std::string_view utf8) {
+  writer.Key(key);
+  writeText(writer, utf8);
+}
+
+// JSON is UTF-8 throughout; what a path has besides becomes U+FFFD.
+std::string validUtf8(const std::string& path) { return toUtf8(fromUtf8(path)); }
+
+void writeValue(Writer& writer, const Value& value) {
+  if (const auto* integer = std::get_if<int>(&value)) {
+    writer.Int(*integer);
+  } else if (const auto* number = std::get_if<float>(&value)) {
+    const std::string text = floatText(*number);
+    // JSON has no infinity.
+    if (std::isfinite(*number)) {
+      writer.RawValue(text.data(), text.size(), rapidjson::kNumberType);
+    } else {
+      writeText(writer, text);
+    }
+  } else {
+    writeText(writer, toUtf8(std::get<Text>(value)));
+  }
+}
+
+void writeEffect(Writer& writer, KoStyleEffect* effect) {
+  writer.StartObject();
+  writeMember(writer, "id", toUtf8(Effect_id(effect)));
+  writer.Key("parameters");
+  writer.StartArray();
+  for (std::size_t i = 0; i < Effect_numParameter(effect); ++i) {
+    KoStyleParameter* parameter = Effect_parameter(effect, i);
+    const Value value = valueOf(parameter);
+    writer.StartObject();
+    writeMember(writer, "name", toUtf8(Parameter_name(parameter)));
+    writeMember(writer, "type", typeText(value));
+    writer.Key("value");
+    writeValue(writer, value);
+    writer.EndObject();
+  }
+  writer.EndArray();
+  writer.EndObject();
+}
+
+void writeAttributes(Writer& writer, KoStyleStyle* style) {
+  writer.Key("languages");
+  writer.StartArray();
+  for (const int language : languages(style)) writer.Int(language);
+  writer.EndArray();
+  for (const TextList& list : textLists()) {
+    writer.Key(list.key);
+    writer.StartArray();
+    for (const std::string& text : values(list, style)) writeText(writer, text);
+    writer.EndArray();
+  }
+}
+
+void writeStyle(Writer& writer, KoStyleStyle* style, const StyleSource& source) {
+  writer.StartObject();
+  writeMember(writer, "kind", source.kind);
+  writeMember(writer, "name", toUtf8(Style_name(style)));
+  writeMember(writer, "id", toUtf8(Style_id(style)));
+  writeMember(writer, "path", validUtf8(source.path));
+  writeMember(writer, "vendor", toUtf8(Style_vendor(style)));
+  writeAttributes(writer, style);
+  for (const Chain& chain : chains()) {
+    writer.Key(chain.key);
+    writer.StartArray();
+    for (std::size_t i = 0; i < chain.count(style); ++i) writeEffect(writer, chain.stored(style, i));
+    writer.EndArray();
+  }
+  writer.EndObject();
+}
+
+void writeParseError(Writer& writer, KoStyleCreationResult* result) {
+  const int parseError = StyleCreationResult_parseError(result);
+  writer.Key("parseError");
+  writer.StartObject();
+  writer.Key("code");
+  writer.Int(parseError);
+  writeMember(writer, "text", KoStyle_parseErrorText(parseError));
+  writer.Key("offset");
+  writer.Uint64(StyleCreationResult_parseErrorOffset(result));
+  writer.EndObject();
+}
+
+void writeRefusal(Writer& writer, KoStyleCreationResult* result) {
+  const int code = StyleCreationResult_error(result);
+  writer.StartObject();
+  writeMember(writer, "kind", kindText(StyleCreationResult_type(result)));
+  writeMember(writer, "path", toUtf8(StyleCreationResult_filePath(result)));
+  writer.Key("code");
+  writer.Int(code);
+  writeMember(writer, "text", KoStyle_codeText(code));
+  writeMember(writer, "id", toUtf8(StyleCreationResult_id(result)));
+  writeMember(writer, "jsonPath", toUtf8(StyleCreationResult_jsonPath(result)));
+  if (code == KOSTYLE_ERROR_JSON_SYNTAX) writeParseError(writer, result);
+  writer.EndObject();
+}
+
+std::string textOf(const rapidjson::StringBuffer& buffer) {
+  return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
+}
+
+}  // namespace
+
+std::string styleJson(KoStyleStyle* style, const StyleSource& source) {
+  rapidjson::StringBuffer buffer;
+  Writer writer(buffer);
+  writeStyle(writer, style, source);
+  return textOf(buffer);
+}
+
+std::string listJson(const Listing& listing) {
+  rapidjson::StringBuffer buffer;
+  Writer writer(buffer);
+  const auto writeArray = [&](const char* key, const auto& elements, const auto& writeElement) {
+    writer.Key(key);
+    writer.StartArray();
+    for (const auto& element : elements) writeElement(element);
+    writer.EndArray();
+  };
+  writer.StartObject();
+  writeArray("styles", listing.styles,
+             [&](KoStyleStyle* style) { writeStyle(writer, style, sourceOf(style)); });
+  writeArray("refused", listing.refused,
+             [&](KoStyleCreationResult* result) { writeRefusal(writer, result); });
+  writeArray("unopened", listing.unopened,
+             [&](const fs::path& path) { writeText(writer, validUtf8(shownPath(path))); });
+  writer.EndObject();
+  return textOf(buffer);
+}
+
+}  // namespace tool

@@ -1,0 +1,42 @@
+// A style manager and what was read into it.
+#pragma once
+
+#include <kostyle/kostyle.h>
+
+#include <vector>
+
+#include "basics/directories.h"
+#include "basics/text.h"
+
+namespace tool {
+
+class Manager {
+ public:
+  /// Reads the sets whose directory is given, at least one of the two, system styles first. A user
+  /// directory that is missing is created. Throws Refused.
+  explicit Manager(const StyleDirectories& directories);
+  Manager(const Manager&) = delete;
+  Manager& operator=(const Manager&) = delete;
+  ~Manager() { StyleManager_destroy(handle_); }
+
+  KoStyleManager* handle() const { return handle_; }
+
+  /// System styles, then user styles, each in reading order.
+  std::vector<KoStyleStyle*> styles() const;
+
+  /// The records of all files that were read, in the same order.
+  std::vector<KoStyleCreationResult*> results() const;
+
+  /// The style with an identifier; throws Refused when there is none.
+  KoStyleStyle* style(TextView id) const;
+
+  /// The same among the user styles, which alone may be changed.
+  KoStyleStyle* userStyle(TextView id) const;
+
+ private:
+  void read(const StyleDirectories& directories);
+
+  KoStyleManager* handle_;
+};
+
+}  // namespace tool

@@ -1,0 +1,127 @@
+#include "writing/saving.h"
+
+#include <fmt/format.h>
+#include <kostyle/helpers.h>
+
+#include <cmath>
+#include <exception>
+
+#include "basics/failure.h"
+#include "basics/output.h"
+#include "basics/text.h"
+#include "reading/style_file.h"
+#include "writing/backup.h"
+
+namespace tool {
+namespace {
+
+// A mutable style is walked through `mutableEffect`, one that was read through `stored`.
+using EffectAt = KoStyleEffect* (*Chain::*)(KoStyleStyle*, std::size_t);
+
+struct Counts {
+  std::size_t effects = 0;
+  std::size_t emptyEffects = 0;
+  std::size_t parameters = 0;
+};
+
+Counts countsOf(KoStyleStyle* style, EffectAt effectAt) {
+  Counts counts;
+  for (const Chain& chain : chains())
+    for (std::size_t i = 0; i < chain.count(style); ++i) {
+      const std::size_t parameters = Effect_numParameter((chain.*effectAt)(style, i));
+      ++counts.effects;
+      if (parameters == 0) ++counts.emptyEffects;
+      counts.parameters += parameters;
+    }
+  return counts;
+}
+
+void requireUnicode(const KoStyleChar* text) {
+  if (!isUnicode(text))
+    throw Refused(fmt::format("{}: a lone surrogate cannot be written", inQuotes(toUtf8(text))));
+}
+
+void requireWritable(KoStyleParameter* parameter) {
+  requireUnicode(Parameter_name(parameter));
+  requireUnicode(Parameter_valueString(parameter));
+  if (!std::isfinite(Parameter_valueFloat(parameter)))
+    throw Refused(fmt::format("parameter {}: an infinite value cannot be written",
+                              inQuotes(toUtf8(Parameter_name(parameter)))));
+}
+
+// The library ends the file in front of what JSON cannot hold, without an error.
+void requireWritable(KoStyleStyle* style) {
+  requireUnicode(Style_name(style));
+  for (const TextList& list : textLists())
+    for (std::size_t i = 0; i < list.count(style); ++i) requireUnicode(list.at(style, i));
+  for (const Chain& chain : chains())
+    for (std::size_t i = 0; i < chain.count(style); ++i) {
+      KoStyleEffect* effect = chain.mutableEffect(style, i);
+      requireUnicode(Effect_id(effect));
+      for (std::size_t j = 0; j < Effect_numParameter(effect); ++j)
+        requireWritable(MutableEffect_parameter(effect, j));
+    }
+  const Counts counts = countsOf(style, &Chain::mutableEffect);
+  if (counts.effects > 0 && counts.emptyEffects == counts.effects)
+    throw Refused("no effect has a parameter: the file could not be read again");
+}
+
+// A full disk is no error to the library either.
+Losses readAgain(KoStyleStyle* style, const Counts& written, const TemporaryDirectory& directory) {
+  const StyleFile file(pathOf(TextView(Style_path(style))), directory);
+  const Counts read = countsOf(file.style(), &Chain::stored);
+  const bool sameNames =
+      read.effects < written.effects - written.emptyEffects || read.parameters < written.parameters;
+  return {written.emptyEffects > 0, sameNames};
+}
+
+void printWritten(KoStyleStyle* style) {
+  fmt::print("{}\t{}\n", printable(toUtf8(Style_id(style))), printable(pathToUtf8(Style_path(style))));
+  flushOutput();
+}
+
+void check(int error, const fs::path& path) {
+  if (error != KOSTYLE_OK)
+    throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
+}
+
+}  // namespace
+
+Losses saveNew(const MutableStyle& mutableStyle, const fs::path& directory, bool pretty) {
+  requireWritable(mutableStyle.handle());
+  const Counts counts = countsOf(mutableStyle.handle(), &Chain::mutableEffect);
+  const TemporaryDirectory temporary;
+  int error = KOSTYLE_OK;
+  KoStyleStyle* style = MutableStyle_save(mutableStyle.handle(), pretty, &error);
+  check(error, directory);
+  try {
+    const Losses losses = readAgain(style, counts, temporary);
+    printWritten(style);
+    return losses;
+  } catch (...) {
+    UserStyle_remove(style);
+    throw;
+  }
+}
+
+Losses saveOver(const MutableStyle& mutableStyle, KoStyleStyle* target, bool pretty) {
+  requireWritable(mutableStyle.handle());
+  const Counts counts = countsOf(mutableStyle.handle(), &Chain::mutableEffect);
+  const TemporaryDirectory temporary;
+  const fs::path path = pathOf(TextView(Style_path(target)));
+  Backup backup(path);
+  int error = KOSTYLE_OK;
+  MutableStyle_overwrite(mutableStyle.handle(), Style_id(target), pretty, &error);
+  check(error, path);
+  try {
+    const Losses losses = readAgain(target, counts, temporary);
+    printWritten(target);
+    return losses;
+  } catch (const std::exception& failure) {
+    if (backup.restore()) throw;
+    throw Refused(
+        fmt::format("{}; the style as it was is kept in {}", failure.what(), shownPath(backup.path())));
+  }
+}
+
+}  // namespace tool
