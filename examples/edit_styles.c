@@ -6,14 +6,16 @@
  * The directory must exist and hold no styles. It serves as system and as user style directory, and is
  * left as it was.
  */
+#include <kostyle/helpers.h>
 #include <kostyle/kostyle.h>
-
-#include "example_text.h"
+#include <stdio.h>
+#include <stdlib.h>
 
 static void printStyle(const char* title, KoStyleStyle* style) {
-  printf("%s: %d audio effects, %d genres, %d colours, ", title, (int)Style_numAudioEffect(style),
-         (int)Style_numGenre(style), (int)Style_numColor(style));
-  printText(stdout, Style_name(style));
+  char name[3 * KOSTYLE_MAX_NAME_LENGTH + 1];
+  KoStyle_utf8FromText(Style_name(style), name, sizeof name);
+  printf("%s: %d audio effects, %d genres, %d colours, %s\n", title, (int)Style_numAudioEffect(style),
+         (int)Style_numGenre(style), (int)Style_numColor(style), name);
 }
 
 /* Fills a mutable style: a name, two genres, and one audio effect with three parameters. */
@@ -36,7 +38,7 @@ static KoStyleStyle* saveNew(KoStyleManager* manager) {
   if (!fill(mutableStyle, KOSTYLE_TEXT("Evening"), 0.25F)) return NULL;
   int error;
   KoStyleStyle* saved = MutableStyle_save(mutableStyle, true, &error);
-  if (!saved) fprintf(stderr, "not saved: code %d\n", error);
+  if (!saved) fprintf(stderr, "not saved: %s\n", KoStyle_codeText(error));
   return saved;
 }
 
@@ -46,7 +48,7 @@ static KoStyleStyle* overwrite(KoStyleManager* manager, KoStyleStyle* style) {
   MutableStyle_insertAudioEffect(mutableStyle, 0, KOSTYLE_TEXT("Gate"));
   int error;
   KoStyleStyle* overwritten = MutableStyle_overwrite(mutableStyle, Style_id(style), true, &error);
-  if (!overwritten) fprintf(stderr, "not overwritten: code %d\n", error);
+  if (!overwritten) fprintf(stderr, "not overwritten: %s\n", KoStyle_codeText(error));
   return overwritten;
 }
 
@@ -80,15 +82,12 @@ static bool run(KoStyleManager* manager) {
   return UserStyle_remove(style) == KOSTYLE_OK;
 }
 
-int EXAMPLE_MAIN(int argc, ExampleArgument* argv[]) {
-  KoStyleChar directory[4096];
-  if (argc != 2 || !pathFromArgument(argv[1], directory, 4096)) return 2;
-
+static int editStyles(const KoStyleChar* directory) {
   int error;
   KoStyleManager* manager =
       CreateStyleManager(KOSTYLE_TEXT("edit-styles"), directory, directory, NULL, 0, NULL, 0, &error);
   if (!manager) {
-    fprintf(stderr, "no manager: code %d\n", error);
+    fprintf(stderr, "%s\n", KoStyle_codeText(error));
     return 1;
   }
   const bool succeeded = run(manager);
@@ -96,3 +95,15 @@ int EXAMPLE_MAIN(int argc, ExampleArgument* argv[]) {
   StyleManager_destroy(manager);
   return succeeded ? 0 : 1;
 }
+
+#if defined(_WIN32)
+int wmain(int argc, wchar_t* argv[]) {
+  KoStyleChar directory[4096]; /* absolute, as the library needs it */
+  return argc == 2 && _wfullpath(directory, argv[1], 4096) ? editStyles(directory) : 2;
+}
+#else
+int main(int argc, char* argv[]) {
+  KoStyleChar directory[4096];
+  return argc == 2 && KoStyle_textFromPath(argv[1], directory, 4096) < 4096 ? editStyles(directory) : 2;
+}
+#endif

@@ -4,10 +4,10 @@
 // linked with it, so that the static object is the older one, which the end of the process reaches
 // last.
 #include <kostyle/kostyle.h>
+#include <kostyle/cpp/path.hpp>
 
 #include <cstdlib>
 
-#include "example_text.h"
 #include "support/loaded_library.h"
 
 namespace {
@@ -40,9 +40,10 @@ void findFunctions() {
 
 }  // namespace
 
-int EXAMPLE_MAIN(int argc, ExampleArgument* argv[]) {
-  KoStyleChar directory[4096];
-  if (argc != 2 || !pathFromArgument(argv[1], directory, 4096)) return 2;
+int main(int argc, char* argv[]) {
+  if (argc != 2) return 2;
+  const kostyle::NativeString path = kostyle::fromPath(argv[1]);
+  const KoStyleChar* const directory = path.c_str();
   findFunctions();
   owner.manager = create(KOSTYLE_TEXT("owner"), directory, directory, nullptr, 0, nullptr, 0, nullptr);
   return owner.manager ? 0 : 1;

@@ -3,10 +3,10 @@
 // The library then destroys them. Whatever it leaves is found by the leak check of a sanitized build,
 // since nothing leads to it any more.
 #include <kostyle/kostyle.h>
+#include <kostyle/cpp/path.hpp>
 
 #include <initializer_list>
 
-#include "example_text.h"
 #include "support/loaded_library.h"
 
 namespace {
@@ -35,11 +35,11 @@ bool loadUseAndUnload(const KoStyleChar* directory) {
 
 }  // namespace
 
-int EXAMPLE_MAIN(int argc, ExampleArgument* argv[]) {
-  KoStyleChar directory[4096];
-  if (argc != 2 || !pathFromArgument(argv[1], directory, 4096)) return 2;
+int main(int argc, char* argv[]) {
+  if (argc != 2) return 2;
+  const kostyle::NativeString directory = kostyle::fromPath(argv[1]);
   for (int round = 0; round < 3; ++round) {
-    if (!loadUseAndUnload(directory)) return 1;
+    if (!loadUseAndUnload(directory.c_str())) return 1;
   }
   return 0;
 }
