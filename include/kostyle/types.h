@@ -11,10 +11,12 @@
 #include <stdbool.h>
 #endif
 
-/*
- * One UTF-16 code unit. KOSTYLE_TEXT makes a literal of it: KOSTYLE_TEXT("Pop"). C99 has no 16-bit
- * literals; outside Windows the macro needs C11 or C++11.
+/**
+ * @def KOSTYLE_TEXT
+ * Makes a literal of the library's text: KOSTYLE_TEXT("Pop"). C99 has no 16-bit literals; outside Windows
+ * the macro needs C11 or C++11.
  */
+/** One UTF-16 code unit: wchar_t on Windows; elsewhere char16_t in C++, a 16-bit integer in C. */
 #if defined(_WIN32)
 typedef wchar_t KoStyleChar;
 #define KOSTYLE_TEXT(literal) L##literal
