@@ -21,7 +21,7 @@ static int listNames(const KoStyleChar* directory) {
   KoStyleCreationResult* result = StyleManager_systemStyleCreationResult(manager, 0);
   for (; result; result = StyleCreationResult_next(result)) {
     if (StyleCreationResult_error(result) == KOSTYLE_OK) continue;
-    KoStyle_pathFromText(StyleCreationResult_filePath(result), text, sizeof text);
+    KoStyle_utf8FromText(StyleCreationResult_filePath(result), text, sizeof text);
     fprintf(stderr, "%s: %s\n", text, KoStyle_codeText(StyleCreationResult_error(result)));
   }
   StyleManager_destroy(manager);

@@ -185,7 +185,7 @@ KOSTYLE_INLINE size_t KoStyle_widen(const char* utf8, KoStyleChar* buffer, size_
   return length;
 }
 
-/* Internal: the one body of both conversions to UTF-8. */
+/* Internal: the one body of both conversions to UTF-8; of a path, when `stray` is not zero. */
 KOSTYLE_INLINE size_t KoStyle_narrow(const KoStyleChar* text, char* buffer, size_t capacity,
                                      uint32_t stray) {
   size_t length = 0;
@@ -199,6 +199,10 @@ KOSTYLE_INLINE size_t KoStyle_narrow(const KoStyleChar* text, char* buffer, size
       codePoint = 0x10000 + ((unit - 0xD800) << 10) + (KOSTYLE_CAST(uint16_t, *text++) - 0xDC00U);
     } else if (unit >= 0xD800 && unit <= 0xDFFF &&
                !(stray && unit >= stray + 0x80 && unit <= stray + 0xFF)) {
+      if (stray) {
+        if (capacity > 0) buffer[0] = 0;
+        return SIZE_MAX;
+      }
       codePoint = 0xFFFD;
     }
     if (codePoint >= 0xD800 && codePoint <= 0xDFFF) {
@@ -264,7 +268,10 @@ KOSTYLE_INLINE size_t KoStyle_textFromPath(const char* path, KoStyleChar* buffer
 
 /**
  * Converts a path that the library gave to the bytes of the system: the way back of
- * KoStyle_textFromPath(). Another lone surrogate becomes U+FFFD. Otherwise as KoStyle_utf8FromText().
+ * KoStyle_textFromPath(). Otherwise as KoStyle_utf8FromText(), but that a text with another lone surrogate
+ * is no path: the library finds and makes nothing there.
+ *
+ * @return As KoStyle_utf8FromText(); SIZE_MAX for what is no path, and the buffer then gets an empty text.
  */
 KOSTYLE_INLINE size_t KoStyle_pathFromText(const KoStyleChar* text, char* buffer, size_t capacity) {
   return KoStyle_narrow(text, buffer, capacity, 0xDC00);

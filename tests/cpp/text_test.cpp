@@ -102,6 +102,10 @@ TEST(CppPath, KeepsBytesThatAreNoUtf8) {
   EXPECT_EQ(toPath(Text(fromPath(path).c_str())), path);
 }
 
+TEST(CppPath, OfATextThatIsNoPathIsEmpty) {
+  EXPECT_EQ(toPath(Text(KOSTYLE_TEXT("/tmp/\xD800"))), test::fs::path());
+}
+
 #endif
 
 }  // namespace

@@ -4,6 +4,8 @@
 #ifndef KOSTYLE_CPP_PATH_HPP
 #define KOSTYLE_CPP_PATH_HPP
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -14,13 +16,15 @@ namespace kostyle {
 
 /**
  * The path that a text of the library means. Outside Windows, where paths are bytes, nothing of a path that
- * is not valid UTF-8 is lost.
+ * is not valid UTF-8 is lost; a text that is no path, as KoStyle_pathFromText() says, gives the empty one.
  */
 inline std::filesystem::path toPath(Text text) {
 #if defined(_WIN32)
   return text.c_str();
 #else
-  std::string path(KoStyle_pathFromText(text.c_str(), nullptr, 0), '\0');
+  const std::size_t size = KoStyle_pathFromText(text.c_str(), nullptr, 0);
+  if (size == SIZE_MAX) return {};
+  std::string path(size, '\0');
   KoStyle_pathFromText(text.c_str(), path.data(), path.size() + 1);
   return path;
 #endif
