@@ -15,9 +15,7 @@ int main(int argc, char* argv[]) {
   manager = CreateStyleManager(KOSTYLE_TEXT("guide"), system, user, NULL, 0, NULL, 0, &error);
   if (!manager) return 1;
   if (StyleManager_readSystemStyles(manager) || StyleManager_readUserStyles(manager)) return 1;
-  {
-    /* fragment */
-  }
+  /* fragment */
   StyleManager_destroy(manager);
   return 0;
 }

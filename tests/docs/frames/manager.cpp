@@ -14,7 +14,5 @@ int main(int argc, char* argv[]) {
   const auto created = kostyle::Manager::create("guide", argv[1], argv[2]);
   if (!created || !created->readSystemStyles() || !created->readUserStyles()) return 1;
   const kostyle::Manager& manager = *created;
-  {
-    /* fragment */
-  }
+  /* fragment */
 }
