@@ -144,8 +144,10 @@ class Page:
         return self.run(block, ["bash", "-euo", "pipefail", "-c", script]) if script.strip() else None
 
     def run(self, block, command):
-        environment = {**os.environ, "PYTHONPATH": str(self.build / "python"), "PYTHONDONTWRITEBYTECODE": "1",
-                       "PYTHONIOENCODING": "utf-8"}
+        environment = {**os.environ, "PYTHONDONTWRITEBYTECODE": "1", "PYTHONIOENCODING": "utf-8",
+                       "CMAKE_GENERATOR": "Ninja"}
+        if block.language == "python":
+            environment["PYTHONPATH"] = str(self.build / "python")
         self.runs += 1
         run = subprocess.run(command, cwd=self.checkout, env=environment, capture_output=True, text=True,
                              encoding="utf-8")
