@@ -31,6 +31,7 @@ NOT_RUN = {
     "scripts/setup": "installs packages",
     "scripts/demo": "takes minutes",
     "scripts/test": "runs this",
+    "scripts/package": "builds everything afresh",
     "scripts/bench": "takes hours",
     "scripts/docs": "a step of scripts/test",
     "cmake --preset native": "has been done by who runs this",

@@ -39,7 +39,7 @@ add_subdirectory("{source}/examples" examples)
 
 INSTALLED = ["include/kostyle/kostyle.h", "include/kostyle/helpers.h", "include/kostyle/kostyle.hpp",
              "include/kostyle/cpp/manager.hpp", "share/man/man1/kostyle.1", "share/kostyle/kostyle.schema.json",
-             "share/doc/KoStyle/LICENSE", "share/doc/KoStyle/docs/format.md"]
+             "share/doc/KoStyle/LICENSE", "share/doc/KoStyle/docs/guide/first-host.md"]
 
 
 def installed(build, hosts):
