@@ -1,10 +1,13 @@
 """Objects that outlive what they stand for raise an exception, and nothing else happens."""
+import contextlib
 import gc
 import pickle
 import threading
-from typing import Any, List
+from typing import Any, Callable, Iterator, List
+from unittest import mock
 
 import kostyle
+from kostyle.functions import c
 
 from support import StyleTest, document
 
@@ -130,6 +133,73 @@ class EndedTest(StyleTest):
         del address
         gc.collect()
         self.assertEqual(len(style._children or ()), 0)
+
+
+@contextlib.contextmanager
+def interrupted_behind(name: str) -> Iterator[None]:
+    """Ctrl-C during the call of a function, which Python raises behind it."""
+    real = getattr(c, name)
+
+    def interrupted(*arguments: Any) -> None:
+        real(*arguments)
+        raise KeyboardInterrupt
+
+    with mock.patch.object(c, name, interrupted):
+        yield
+
+
+class InterruptedTest(StyleTest):
+    """What was interrupted may have been done."""
+
+    def setUp(self) -> None:
+        super().setUp()
+        self.style = self.read_one(document())
+        self.stored_effect = self.style.audio_effects[0]
+        self.made = self.mutable()
+        self.effect = self.made.audio_effects[0]
+        self.parameter = self.effect.parameter_list[0]
+
+    def expect_ended(self, function: str, call: Callable[[], Any], *things: Any) -> None:
+        with interrupted_behind(function), self.assertRaises(KeyboardInterrupt):
+            call()
+        for thing in things:
+            self.assertTrue(thing.ended, thing)
+        self.made.destroy()  # as behind "with"
+        self.manager = self.make_manager()  # another one when that was closed
+        self.manager.read()
+
+    def test_saving(self) -> None:
+        self.expect_ended("MutableStyle_save", self.made.save, self.made, self.parameter)
+
+    def test_overwriting(self) -> None:
+        self.expect_ended("MutableStyle_overwrite", lambda: self.made.overwrite(self.style), self.made,
+                          self.stored_effect)
+
+    def test_removing(self) -> None:
+        self.expect_ended("UserStyle_remove", self.style.remove, self.style, self.stored_effect)
+
+    def test_destroying(self) -> None:
+        things: List[Any] = [self.parameter, self.effect, self.made]
+        for kind, thing in zip(("Parameter", "Effect", "Style"), things):
+            with interrupted_behind(f"Mutable{kind}_destroy"), self.assertRaises(KeyboardInterrupt):
+                thing.destroy()
+            self.assertTrue(thing.ended)
+        self.assertEqual(list(self.made._living(kostyle.Effect)), [])
+
+    def test_closing(self) -> None:
+        self.expect_ended("StyleManager_destroy", self.manager.close, self.manager, self.style, self.made)
+
+    def test_only_when_it_is_not_refused(self) -> None:
+        nameless = self.manager.create_mutable_style()
+        self.style.path.unlink()
+        refused: List[Callable[[], Any]] = [nameless.save, lambda: nameless.overwrite(self.style), self.style.remove,
+                                            lambda: self.made.overwrite(self.style)]
+        for call in refused:
+            with self.assertRaises(kostyle.CodeError):
+                call()
+        things = (nameless, self.made, self.effect, self.style, self.stored_effect)
+        self.assertEqual([thing.ended for thing in things], [False] * 5)
+        self.assertIs(self.style.audio_effects[0], self.stored_effect)
 
 
 class ProcessTest(StyleTest):

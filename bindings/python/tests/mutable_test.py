@@ -1,9 +1,12 @@
 """Building styles in memory."""
 import math
+import random
 import struct
-from typing import List
+from typing import Any, Dict, List
+from unittest import mock
 
 import kostyle
+from kostyle.functions import c
 
 from support import StyleTest, document
 
@@ -22,6 +25,39 @@ class AttributesTest(StyleTest):
             self.assertEqual((list(values), "b" in values, len(values)), (["b"], True, 1))
             values.clear()
             self.assertEqual(len(values), 0)
+
+    def test_work_with_the_operators_of_sets(self) -> None:
+        genres = self.mutable().genres
+        genres.update(["a", "b"])
+        self.assertEqual((genres | {"c"}, genres & {"b"}, genres - {"b"}), ({"a", "b", "c"}, {"b"}, {"a"}))
+        genres -= {"a", "x"}
+        self.assertEqual(list(genres), ["b"])
+
+    def test_know_what_they_hold(self) -> None:
+        texts = ["", "a", "ab", "b", "\ue000", "\U0001f3b5", "\ud83c", "\uffff", "a\0", "x" * 200]
+        held = texts[1::2]
+        genres = self.mutable().genres
+        genres.update(text for text in held if "\0" not in text)
+        wrong: List[object] = [None, 1, b"a"]
+        self.assertEqual([text for text in [*texts, *wrong] if text in genres], held)
+
+    def test_discard_what_no_file_has(self) -> None:
+        style = self.mutable()
+        style.languages.add(1)
+        bad: Any
+        for bad in ("a\0", None, "1", 1.5, 9):
+            style.genres.discard(bad)
+            style.languages.discard(bad)
+        self.assertEqual(list(style.languages), [1])
+
+    def test_take_values_of_their_type(self) -> None:
+        style = self.mutable()
+        wrong: Any
+        for wrong in (None, 1.5, b"a", ["a"]):
+            with self.subTest(wrong=wrong), self.assertRaises(TypeError):
+                style.languages.add(wrong)
+            with self.subTest(wrong=wrong), self.assertRaises(TypeError):
+                style.colors.add(wrong)
 
     def test_refuse_what_no_file_has(self) -> None:
         style = self.mutable()
@@ -62,6 +98,19 @@ class ChainTest(StyleTest):
         self.assertIs(chain[0], last)
         self.assertIn(last, chain)
         self.assertEqual(last.kind, kostyle.EffectKind.MIDI)
+
+    def test_takes_any_number_for_the_end(self) -> None:
+        chain = self.manager.create_mutable_style().audio_effects
+        first = chain.append("a")
+        chain.insert(2 ** 64, "b")
+        first.move(2 ** 64)
+        self.assertEqual([effect.id for effect in chain], ["b", "a"])
+        wrong: Any
+        for wrong in (None, 0.0, "0"):
+            with self.assertRaises(TypeError):
+                first.move(wrong)
+            with self.assertRaises(TypeError):
+                chain.insert(wrong, "c")
 
     def test_refuses_identifiers(self) -> None:
         style = self.mutable()
@@ -118,6 +167,35 @@ class ParametersTest(StyleTest):
                 self.effect.add_parameter(name, 1)
         with self.assertRaises(kostyle.RefusedError):
             self.parameters[""] = 1
+
+    def test_are_known_while_they_come_and_go(self) -> None:
+        generator = random.Random(5)
+        expected: Dict[str, kostyle.ParameterValue] = {}
+        for turn in range(300):
+            name = generator.choice("abcdefgh")
+            if name in expected and generator.random() < 0.5:
+                del expected[name], self.parameters[name]
+            else:
+                expected[name] = self.parameters[name] = turn
+            self.assertEqual(list(self.parameters.items()), sorted(expected.items()))
+
+    def test_of_one_name_leave_the_other_behind(self) -> None:
+        for gone in (0, 1):
+            self.parameters.clear()
+            self.parameters.update(a=0, b=1)
+            self.effect.parameter_list[1].name = "a"
+            self.assertEqual(dict(self.parameters), {"a": 0})
+            self.effect.parameter_list[gone].destroy()
+            self.assertEqual(dict(self.parameters), {"a": 1 - gone})
+
+    def test_are_added_without_looking_at_all_others(self) -> None:
+        calls = []
+        real = c.Parameter_name
+        with mock.patch.object(c, "Parameter_name", lambda address: calls.append(1) or real(address)):  # type: ignore
+            self.parameters.update({f"p{number}": number for number in range(200)})
+            for number in range(200):
+                del self.parameters[f"p{number}"]
+        self.assertLess(len(calls), 2000)
 
     def test_are_renamed(self) -> None:
         self.parameters.update(a=1, b=2)

@@ -1,7 +1,8 @@
 """Attributes: languages, singer groups and identifiers, genres, sub-genres and colours."""
 from __future__ import annotations
 
-from typing import Any, Callable, Generic, Iterable, Iterator, MutableSet, NamedTuple, Tuple, TypeVar
+import operator
+from typing import Any, Callable, Generic, Iterable, Iterator, MutableSet, NamedTuple, Set, Tuple, TypeVar
 
 from .codes import Limit
 from .errors import RefusedError
@@ -63,7 +64,8 @@ def read_texts(address: int, name: str) -> Tuple[str, ...]:
 
 class MutableAttributes(MutableSet[A], Generic[A]):
     """One attribute list of a mutable style: a set that keeps the library's order. Adding what is there and
-    discarding what is not changes nothing; what the library refuses raises RefusedError.
+    discarding what is not changes nothing; what the library refuses raises RefusedError. The operators |, &, -
+    and ^ give sets of Python's own.
 
     >>> with manager.create_mutable_style() as style:
     ...     style.genres.update(["Techno", "House"])
@@ -82,6 +84,11 @@ class MutableAttributes(MutableSet[A], Generic[A]):
 
     def _argument(self, value: A) -> Any:
         raise NotImplementedError
+
+    @classmethod
+    def _from_iterable(cls, values: Iterable[A]) -> Set[A]:
+        """What the operators make."""
+        return set(values)
 
     def __contains__(self, value: object) -> bool:
         return value in self._values()
@@ -103,7 +110,13 @@ class MutableAttributes(MutableSet[A], Generic[A]):
 
     def discard(self, value: A) -> None:
         """Takes a value out, if it is there."""
-        self._functions.delete(self._style._handle, self._argument(value))
+        if value in self:
+            self._functions.delete(self._style._handle, self._argument(value))
+
+    def clear(self) -> None:
+        """Takes all values out."""
+        for value in self._values():
+            self.discard(value)
 
     def update(self, values: Iterable[A]) -> None:
         """Adds several values, one after the other."""
@@ -122,7 +135,7 @@ class MutableLanguages(MutableAttributes[int]):
 
     def _argument(self, value: int) -> int:
         # ctypes would cut a larger number to 32 bits.
-        return max(Limit.MIN_LANGUAGE - 1, min(value, Limit.MAX_LANGUAGE + 1))
+        return max(Limit.MIN_LANGUAGE - 1, min(operator.index(value), Limit.MAX_LANGUAGE + 1))
 
 
 class MutableTexts(MutableAttributes[str]):
@@ -131,5 +144,23 @@ class MutableTexts(MutableAttributes[str]):
     def _values(self) -> Tuple[str, ...]:
         return read_texts(self._style._handle, self._name)
 
+    def __contains__(self, value: object) -> bool:
+        """Halves the list, which is in the order of UTF-16 units, again and again."""
+        if not isinstance(value, str):
+            return False
+        wanted, style, start, end = _in_order(value), self._style._handle, 0, len(self)
+        while start < end:
+            middle = (start + end) // 2
+            found = _in_order(decode(self._functions.at(style, middle)))
+            if found == wanted:
+                return True
+            start, end = (middle + 1, end) if found < wanted else (start, middle)
+        return False
+
     def _argument(self, value: str) -> bytes:
         return encode(value)
+
+
+def _in_order(text: str) -> bytes:
+    """Bytes that sort as the units of a text do."""
+    return text.encode("utf-16-be", "surrogatepass")

@@ -1,6 +1,8 @@
 """Effects, and the chains in which a style has them."""
 from __future__ import annotations
 
+import operator
+import sys
 from typing import Callable, Dict, Generic, Mapping, MutableMapping, NamedTuple, Optional, Sequence, TypeVar
 
 from .codes import EffectKind
@@ -10,6 +12,13 @@ from .handles import Handle, HandleSequence
 from .parameters import (MutableParameter, MutableParameters, Parameter, ParameterValue, Parameters,
                          mutable_parameter_list, parameter_list, write_value)
 from .text import decode, encode
+
+
+def place_in_chain(index: int) -> int:
+    """An index for the library, which appends from beyond the end."""
+    if operator.index(index) < 0:
+        raise IndexError(f"{index} is no place of a chain")
+    return min(operator.index(index), sys.maxsize)  # ctypes would cut a larger number to 64 bits
 
 
 class Effect(Handle):
@@ -72,28 +81,36 @@ class MutableEffect(Effect):
             raise RefusedError(f"a parameter's name is neither empty nor there already: {name!r}")
         try:
             write_value(address, value)
-        except (TypeError, ValueError, OverflowError):
+        except BaseException:
             c.MutableParameter_destroy(address)
             raise
-        self._names = None
-        return self._child(MutableParameter, address)
+        parameter = self._child(MutableParameter, address)
+        if self._names is not None:
+            self._names[name] = parameter
+        return parameter
 
     def move(self, index: int) -> None:
         """Moves the effect to an index of its chain; one past the end moves it to the end."""
-        if index < 0:
-            raise IndexError(f"{index} is no place of a chain")
-        c.MutableEffect_move(self._handle, index)
+        c.MutableEffect_move(self._handle, place_in_chain(index))
 
     def destroy(self) -> None:
         """Takes the effect out of its chain, with its parameters."""
-        c.MutableEffect_destroy(self._handle)
-        self._end("it was destroyed")
+        self._destroy(c.MutableEffect_destroy, "it was destroyed")
 
     def _parameters_by_name(self) -> Dict[str, MutableParameter]:  # type: ignore[override]
         return super()._parameters_by_name()  # type: ignore[return-value]
 
-    def _names_changed(self) -> None:
+    def _renamed(self) -> None:
         self._names = None
+
+    def _destroyed(self, name: str, parameter: MutableParameter) -> None:
+        """A parameter that had this name is gone; another of the name may have stood behind it."""
+        if self._names is None or self._names.get(name) is not parameter:
+            return
+        if len(self._names) == len(self.parameter_list) + 1:
+            del self._names[name]
+        else:
+            self._names = None
 
 
 class ChainFunctions(NamedTuple):
@@ -167,10 +184,8 @@ class MutableChain(_AnyChain[MutableEffect]):
     def insert(self, index: int, id: str) -> MutableEffect:
         """Puts a new effect without parameters in front of the index; past the end it is appended. Raises
         RefusedError when the identifier is empty or another effect of the chain has it."""
-        if index < 0:
-            raise IndexError(f"{index} is no place of a chain")
         assert self._functions.insert is not None
-        address = self._functions.insert(self._style._handle, index, encode(id))
+        address = self._functions.insert(self._style._handle, place_in_chain(index), encode(id))
         if not address:
             raise RefusedError(f"an effect's identifier is neither empty nor there already: {id!r}")
         return self._style._child(MutableEffect, address)

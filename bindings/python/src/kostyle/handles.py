@@ -1,10 +1,11 @@
 """What every object that stands for one of the library's has in common: an address, an owner and an end."""
 from __future__ import annotations
 
+import contextlib
 import weakref
-from typing import Callable, Generic, List, Optional, Sequence, Type, TypeVar, Union, overload
+from typing import Callable, Generic, Iterator, List, Optional, Sequence, Type, TypeVar, Union, overload
 
-from .errors import EndedError
+from .errors import CodeError, EndedError
 
 H = TypeVar("H", bound="Handle")
 T = TypeVar("T", covariant=True)
@@ -49,7 +50,7 @@ class Handle:
         if self._children is None:
             self._children = weakref.WeakValueDictionary()
         child = self._children.get(address)
-        if not isinstance(child, kind):
+        if not isinstance(child, kind) or child._end_reason:
             child = kind(address, self)
             self._children[address] = child
         return child
@@ -60,11 +61,42 @@ class Handle:
         if self._owner is not None and self._owner._children is not None:
             self._owner._children.pop(self._address, None)
 
-    def _end_children(self, reason: str, kind: Optional[Type[Handle]] = None) -> None:
-        """All that this object owned is gone, or all of one kind."""
-        for child in list(self._children.values()) if self._children else []:
-            if kind is None or isinstance(child, kind):
-                child._end(reason)
+    @contextlib.contextmanager
+    def _ending(self, reason: str) -> Iterator[int]:
+        """Around a call that ends the object unless it is refused, which a CodeError tells. It has ended before
+        the call already, since Ctrl-C during the call raises KeyboardInterrupt before its answer is known."""
+        address = self._handle
+        self._end_reason = reason
+        try:
+            yield address
+        except CodeError:
+            self._end_reason = ""
+            raise
+        self._end(reason)
+
+    def _destroy(self, call: Callable[[int], object], reason: str) -> None:
+        """Ends the object by a call that is never refused."""
+        address = self._handle
+        self._end(reason)
+        call(address)
+
+    def _become(self, create: Callable[[], int], reason: str) -> None:
+        """Stands for another object of its owner's from now on, whose creation ends the one before."""
+        self._end(reason)
+        self._address = create()
+        if self._owner is not None and self._owner._children is not None:
+            self._owner._children[self._address] = self
+        self._end_reason = ""
+
+    def _living(self, kind: Type[H]) -> List[H]:
+        """The objects of a kind that this one owns and that somebody keeps."""
+        children = list(self._children.values()) if self._children else []
+        return [child for child in children if isinstance(child, kind) and not child._end_reason]
+
+    def _end_children(self, reason: str) -> None:
+        """All that this object owned is gone."""
+        for child in self._living(Handle):
+            child._end(reason)
 
     def __reduce__(self) -> str:
         raise TypeError(f"a {type(self).__name__} cannot leave its process; record_of() gives a style's plain data")

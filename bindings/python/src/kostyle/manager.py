@@ -15,7 +15,7 @@ from .functions import c
 from .handles import Handle, HandleSequence
 from .mutable import MutableStyle
 from .styles import StoredStyle, SystemStyle, UserStyle
-from .text import PathLike, decode, encode, encode_path
+from .text import PathLike, decode, encode, encode_path, several
 
 S = TypeVar("S", bound=StoredStyle)
 
@@ -96,7 +96,7 @@ class Manager(Handle):
                 *_path_array(system_directories), *_path_array(user_directories), ctypes.byref(code))
             if not address:
                 raise CodeError(code.value, _subject(code.value, system_directory, user_directory))
-            if address not in _managers:
+            if address not in _managers or _managers[address].ended:
                 manager = super().__new__(cls)
                 Handle.__init__(manager, address, None)
                 manager._system = Handle(address, manager)
@@ -121,9 +121,8 @@ class Manager(Handle):
         effect when that was done already. May be called from any thread that does not use the manager."""
         with _lock:
             if not self.ended:
-                c.StyleManager_destroy(self._handle)
+                self._destroy(c.StyleManager_destroy, "its manager was closed")
                 del _managers[self._address]
-                self._end("its manager was closed")
 
     @property
     def app_id(self) -> str:
@@ -188,7 +187,7 @@ class Manager(Handle):
 
 
 def _path_array(paths: Iterable[PathLike]) -> Tuple[Any, int]:
-    encoded = [encode_path(path) for path in paths]
+    encoded = [encode_path(path) for path in several(paths)]
     return (ctypes.c_char_p * len(encoded))(*encoded), len(encoded)
 
 

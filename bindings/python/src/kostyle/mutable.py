@@ -1,6 +1,7 @@
 """Mutable styles: built in memory, then saved as a user style or over one."""
 from __future__ import annotations
 
+import contextlib
 import ctypes
 from types import TracebackType
 from typing import Optional, Tuple, Type
@@ -42,8 +43,7 @@ class MutableStyle(Style):
     def destroy(self) -> None:
         """Destroys the style, if it has not ended already."""
         if not self.ended:
-            c.MutableStyle_destroy(self._handle)
-            self._end("it was destroyed")
+            self._destroy(c.MutableStyle_destroy, "it was destroyed")
 
     @property
     def name(self) -> str:
@@ -104,12 +104,12 @@ class MutableStyle(Style):
         What goes wrong while the file is being written is no error, and some of what is written does not
         come back: save_safely() is for that. `pretty` means lines and an indent of 4 spaces."""
         code = ctypes.c_int(Code.OK)
-        address = c.MutableStyle_save(self._handle, pretty, ctypes.byref(code))
-        if not address:
-            raise CodeError(code.value, str(self.manager.user_directory))
-        saved = self.manager._user_style(address)
-        self._end("it was saved")
-        return saved
+        manager = self.manager
+        with self._ending("it was saved") as handle:
+            address = c.MutableStyle_save(handle, pretty, ctypes.byref(code))
+            if not address:
+                raise CodeError(code.value, str(manager.user_directory))
+        return manager._user_style(address)
 
     def overwrite(self, target: UserStyle, *, pretty: bool = True) -> UserStyle:
         """Writes the style over the file of a user style of the same manager, which keeps its identifier and
@@ -121,11 +121,12 @@ class MutableStyle(Style):
         if target not in self.manager.user_styles:
             raise CodeError(Code.USER_STYLE_NOT_FOUND, target.id)
         code = ctypes.c_int(Code.OK)
-        address = c.MutableStyle_overwrite(self._handle, encode(target.id), pretty, ctypes.byref(code))
-        if not address:
-            raise CodeError(code.value, str(target.path))
-        target._end_children("its style was overwritten", Effect)
-        self._end("it was saved")
+        with contextlib.ExitStack() as ending:
+            handle = ending.enter_context(self._ending("it was saved"))
+            for effect in target._living(Effect):
+                ending.enter_context(effect._ending("its style was overwritten"))
+            if not c.MutableStyle_overwrite(handle, encode(target.id), pretty, ctypes.byref(code)):
+                raise CodeError(code.value, str(target.path))
         return target
 
     def save_safely(self, *, pretty: bool = True) -> UserStyle:
@@ -139,6 +140,7 @@ class MutableStyle(Style):
         """overwrite(), with the care of save_safely(): on any failure the target's file is as it was, and
         this style stays. The target in memory is then as it was too, but for its effects, which end and can
         be asked for again; when even that failed, until the user styles are read again, it shows what was to
-        be written."""
+        be written. Beside the file lies meanwhile another one, "kostyle-backup-" and a UUID, which a process that
+        is killed leaves behind: it is the old file. No other process may write the file at the same time."""
         from .safe_save import overwrite_safely
         return overwrite_safely(self, target, pretty)

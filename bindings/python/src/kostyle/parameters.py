@@ -79,7 +79,7 @@ class MutableParameter(Parameter):
     def name(self, name: str) -> None:
         if not c.MutableParameter_setName(self._handle, encode(name)):
             raise RefusedError("a parameter's name is not empty")
-        self._effect._names_changed()
+        self._effect._renamed()
 
     @property
     def value(self) -> ParameterValue:
@@ -94,10 +94,9 @@ class MutableParameter(Parameter):
 
     def destroy(self) -> None:
         """Takes the parameter out of its effect."""
-        effect = self._effect
-        c.MutableParameter_destroy(self._handle)
-        self._end("it was destroyed")
-        effect._names_changed()
+        name = self.name
+        self._destroy(c.MutableParameter_destroy, "it was destroyed")
+        self._effect._destroyed(name, self)
 
     @property
     def _effect(self) -> MutableEffect:
@@ -148,6 +147,9 @@ class MutableParameters(Parameters, MutableMapping[str, ParameterValue]):
 
     _effect: MutableEffect
 
+    def __iter__(self) -> Iterator[str]:
+        return iter(dict.fromkeys(parameter.name for parameter in self._effect.parameter_list))
+
     def __setitem__(self, name: str, value: ParameterValue) -> None:
         known = self._places().get(name)
         if known is None:
@@ -157,6 +159,11 @@ class MutableParameters(Parameters, MutableMapping[str, ParameterValue]):
 
     def __delitem__(self, name: str) -> None:
         self._effect._parameters_by_name()[name].destroy()
+
+    def clear(self) -> None:
+        """Takes all of them out."""
+        for parameter in list(self._effect.parameter_list):
+            parameter.destroy()
 
 
 def parameter_list(effect: Effect) -> HandleSequence[Parameter]:

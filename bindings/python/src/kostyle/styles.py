@@ -132,12 +132,14 @@ class UserStyle(StoredStyle):
 
     def remove(self) -> None:
         """Deletes the style's file, and ends the style. Raises CodeError, and nothing has changed."""
-        code = c.UserStyle_remove(self._handle)
-        if code != Code.OK:
-            raise CodeError(code, str(self.path))
-        self._end("it was removed")
+        path = self.path
+        with self._ending("it was removed") as handle:
+            code = c.UserStyle_remove(handle)
+            if code != Code.OK:
+                raise CodeError(code, str(path))
 
     def property_editor(self) -> PropertyEditor:
         """An editor of name, sub-genres and colours, empty. Ends the editor that the style had."""
-        self._end_children("the style has another editor", PropertyEditor)
+        for editor in self._living(PropertyEditor):
+            editor._end("the style has another editor")
         return self._child(PropertyEditor, c.UserStyle_createPropertyEditor(self._handle))

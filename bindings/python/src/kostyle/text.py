@@ -10,7 +10,7 @@ import codecs
 import ctypes
 import os
 import sys
-from typing import Optional, Union
+from typing import Iterable, Optional, Union
 
 from .errors import RefusedError
 
@@ -29,6 +29,8 @@ def encode(text: str) -> bytes:
     >>> encode("a\\U0001f3b5").hex(" ", 2)
     '6100 3cd8 b5df 0000'
     """
+    if not isinstance(text, str):
+        raise TypeError(f"a text is a str, not {text!r}")
     if "\0" in text:
         raise RefusedError(f"{text!r} holds U+0000, where the library's texts end")
     return _encode(text, "surrogatepass")[0] + b"\0\0"
@@ -75,6 +77,13 @@ def has_lone_surrogate(text: str) -> bool:
     (True, False)
     """
     return any("\ud800" <= character <= "\udfff" for character in text)
+
+
+def several(paths: Iterable[PathLike]) -> Iterable[PathLike]:
+    """The paths; raises TypeError for a single one, whose characters would be taken for paths."""
+    if isinstance(paths, (str, bytes)):
+        raise TypeError(f"paths are needed, not one: {paths!r}")
+    return paths
 
 
 def encode_path(path: PathLike) -> bytes:
