@@ -9,7 +9,7 @@ import unittest
 from typing import Dict, Iterator, List, Tuple
 
 import kostyle
-from kostyle import codes, functions, text
+from kostyle import codes, functions, records, text
 
 from support import SOURCE
 
@@ -138,4 +138,6 @@ class HelpersTest(unittest.TestCase):
     def compare(self, content: bytes) -> None:
         for offset in [*range(len(content) + 2), 2 ** 64 - 1]:
             with self.subTest(content=content, offset=offset):
-                self.assertEqual(kostyle.find_line(content, offset), self.find_line(content, offset))
+                expected = self.find_line(content, offset)
+                self.assertEqual(kostyle.find_line(content, offset), expected)
+                self.assertEqual(kostyle.find_line(content[:offset + records._BEHIND], offset), expected)

@@ -90,6 +90,37 @@ class ScanTest(StyleTest):
             os.chdir(before)
         self.assertEqual((record.path, record.style and record.style.id), ("x.kostyle", "one"))
 
+    @unittest.skipIf(os.name == "nt", "the system has another rule")
+    def test_takes_the_folder_above_as_the_system_does(self) -> None:
+        (self.folder / "far" / "below").mkdir(parents=True)
+        self.write(self.folder / "far" / "x", document("right"))
+        self.write(self.folder / "x", document("wrong"))
+        (self.folder / "link").symlink_to(self.folder / "far" / "below")
+        before = os.getcwd()
+        os.chdir(self.folder)
+        try:
+            records = kostyle.scan(["link/../x", str(self.folder / "link" / ".." / "x"), "./far/../x"])
+        finally:
+            os.chdir(before)
+        self.assertEqual(self.ids(records), ["right", "right", "wrong"])
+
+    def test_takes_paths_and_not_one(self) -> None:
+        path = str(self.write(self.folder / "x", document()))
+        for one in (path, os.fsencode(path)):
+            with self.assertRaises(TypeError):
+                kostyle.scan(one)  # type: ignore[arg-type]
+        [record] = kostyle.scan([os.fsencode(path)])  # type: ignore[list-item]
+        self.assertEqual((record.path, record.style is not None), (path, True))
+
+    @unittest.skipIf(os.name == "nt", "links are hard links there")
+    def test_is_no_fault_of_the_files_when_there_is_no_room(self) -> None:
+        path = self.write(self.folder / "x", document())
+        for failing in ("os.symlink", "shutil.copyfile"):
+            with mock.patch("os.symlink", side_effect=OSError), \
+                    mock.patch(failing, side_effect=OSError(errno.ENOSPC, "No space left on device")), \
+                    self.assertRaises(OSError):
+                kostyle.scan([path])
+
     def test_says_why_a_file_cannot_be_read(self) -> None:
         self.expect_refusal(self.folder / "none", os.strerror(errno.ENOENT))
         self.expect_refusal(self.folder, "it is a directory")
@@ -117,6 +148,14 @@ class ScanTest(StyleTest):
         assert refusal is not None
         self.assertEqual((refusal.code, refusal.parse_error, refusal.offset, refusal.line, refusal.column),
                          (kostyle.Code.JSON_SYNTAX, kostyle.ParseError.OBJECT_NAME_MISSING, 19, 3, 3))
+
+    def test_says_where_a_file_is_wrong_without_reading_all_of_it(self) -> None:
+        path = self.write(self.folder / "x", b'{\n ?}' + b" " * 1_000_000)
+        with mock.patch("kostyle.records.find_line", wraps=kostyle.find_line) as found:
+            refusal = self.scan_one(path).refusal
+        assert refusal is not None
+        self.assertEqual((refusal.line, refusal.column), (2, 2))
+        self.assertLess(len(found.call_args.args[0]), 100)
 
     def test_says_when_a_file_vanishes_meanwhile(self) -> None:
         paths = [self.write(self.folder / f"{number}", document(f"id{number}")) for number in range(3)]

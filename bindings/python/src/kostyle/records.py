@@ -12,6 +12,10 @@ from .styles import Style
 from .text import PathLike, decode
 
 
+# Of what follows an offset, so many bytes are enough to know its character and the file's encoding.
+_BEHIND = 8
+
+
 @dataclasses.dataclass
 class EffectRecord:
     """An effect."""
@@ -139,7 +143,7 @@ def read_refusal(result: int, path: PathLike) -> Refusal:
         refusal.offset = c.StyleCreationResult_parseErrorOffset(result)
         try:
             with open(path, "rb") as file:
-                refusal.line, refusal.column = find_line(file.read(), refusal.offset)
+                refusal.line, refusal.column = find_line(file.read(refusal.offset + _BEHIND), refusal.offset)
         except OSError:
             pass  # gone since it was read; the offset says enough
     return refusal

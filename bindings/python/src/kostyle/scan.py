@@ -8,6 +8,7 @@ from __future__ import annotations
 import collections
 import contextlib
 import ctypes
+import errno
 import os
 import shutil
 import stat
@@ -20,8 +21,10 @@ from .codes import Code
 from .errors import CodeError
 from .functions import c
 from .records import FileRecord, Refusal, read_refusal, read_style
-from .text import PathLike, decode, encode, encode_path
+from .text import PathLike, decode, encode, encode_path, several
 
+# Of making a link or a copy: no fault of the file's.
+_NO_ROOM = {errno.ENOSPC, errno.EDQUOT}
 # So many files lie in one folder, and so many styles in memory, at a time.
 _BATCH = 1000
 PREFIX = "kostyle-scan-"
@@ -38,15 +41,15 @@ def scan(paths: Iterable[PathLike]) -> List[FileRecord]:
     The function and the records can be pickled, so any pool of processes or machines may run it, and any
     number of threads at a time. It writes links (on Windows hard links, or copies where those cannot be made)
     into a folder of its own and removes them: below the folder that the environment variable TMPDIR names, else in
-    memory, below /dev/shm, else below tempfile.gettempdir(). Raises OSError when that folder cannot be made. A
-    process that is killed meanwhile leaves the folder behind.
+    memory, below /dev/shm, else below tempfile.gettempdir(). Raises OSError when that folder cannot be made or has no
+    room. A process that is killed meanwhile leaves the folder behind.
 
     >>> for record in kostyle.scan([system_directory / "concrete_club.kostyle", "missing.kostyle"]):
     ...     print(record.style.name if record.style else record.refusal)
     Concrete club
     No such file or directory
     """
-    given = [os.fspath(path) for path in paths]
+    given = [os.fsdecode(path) for path in several(paths)]
     records: List[FileRecord] = []
     for start in range(0, len(given), _BATCH):
         records += _scan_batch(given[start:start + _BATCH])
@@ -122,9 +125,11 @@ def _folder_of_links(records: List[FileRecord]) -> Iterator[str]:
     try:
         for record, link in zip(records, links):
             try:
-                _show(os.path.abspath(record.path), link)
-            except (OSError, ValueError):
-                pass  # it has no creation result then, and _why_not_opened() finds out
+                _show(_absolute(record.path), link)
+            except (OSError, ValueError) as error:
+                if isinstance(error, OSError) and error.errno in _NO_ROOM:
+                    raise
+                # It has no creation result then, and _why_not_opened() finds out.
         yield folder
     finally:
         for link in links:
@@ -141,10 +146,21 @@ def _make_folder() -> str:
     return tempfile.mkdtemp(prefix=PREFIX)
 
 
+def _absolute(path: str) -> str:
+    """For a link elsewhere. Behind a link to a folder, ".." is not the folder that holds the link, as
+    os.path.abspath() would have it."""
+    if sys.platform == "win32":
+        return os.path.abspath(path)
+    return path if os.path.isabs(path) else os.path.join(os.getcwd(), path)
+
+
 def _show(path: str, link: str) -> None:
     if sys.platform != "win32":
-        with contextlib.suppress(OSError):  # not every file system has links
+        try:
             return os.symlink(path, link)
+        except OSError as error:  # not every file system has links
+            if error.errno in _NO_ROOM:
+                raise
     elif os.access(path, os.W_OK):  # a link to a file that is read-only could not be removed
         with contextlib.suppress(OSError):  # not to another volume
             return os.link(path, link)
