@@ -194,18 +194,99 @@ class FailureTest(SafeTest):
 
     @unittest.skipIf(os.name == "nt", "files cannot be bounded there")
     def test_of_editing_puts_the_file_back(self) -> None:
-        with self.target.property_editor() as editor, full_disk(len(self.before) + 50):
+        effect = self.target.audio_effects[0]
+        with self.target.property_editor() as editor:
+            self.fill(editor)
+            with full_disk(len(self.before) + 50):
+                self.expect_not_saved(editor.save_safely)
+            self.expect_all_as_it_was()
+            self.assertFalse(effect.ended)
+            editor.save_safely()
+        self.assertEqual((self.target.name, len(self.target.colors)), ("New", 100))
+
+    @staticmethod
+    def fill(editor: kostyle.PropertyEditor) -> None:
+        editor.name = "New"
+        for number in range(100):
+            editor.add_color(f"color {number}")
+
+    @unittest.skipIf(os.name == "nt", "files cannot be bounded there")
+    def test_of_editing_puts_back_what_links_lead_to(self) -> None:
+        for name in ("symlink", "link"):
+            elsewhere = self.folder / name
+            self.target.path.rename(elsewhere)
+            getattr(os, name)(elsewhere, self.target.path)
+            known = os.lstat(self.target.path).st_ino
+            with self.target.property_editor() as editor, full_disk(len(self.before) + 50):
+                self.fill(editor)
+                self.expect_not_saved(editor.save_safely)
+            self.assertEqual((elsewhere.read_bytes(), os.lstat(self.target.path).st_ino), (self.before, known))
+            self.expect_all_as_it_was()
+
+    def test_to_begin_with_editing_leaves_the_file_alone(self) -> None:
+        known = self.target.path.stat()
+        with self.target.property_editor() as editor:
+            with self.assertRaises(kostyle.RefusedError):
+                editor.save_safely()
+        after = self.target.path.stat()
+        self.assertEqual((after.st_ino, after.st_mtime_ns), (known.st_ino, known.st_mtime_ns))
+        self.expect_all_as_it_was()
+
+    def test_to_write_back_what_was_edited_exchanges_the_file(self) -> None:
+        with self.target.property_editor() as editor:
             editor.name = "New"
-            for number in range(100):
-                editor.add_color(f"color {number}")
+            with mock.patch.object(safe_save, "scan", side_effect=OSError(5, "Input/output error")), \
+                    mock.patch("shutil.copy2", lambda file, backup: backup.write_bytes(file.read_bytes())), \
+                    mock.patch("shutil.copyfile", side_effect=OSError):
+                self.expect_not_saved(editor.save_safely)
+        self.expect_all_as_it_was()
+
+    def test_of_editing_a_style_without_a_name_puts_the_file_back(self) -> None:
+        style = self.read_one(document(name="x" * 101))
+        before = style.path.read_bytes()
+        with style.property_editor() as editor, mock.patch.object(safe_save, "scan", side_effect=OSError(5, "broken")):
+            editor.name = "New"
             self.expect_not_saved(editor.save_safely)
-        self.assertEqual(self.target.path.read_bytes(), self.before)
-        self.assertEqual([path.name for path in self.user.iterdir()], ["one.kostyle"])
+        self.assertEqual(style.path.read_bytes(), before)
+
+    def test_to_find_the_same_identifier_leaves_all_as_it_was(self) -> None:
+        def another(paths: List[Any]) -> List[kostyle.FileRecord]:
+            [file] = kostyle.scan(paths)
+            assert file.style is not None
+            file.style.id += "x"
+            return [file]
+
+        style = self.mutable()
+        with self.target.property_editor() as editor, mock.patch.object(safe_save, "scan", another):
+            editor.name = "New"
+            for save in (*self.saves(style), editor.save_safely):
+                self.assertIn("does not hold what was written", str(self.expect_not_saved(save)))
+                self.expect_all_as_it_was()
+
+    def test_to_delete_the_new_file_tells_where_it_is(self) -> None:
+        def vanished(paths: List[Any]) -> List[kostyle.FileRecord]:
+            os.unlink(*paths)
+            return kostyle.scan(paths)
+
+        with mock.patch.object(safe_save, "scan", vanished):
+            failure = self.expect_not_saved(self.mutable().save_safely)
+        self.assertEqual(failure.path.parent, self.user)
+        self.assertIn(f"{os.strerror(2)}; and it cannot be deleted", str(failure))
+
+    def test_to_read_back_by_a_code_is_the_same(self) -> None:
+        style = self.mutable()
+        broken = kostyle.CodeError(kostyle.Code.DIRECTORY_MISSING, "x")
+        for save in self.saves(style):
+            with mock.patch.object(safe_save, "scan", side_effect=broken):
+                self.assertIn("read again", str(self.expect_not_saved(save)))
+            self.expect_all_as_it_was()
 
     def test_to_read_back_leaves_all_as_it_was(self) -> None:
         for failure in (OSError(28, "No space left on device"), KeyboardInterrupt()):
             style = self.mutable()
-            for save in self.saves(style):
+            editor = self.target.property_editor()
+            editor.name = "New"
+            for save in (*self.saves(style), editor.save_safely):
                 with mock.patch.object(safe_save, "scan", side_effect=failure):
                     with self.assertRaises((kostyle.NotSavedError, KeyboardInterrupt)):
                         save()

@@ -2,7 +2,7 @@
 from __future__ import annotations
 
 from types import TracebackType
-from typing import List, Optional, Tuple, Type, TYPE_CHECKING
+from typing import Iterable, List, Optional, Tuple, Type, TYPE_CHECKING
 
 from .codes import Code, Limit
 from .errors import CodeError, Finding, RefusedError
@@ -11,6 +11,7 @@ from .handles import Handle
 from .text import encode, units
 
 if TYPE_CHECKING:
+    from .records import StyleRecord
     from .styles import UserStyle
 
 
@@ -44,8 +45,8 @@ class PropertyEditor(Handle):
     def destroy(self) -> None:
         """Ends the editor with what it collected; without effect when it has ended already."""
         if not self.ended:
-            c.UserStyle_destroyPropertyEditor(self._style._handle)
-            self._end("it was destroyed")
+            style = self._style._handle
+            self._destroy(lambda _: c.UserStyle_destroyPropertyEditor(style), "it was destroyed")
 
     @property
     def _style(self) -> UserStyle:
@@ -101,9 +102,30 @@ class PropertyEditor(Handle):
     def save_safely(self) -> Tuple[Finding, ...]:
         """save(), with the care of MutableStyle.save_safely(): raises UnsafeError before it writes when the
         style holds what cannot be written again, reads back what it wrote, and raises NotSavedError with
-        the file as it was. Gives what the file has lost: the vendor."""
+        the file and the style as they were; a style without a name then shows the new properties until it is read
+        again. Gives what the file has lost: the vendor."""
         from .safe_save import edit_safely
         return edit_safely(self, self._style)
+
+    def _put_back(self, before: StyleRecord) -> None:
+        """Gives the style in memory its former name, sub-genres and colours. That takes an editor with nothing
+        else in it; afterwards this one has again what it collected. Without a former name it does nothing."""
+        wanted = (self._name, self._sub_genres, self._colors)
+        try:
+            self._fill(before.name, before.sub_genres, before.colors)
+            c.PropertyEditor_save(self._handle, True)
+        finally:
+            self._fill(*wanted)
+
+    def _fill(self, name: str, sub_genres: Iterable[str], colors: Iterable[str]) -> None:
+        style = self._style._handle
+        self._become(lambda: int(c.UserStyle_createPropertyEditor(style)), "it was being exchanged")
+        self._name, self._sub_genres, self._colors = name, list(sub_genres), list(colors)
+        c.PropertyEditor_setStyleName(self._handle, encode(name))
+        for sub_genre in sub_genres:
+            c.PropertyEditor_addSubGenre(self._handle, encode(sub_genre))
+        for color in colors:
+            c.PropertyEditor_addColor(self._handle, encode(color))
 
     def __repr__(self) -> str:
         return "<PropertyEditor ended>" if self.ended else f"<PropertyEditor of {self._style!r}>"

@@ -2,14 +2,16 @@
 again, and whatever fails leaves the old file as it was."""
 from __future__ import annotations
 
+import contextlib
 import dataclasses
+import filecmp
 import math
 import os
 import pathlib
 import shutil
 import sys
 import uuid
-from typing import Iterator, Tuple
+from typing import Callable, Iterator, Tuple
 
 from .attributes import LISTS
 from .errors import CodeError, Finding, NotSavedError, UnsafeError
@@ -86,6 +88,7 @@ class _Backup:
 
     def __init__(self, file: pathlib.Path, in_place: bool) -> None:
         self.file = file
+        self.in_place = in_place
         self.path = file.with_name(f"kostyle-backup-{uuid.uuid4()}")
         if in_place or not self._link():
             self._copy()
@@ -111,12 +114,41 @@ class _Backup:
             pass  # a backup too many does no harm
 
     def restore(self) -> bool:
+        if not (self.in_place and self._write_back()) and not self._put_in_place():
+            return False
+        self.discard()  # two names of one file are not replaced
+        return True
+
+    def _write_back(self) -> bool:
+        """Into the file itself, which may have other names, and links that lead to it."""
+        try:
+            if not filecmp.cmp(self.path, self.file, shallow=False):
+                shutil.copyfile(self.path, self.file)
+        except OSError:
+            return False
+        return True
+
+    def _put_in_place(self) -> bool:
         try:
             os.replace(self.path, self.file)
         except OSError:
             return False
-        self.discard()  # two names of one file are not replaced
         return True
+
+
+@contextlib.contextmanager
+def _restored_when_it_fails(backup: _Backup, put_back_in_memory: Callable[[], None]) -> Iterator[None]:
+    """Around writing a file and reading it again. Putting back in memory may write the file too."""
+    try:
+        yield
+    except BaseException as error:
+        try:
+            put_back_in_memory()
+        finally:
+            if not backup.restore():
+                raise NotSavedError(backup.file, _reason(error), backup.path) from error
+        raise
+    backup.discard()
 
 
 def save_safely(style: MutableStyle, pretty: bool) -> UserStyle:
@@ -127,8 +159,8 @@ def save_safely(style: MutableStyle, pretty: bool) -> UserStyle:
         saved = spare.save(pretty=pretty)
     try:
         _read_back(saved, written)
-    except BaseException:
-        saved.remove()
+    except BaseException as error:
+        _remove(saved, error)
         raise
     style.destroy()
     return saved
@@ -142,32 +174,30 @@ def overwrite_safely(style: MutableStyle, target: UserStyle, pretty: bool) -> Us
     _require_safe(written)
     _require_replaceable(target)
     with style.mutable_copy() as spare, target.mutable_copy() as previous:
-        backup = _Backup(target.path, in_place=False)
-        try:
+        def put_back() -> None:
+            if spare.ended:
+                _overwrite_again(previous, target)
+
+        with _restored_when_it_fails(_Backup(target.path, in_place=False), put_back):
             spare.overwrite(target, pretty=pretty)
             _read_back(target, written)
-        except BaseException as error:
-            if spare.ended:
-                _put_back_in_memory(previous, target)
-            _restore(backup, error)
-            raise
-    backup.discard()
     style.destroy()
     return target
 
 
 def edit_safely(editor: PropertyEditor, style: UserStyle) -> Tuple[Finding, ...]:
     """Does what PropertyEditor.save_safely() says."""
-    wanted = dataclasses.replace(record_of(style), name=editor.name, sub_genres=editor.sub_genres, colors=editor.colors)
+    before = record_of(style)
+    wanted = dataclasses.replace(before, name=editor.name, sub_genres=editor.sub_genres, colors=editor.colors)
     _require_safe(wanted)
-    backup = _Backup(style.path, in_place=True)
-    try:
+
+    def put_back() -> None:
+        if record_of(style) != before:
+            editor._put_back(before)
+
+    with _restored_when_it_fails(_Backup(style.path, in_place=True), put_back):
         editor.save()
         _read_back(style, wanted)
-    except BaseException as error:
-        _restore(backup, error)
-        raise
-    backup.discard()
     lost = f"an edited file has none: {style.vendor!r}"
     return (Finding("vendor", lost),) if style.vendor else ()
 
@@ -181,8 +211,8 @@ def _require_replaceable(target: UserStyle) -> None:
         raise UnsafeError([Finding(str(target.path), "it lies on another file system than the user directory")])
 
 
-def _put_back_in_memory(previous: MutableStyle, target: UserStyle) -> None:
-    """What that does to the file does no harm: its backup comes over it."""
+def _overwrite_again(previous: MutableStyle, target: UserStyle) -> None:
+    """For what is in memory: over the file comes its backup."""
     if all(finding.place == "vendor" for finding in previous.left_out):
         try:
             previous.overwrite(target)
@@ -190,17 +220,23 @@ def _put_back_in_memory(previous: MutableStyle, target: UserStyle) -> None:
             pass  # it shows what was to be written, until it is read again
 
 
-def _restore(backup: _Backup, error: BaseException) -> None:
-    if not backup.restore():
-        raise NotSavedError(backup.file, str(error), backup.path) from error
+def _remove(saved: UserStyle, error: BaseException) -> None:
+    try:
+        saved.remove()
+    except CodeError:
+        raise NotSavedError(saved.path, f"{_reason(error)}; and it cannot be deleted") from error
+
+
+def _reason(error: BaseException) -> str:
+    return error.reason if isinstance(error, NotSavedError) else str(error) or type(error).__name__
 
 
 def _read_back(saved: UserStyle, written: StyleRecord) -> None:
     path = saved.path
     try:
         [file] = scan([path])
-    except OSError as error:
-        raise NotSavedError(path, f"it cannot be read again: {error.strerror}") from error
+    except (OSError, CodeError) as error:
+        raise NotSavedError(path, f"it cannot be read again: {error}") from error
     if file.style is None:
         raise NotSavedError(path, str(file.refusal))
     expected = dataclasses.replace(written, id=saved.id, vendor="")
