@@ -3,24 +3,27 @@
 
 usage: scan_collection.py [--scheduler ADDRESS] [--batch FILES] TABLE PATH...
 
-A PATH is a style file, or a folder whose `.kostyle` files are read, in it and below; `-` reads paths from the standard
-input, one a line. TABLE ends in `.csv`, or in `.parquet` where pyarrow is installed. Needs Dask (dask and
+A PATH is a style file, or a folder whose `.kostyle` files are read, in it and below (not behind links to folders); `-`
+reads paths from the standard input, one a line. TABLE, which is replaced, ends in `.csv`, or in `.parquet` where pyarrow is installed. Needs Dask (dask and
 distributed). Without --scheduler the work is done by processes of this machine; on a cluster, kostyle has to be
 installed on the workers, and they have to see the files under the same paths.
 
-The table has a row for each file, in no order. A file that was refused or could not be read has the reason in its row.
+The table has a row for each file, in no order. A file that was refused or could not be read has the reason in its row;
+so has a folder that cannot be listed. Texts are those of the files: a program that takes some of them for formulas has to
+be told not to.
 When a worker dies its work is done by another; a batch that several workers died of is divided until the one file
 that did it is found, and has its row too. The exit code is 0 when every file has its row.
 """
 import argparse
 import contextlib
 import csv
+import importlib.util
 import itertools
 import json
 import os
 import sys
 import tempfile
-from typing import Any, Callable, Dict, Iterable, Iterator, List, Optional
+from typing import Any, Callable, ContextManager, Dict, Iterable, Iterator, List, Optional
 
 import distributed
 import kostyle
@@ -39,10 +42,12 @@ def find_files(paths: Iterable[str]) -> Iterator[str]:
     """The files that the command line names."""
     for path in paths:
         if path == "-":
-            yield from (line.rstrip("\n") for line in sys.stdin)
+            yield from (os.fsdecode(line.rstrip(b"\n")) for line in sys.stdin.buffer)
         elif os.path.isdir(path):
-            for folder, _, names in os.walk(path):
+            failures: List[OSError] = []
+            for folder, _, names in os.walk(path, onerror=failures.append):
                 yield from (os.path.join(folder, name) for name in names if name.endswith(".kostyle"))
+            yield from (failure.filename for failure in failures)
         else:
             yield path
 
@@ -81,7 +86,11 @@ def row_of(record: kostyle.FileRecord) -> Row:
 
 @contextlib.contextmanager
 def csv_table(path: str) -> Iterator[WriteRows]:
-    with open(path, "w", encoding="utf-8", newline="") as file:
+    try:
+        file = open(path, "w", encoding="utf-8", newline="")
+    except OSError as error:
+        sys.exit(str(error))
+    with file:
         writer = csv.DictWriter(file, COLUMNS)
         writer.writeheader()
         yield writer.writerows
@@ -89,29 +98,41 @@ def csv_table(path: str) -> Iterator[WriteRows]:
 
 @contextlib.contextmanager
 def parquet_table(path: str) -> Iterator[WriteRows]:
-    try:
-        import pyarrow
-        import pyarrow.parquet
-    except ImportError:
-        sys.exit("a table in Parquet needs pyarrow; name one that ends in .csv")
+    import pyarrow
+    import pyarrow.parquet
     schema = pyarrow.schema([(name, pyarrow.string()) for name in COLUMNS])
     with pyarrow.parquet.ParquetWriter(path, schema) as writer:
         yield lambda rows: writer.write_table(pyarrow.Table.from_pylist(rows, schema))
 
 
+def table_of(path: str) -> Callable[[str], ContextManager[WriteRows]]:
+    if not path.endswith(".parquet"):
+        return csv_table
+    if not importlib.util.find_spec("pyarrow"):
+        sys.exit("a table in Parquet needs pyarrow; name one that ends in .csv")
+    return parquet_table
+
+
 class Progress:
-    """A bar on the standard error."""
+    """A bar on the standard error, where that is a terminal; else a line for each percent."""
 
     def __init__(self, total: int) -> None:
         self.total = total
-        self.done = self.refused = 0
+        self.done = self.refused = self.percent = 0
+        self.terminal = sys.stderr.isatty()
 
     def add(self, rows: List[Row]) -> None:
         self.done += len(rows)
         self.refused += sum(bool(row["refused"]) for row in rows)
-        bar = "#" * (30 * self.done // self.total)
-        print(f"\r[{bar:30}] {self.done} of {self.total} files, {self.refused} refused", end="", file=sys.stderr,
-              flush=True)
+        text = f"{self.done} of {self.total} files, {self.refused} refused"
+        percent = 100 * self.done // self.total
+        if self.terminal:
+            bar = "#" * (30 * self.done // self.total)
+            end = "\n" if self.done == self.total else ""
+            print(f"\r[{bar:30}] {text}", end=end, file=sys.stderr, flush=True)
+        elif percent != self.percent:
+            print(text, file=sys.stderr, flush=True)
+        self.percent = percent
 
 
 def scan_rows(batch: List[str]) -> List[Row]:
@@ -163,7 +184,11 @@ def scan_suspects(client: distributed.Client, suspects: List[List[str]], work: W
 @contextlib.contextmanager
 def connected(scheduler: Optional[str]) -> Iterator[distributed.Client]:
     if scheduler:
-        with distributed.Client(scheduler) as client:
+        try:
+            client = distributed.Client(scheduler)
+        except (OSError, ValueError) as error:
+            sys.exit(f"{scheduler} is no scheduler: {error}")
+        with client:
             client.wait_for_workers(1)
             yield client
     else:
@@ -174,22 +199,28 @@ def connected(scheduler: Optional[str]) -> Iterator[distributed.Client]:
             yield client
 
 
+def positive(text: str) -> int:
+    number = int(text)
+    if number < 1:
+        raise ValueError(text)
+    return number
+
+
 def main() -> int:
     summary, usage, *_ = __doc__.split("\n\n")
     parser = argparse.ArgumentParser(usage=usage.replace("usage: ", ""), description=summary)
     parser.add_argument("--scheduler", metavar="ADDRESS", help="of a running Dask cluster, as tcp://host:8786")
-    parser.add_argument("--batch", metavar="FILES", type=int, default=500, help="a worker reads at a time (500)")
+    parser.add_argument("--batch", metavar="FILES", type=positive, default=500, help="a worker reads at a time (500)")
     parser.add_argument("table", metavar="TABLE")
     parser.add_argument("paths", metavar="PATH", nargs="+")
     arguments = parser.parse_args()
-    open_table = parquet_table if arguments.table.endswith(".parquet") else csv_table
+    open_table = table_of(arguments.table)
     files = list(find_files(arguments.paths))
     progress = Progress(len(files))
-    with open_table(arguments.table) as write, connected(arguments.scheduler) as client:
+    with connected(arguments.scheduler) as client, open_table(arguments.table) as write:
         for rows in scan_on(client, batches(files, arguments.batch), scan_rows):
             write(rows)
             progress.add(rows)
-    print(file=sys.stderr)
     return 0 if progress.done == len(files) else 1
 
 

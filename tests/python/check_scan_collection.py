@@ -16,6 +16,7 @@ import subprocess
 import sys
 import tempfile
 import time
+import unittest.mock
 
 import dask
 import distributed
@@ -159,6 +160,47 @@ def check_embedded(example, folder):
         sys.exit("the embedded scheduler lost files")
 
 
+def check_refusals(example, module, folder):
+    """What cannot be done is said in a line, before a table of an earlier run is touched."""
+    table = folder / "earlier.csv"
+    table.write_text("an earlier table")
+    nowhere = {"DASK_DISTRIBUTED__COMM__TIMEOUTS__CONNECT": "1s"}
+    for options, said in [(["--scheduler", "tcp://127.0.0.1:9"], "is no scheduler"), (["--batch", "0"], "--batch")]:
+        done = subprocess.run([sys.executable, example, *options, str(table), str(folder / "small")], text=True,
+                              stderr=subprocess.PIPE, env={**os.environ, **nowhere})
+        if done.returncode == 0 or said not in done.stderr or "Traceback" in done.stderr:
+            sys.exit(f"with {options} it said {done.stderr}")
+    if table.read_text() != "an earlier table":
+        sys.exit("a table is gone, and no other is in its place")
+    try:
+        with module.csv_table(str(folder / "none" / "table.csv")):
+            sys.exit("a table was made nowhere")
+    except SystemExit as stopped:
+        if os.strerror(2) not in str(stopped):
+            raise
+
+
+def check_found_files(module, folder):
+    """In the folders that are named and below; a folder that cannot be listed is not passed over in silence."""
+    closed = folder / "closed"
+    closed.mkdir()
+    real = os.scandir
+
+    def listed(path):
+        if os.fspath(path) == str(closed):
+            raise PermissionError(13, os.strerror(13), str(closed))
+        return real(path)
+
+    with unittest.mock.patch("os.scandir", listed):
+        found = set(module.find_files([str(folder), "any"]))
+    if not {str(closed), "any", str(folder / "small" / "0.kostyle")} <= found:
+        sys.exit(f"found were {sorted(found)[:20]}")
+    piped = unittest.mock.Mock(buffer=[b"a\xff\n", b" b"])
+    with unittest.mock.patch("sys.stdin", piped):
+        if list(map(os.fsencode, module.find_files(["-"]))) != [b"a\xff", b" b"]:
+            sys.exit("paths of the standard input are others")
+
+
 def check_parquet(example, folder):
     """Where pyarrow is, the table holds the same; else that is said before the work begins."""
     table = folder / "small.parquet"
@@ -199,6 +241,8 @@ def main(example):
         folder = pathlib.Path(name)
         check_cluster(example, module, folder)
         check_embedded(example, folder)
+        check_refusals(example, module, folder)
+        check_found_files(module, folder)
         check_parquet(example, folder)
     check_deadly_file(module)
 
