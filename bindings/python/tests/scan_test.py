@@ -10,10 +10,11 @@ import shutil
 import tempfile
 import threading
 import unittest
-from typing import List, Optional
+from typing import Any, List, Optional
 from unittest import mock
 
 import kostyle
+from kostyle.functions import c
 
 from support import EXAMPLES, StyleTest, document
 
@@ -261,6 +262,31 @@ class SharedOutTest(StyleTest):
             records = [record for batch in pool.map(kostyle.scan, self.batches) for record in batch]
         self.assertEqual(records, self.expected)
         self.assertEqual(self.manager.system_styles[0].id, "one")
+
+    @unittest.skipUnless(hasattr(os, "fork"), "processes do not fork there")
+    def test_by_a_process_that_forks_while_a_manager_is_made(self) -> None:
+        """The library's lock is held then, and nobody would open it in the new process."""
+        inside, go_on = threading.Event(), threading.Event()
+        create = c.CreateStyleManager
+
+        def slow(*arguments: Any) -> Any:
+            inside.set()
+            go_on.wait(10)
+            return create(*arguments)
+
+        with mock.patch.object(c, "CreateStyleManager", slow):
+            other = threading.Thread(target=kostyle.scan, args=(self.paths[:1],))
+            other.start()
+            inside.wait(10)
+            forked_while_inside: List[bool] = []
+            os.register_at_fork(after_in_parent=lambda: forked_while_inside.append(not go_on.is_set()))
+            threading.Timer(0.1, go_on.set).start()
+            child = os.fork()
+            if child == 0:
+                os._exit(0)
+            os.waitpid(child, 0)
+            other.join()
+        self.assertEqual(forked_while_inside[:1], [False])
 
     def test_by_processes(self) -> None:
         pickle.loads(pickle.dumps(kostyle.scan))

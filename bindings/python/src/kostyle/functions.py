@@ -6,6 +6,7 @@ kostyle.text.decode(). Nothing here checks what it is given: a handle whose obje
 from __future__ import annotations
 
 import ctypes
+import os
 import threading
 from typing import Any, Callable, Dict, Tuple
 
@@ -207,3 +208,9 @@ def _bind(library: ctypes.CDLL) -> Dict[str, Callable[..., Any]]:
 
 
 c = Functions()
+
+registry = threading.Lock()
+"""Held while a manager is created or destroyed, for which the library takes a lock of its own; and while the process
+forks, since the new process would inherit that lock from a thread that it does not have."""
+if hasattr(os, "register_at_fork"):
+    os.register_at_fork(before=registry.acquire, after_in_parent=registry.release, after_in_child=registry.release)

@@ -4,14 +4,13 @@ from __future__ import annotations
 import ctypes
 import os
 import pathlib
-import threading
 from types import TracebackType
 from typing import Any, Callable, Dict, Generic, Iterable, NamedTuple, Optional, Sequence, Tuple, Type, TypeVar
 
 from .codes import Code, Kind
 from .creation_results import CreationResult
 from .errors import CodeError
-from .functions import c
+from .functions import c, registry
 from .handles import Handle, HandleSequence
 from .mutable import MutableStyle
 from .styles import StoredStyle, SystemStyle, UserStyle
@@ -61,7 +60,6 @@ class StyleSet(HandleSequence[S], Generic[S]):
 
 # The living managers by their addresses: an application identifier has one.
 _managers: Dict[int, Manager] = {}
-_lock = threading.Lock()
 
 
 class Manager(Handle):
@@ -90,10 +88,11 @@ class Manager(Handle):
                 system_directories: Iterable[PathLike] = (),
                 user_directories: Iterable[PathLike] = ()) -> Manager:
         code = ctypes.c_int(Code.OK)
-        with _lock:
-            address = c.CreateStyleManager(
-                encode(app_id), encode_path(system_directory), encode_path(user_directory),
-                *_path_array(system_directories), *_path_array(user_directories), ctypes.byref(code))
+        arguments = (encode(app_id), encode_path(system_directory), encode_path(user_directory),
+                     *_path_array(system_directories), *_path_array(user_directories), ctypes.byref(code))
+        create = c.CreateStyleManager
+        with registry:
+            address = create(*arguments)
             if not address:
                 raise CodeError(code.value, _subject(code.value, system_directory, user_directory))
             if address not in _managers or _managers[address].ended:
@@ -119,7 +118,7 @@ class Manager(Handle):
     def close(self) -> None:
         """Destroys the manager with all that it owns; using any of it raises EndedError from now on. Without
         effect when that was done already. May be called from any thread that does not use the manager."""
-        with _lock:
+        with registry:
             if not self.ended:
                 self._destroy(c.StyleManager_destroy, "its manager was closed")
                 del _managers[self._address]

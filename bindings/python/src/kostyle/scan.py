@@ -19,7 +19,7 @@ from typing import Dict, Iterable, Iterator, List
 
 from .codes import Code
 from .errors import CodeError
-from .functions import c
+from .functions import c, registry
 from .records import FileRecord, Refusal, read_refusal, read_style
 from .text import PathLike, decode, encode, encode_path, several
 
@@ -107,14 +107,16 @@ def _scan_round(records: List[FileRecord]) -> Dict[str, List[FileRecord]]:
 def _manager(folder: str) -> Iterator[int]:
     path = encode_path(folder)
     code = ctypes.c_int(Code.OK)
-    manager = c.CreateStyleManager(encode(f"{PREFIX}{uuid.uuid4()}"), path, path, None, 0, None, 0,
-                                   ctypes.byref(code))
+    create = c.CreateStyleManager
+    with registry:
+        manager = create(encode(f"{PREFIX}{uuid.uuid4()}"), path, path, None, 0, None, 0, ctypes.byref(code))
     if not manager:
         raise CodeError(code.value, folder)
     try:
         yield manager
     finally:
-        c.StyleManager_destroy(manager)
+        with registry:
+            c.StyleManager_destroy(manager)
 
 
 @contextlib.contextmanager
