@@ -71,4 +71,5 @@ This package has the module kostyle for Python 3.")
   install(DIRECTORY ${pythonSources}/src/kostyle/ DESTINATION ${pythonFolder} COMPONENT python
           FILES_MATCHING PATTERN "*.py" PATTERN py.typed PATTERN __pycache__ EXCLUDE)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/package-python/codes.py DESTINATION ${pythonFolder} COMPONENT python)
+  install(FILES ${pythonSources}/README.md DESTINATION share/doc/python3-kostyle COMPONENT python)
 endif()

@@ -49,7 +49,8 @@ def check_folder(packages, source, compiler, folder):
         run(["dpkg-deb", "-x", package, root])
     tree = root / "usr"
     require(tree, ["include/kostyle/kostyle.h", "share/man/man1/kostyle.1.gz", "share/kostyle/kostyle.schema.json",
-                   "share/doc/libkostyle1/copyright", "share/doc/libkostyle-dev/docs/format.md"])
+                   "share/doc/libkostyle1/copyright", "share/doc/libkostyle-dev/docs/format.md",
+                   "share/doc/python3-kostyle/README.md", "lib/python3/dist-packages/kostyle/py.typed"])
     hosts = Hosts(source, compiler, "", [], folder)
     library = next(tree.glob("lib/*/libKoStyle.so.1")).parent
     # As the loader finds it by itself in a system.
