@@ -2,7 +2,9 @@
 import contextlib
 import gc
 import pickle
+import signal
 import threading
+import unittest
 from typing import Any, Callable, Iterator, List
 from unittest import mock
 
@@ -188,6 +190,21 @@ class InterruptedTest(StyleTest):
 
     def test_closing(self) -> None:
         self.expect_ended("StyleManager_destroy", self.manager.close, self.manager, self.style, self.made)
+
+    @unittest.skipUnless(hasattr(signal, "setitimer"), "there are no timers")
+    def test_closing_by_a_handler_of_signals(self) -> None:
+        destroy = c.StyleManager_destroy
+
+        def destroy_and_be_interrupted(manager: int) -> None:
+            destroy(manager)
+            signal.raise_signal(signal.SIGALRM)
+
+        before = signal.signal(signal.SIGALRM, lambda *_: self.manager.close())
+        self.addCleanup(signal.signal, signal.SIGALRM, before)
+        with self.make_manager("another") as other, mock.patch.object(c, "StyleManager_destroy",
+                                                                      destroy_and_be_interrupted):
+            other.close()
+        self.assertTrue(self.manager.ended)
 
     def test_only_when_it_is_not_refused(self) -> None:
         nameless = self.manager.create_mutable_style()

@@ -209,8 +209,8 @@ def _bind(library: ctypes.CDLL) -> Dict[str, Callable[..., Any]]:
 
 c = Functions()
 
-registry = threading.Lock()
+registry = threading.RLock()
 """Held while a manager is created or destroyed, for which the library takes a lock of its own; and while the process
-forks, since the new process would inherit that lock from a thread that it does not have."""
+forks, since the new process would inherit that lock from a thread that it does not have. A handler of signals may close a manager while it is held."""
 if hasattr(os, "register_at_fork"):
     os.register_at_fork(before=registry.acquire, after_in_parent=registry.release, after_in_child=registry.release)
