@@ -24,6 +24,8 @@ except ImportError:
 
 HERE = pathlib.Path(__file__).resolve().parent
 SOURCE = HERE.parent.parent
+if not (SOURCE / "include" / "kostyle").is_dir():
+    sys.exit(f"{HERE} is no checkout: the library's sources are missing (pip before 21.3 copies this folder alone)")
 sys.path.insert(0, str(HERE))
 sys.dont_write_bytecode = True
 import generate  # noqa: E402

@@ -9,6 +9,7 @@ running it.
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -84,7 +85,14 @@ class Check:
             tag = archive.read(f"kostyle-{self.version}.dist-info/WHEEL").decode()
             expect("Root-Is-Purelib: false" in tag, tag)
 
+    def expect_refusal_elsewhere(self):
+        """Without the library's sources nothing can be built, which is said."""
+        alone = shutil.copytree(self.project, self.folder / "alone" / "bindings" / "python")
+        done = subprocess.run([sys.executable, "setup.py", "--version"], cwd=alone, text=True, capture_output=True)
+        expect(done.returncode and "is no checkout" in done.stderr and "Traceback" not in done.stderr, done.stderr)
+
     def checkout(self):
+        self.expect_refusal_elsewhere()
         # The quickest of CMake's builds, in a few large units, since it is the wheel that is tried.
         wheel = self.built_wheel(CMAKE_BUILD_TYPE="Debug", CMAKE_GENERATOR="Ninja", CXXFLAGS="-g0",
                                  CMAKE_ARGS="-DCMAKE_UNITY_BUILD=ON")
