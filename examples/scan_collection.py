@@ -3,16 +3,15 @@
 
 usage: scan_collection.py [--scheduler ADDRESS] [--batch FILES] TABLE PATH...
 
-A PATH is a style file, or a folder whose `.kostyle` files are read, in it and below (not behind links to folders); `-`
-reads paths from the standard input, one a line. TABLE, which is replaced, ends in `.csv`, or in `.parquet` where pyarrow is installed. Needs Dask (dask and
-distributed). Without --scheduler the work is done by processes of this machine; on a cluster, kostyle has to be
-installed on the workers, and they have to see the files under the same paths.
+A PATH is a style file, or a folder whose `.kostyle` files are read, in it and below, though not behind links to folders;
+`-` reads paths from the standard input, one a line. TABLE, which is replaced, ends in `.csv`, or in `.parquet` where
+pyarrow is installed. Needs Dask (dask and distributed). Without --scheduler the work is done by processes of this
+machine; on a cluster, kostyle has to be installed on the workers, and they have to see the files under the same paths.
 
 The table has a row for each file, in no order. A file that was refused or could not be read has the reason in its row;
-so has a folder that cannot be listed. Texts are those of the files: a program that takes some of them for formulas has to
-be told not to.
-When a worker dies its work is done by another; a batch that several workers died of is divided until the one file
-that did it is found, and has its row too. The exit code is 0 when every file has its row.
+so has a folder that cannot be listed. Texts are those of the files: a program that takes some of them for formulas has
+to be told not to. When a worker dies its work is done by another; a batch that several workers died of is divided
+until the one file that did it is found, and has its row too. The exit code is 0 when every file has its row.
 """
 import argparse
 import contextlib

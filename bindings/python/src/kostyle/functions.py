@@ -211,6 +211,7 @@ c = Functions()
 
 registry = threading.RLock()
 """Held while a manager is created or destroyed, for which the library takes a lock of its own; and while the process
-forks, since the new process would inherit that lock from a thread that it does not have. A handler of signals may close a manager while it is held."""
+forks, since the new process would inherit that lock from a thread that it does not have. A handler of signals may
+close a manager while it is held."""
 if hasattr(os, "register_at_fork"):
     os.register_at_fork(before=registry.acquire, after_in_parent=registry.release, after_in_child=registry.release)
