@@ -40,7 +40,7 @@ class ProblemFinder {
   template <class AnyStyle>
   void look(AnyStyle style) {
     if (style.name().empty()) add(ProblemKind::nameMissing, "name");
-    lookAtText("name", style.name());
+    lookAtText({"name"}, style.name());
     lookAtList("singerGroups", style.singerGroups());
     lookAtList("singerIDs", style.singerIDs());
     lookAtList("genres", style.genres());
@@ -56,33 +56,47 @@ class ProblemFinder {
   Problems take() noexcept { return std::move(problems_); }
 
  private:
-  void lookAtText(const std::string& where, Text text) {
+  // Where something is, made only for a problem: what lies in front of many problems may be long.
+  struct Place {
+    const char* list;
+    Text first = {};
+    Text second = {};
+
+    operator std::string() const {
+      std::string where = list;
+      for (const Text step : {first, second})
+        if (!step.empty()) where += '/' + step.utf8();
+      return where;
+    }
+  };
+
+  void lookAtText(const Place& where, Text text) {
     if (hasLoneSurrogate(text.native())) add(ProblemKind::loneSurrogate, where);
   }
 
   template <class List>
-  void lookAtList(const std::string& name, const List& list) {
-    for (const Text text : list) lookAtText(name + '/' + text.utf8(), text);
+  void lookAtList(const char* name, const List& list) {
+    for (const Text text : list) lookAtText({name, text}, text);
   }
 
   template <class Chain>
-  void lookAtChain(const std::string& name, const Chain& chain) {
+  void lookAtChain(const char* name, const Chain& chain) {
     for (const auto effect : chain) {
-      const std::string where = name + '/' + effect.id().utf8();
+      const Place where = {name, effect.id()};
       lookAtText(where, effect.id());
       if (effect.parameters().empty()) add(ProblemKind::effectWithoutParameters, where);
-      lookAtParameters(where, effect);
+      lookAtParameters(name, effect);
     }
   }
 
   template <class AnyEffect>
-  void lookAtParameters(const std::string& effectPlace, AnyEffect effect) {
+  void lookAtParameters(const char* chain, AnyEffect effect) {
     // A stored effect's are told apart by what may stand behind a U+0000, which does not show.
     constexpr bool mayRepeat = std::is_base_of_v<MutableEffect, AnyEffect>;
     std::set<TextView> names;
     for (const Parameter parameter : effect.parameters()) {
       hasEffect_ = true;
-      const std::string where = effectPlace + '/' + parameter.name().utf8();
+      const Place where = {chain, effect.id(), parameter.name()};
       const Text name = nameAsRead(parameter.name());
       if (name != parameter.name()) add(ProblemKind::parameterRenamed, where);
       if (mayRepeat && !names.insert(name.native()).second) add(ProblemKind::parameterRepeated, where);
@@ -91,7 +105,7 @@ class ProblemFinder {
     }
   }
 
-  void lookAtValue(const std::string& where, const ParameterValue& value) {
+  void lookAtValue(const Place& where, const ParameterValue& value) {
     if (const float* const number = std::get_if<float>(&value)) {
       if (std::isinf(*number)) add(ProblemKind::infinite, where);
       if (std::isnan(*number)) add(ProblemKind::notANumber, where);
