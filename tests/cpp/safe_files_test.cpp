@@ -63,6 +63,29 @@ TEST_F(CppBackup, IsRemovedWhenItIsNotNeeded) {
   EXPECT_THAT(entryNames(directory.path()), ElementsAre("f"));
 }
 
+TEST_F(CppBackup, OfAFileThatWasNotReplacedIsGivenUp) {
+  {
+    Backup backup(file);
+    backup.giveUp();
+    EXPECT_THAT(entryNames(directory.path()), ElementsAre("f"));
+    test::writeFile(file, "changed by somebody else");
+  }
+  EXPECT_EQ(test::readFile(file), "changed by somebody else");
+  Backup backup(file);
+  fs::remove(file);
+  backup.giveUp();
+  EXPECT_EQ(test::readFile(file), "changed by somebody else");
+  EXPECT_THAT(entryNames(directory.path()), ElementsAre("f"));
+}
+
+TEST_F(CppBackup, TakesNoNameThatSomethingHas) {
+  test::writeFile(directory / "g", "of somebody else");
+  EXPECT_EQ(kostyle::detail::linkOrCopy(file, directory / "g"), std::errc::file_exists);
+  EXPECT_EQ(kostyle::detail::linkOrCopy(directory / "missing", directory / "g"),
+            std::errc::no_such_file_or_directory);
+  EXPECT_EQ(test::readFile(directory / "g"), "of somebody else");
+}
+
 TEST_F(CppBackup, OfAMissingFileIsNone) {
   fs::remove(file);
   Backup backup(file);

@@ -1,4 +1,5 @@
 // Saving and overwriting with care, where the file system does what it is asked.
+#include <fstream>
 #include <limits>
 
 #include "cpp/cpp_host.h"
@@ -217,6 +218,48 @@ TEST_F(CppSafeOverwrite, SaysWhenTheFileIsGoneOrNone) {
   EXPECT_TRUE(host.manager.has(style));
   EXPECT_THAT(entryNames(host.user), ElementsAre("u.kostyle"));
 }
+
+// As by a plain overwrite: elsewhere the directory decides whether a file may be replaced.
+TEST_F(CppSafeOverwrite, RefusesAReadOnlyFileOnWindows) {
+  fs::permissions(host.user / "u.kostyle", fs::perms::owner_read);
+  const SafeSaveResult saved = safeOverwrite(host.createMutableStyle(), target);
+  EXPECT_THAT(entryNames(host.user), ElementsAre("u.kostyle"));
+#if defined(_WIN32)
+  ASSERT_EQ(saved.problems.size(), 1U);
+  EXPECT_EQ(saved.problems[0].kind, Kind::notReplaceable);
+  EXPECT_EQ(saved.problems[0].cause, std::errc::permission_denied);
+  EXPECT_EQ(host.bytes("u"), test::document("u", "Old"));
+  fs::permissions(host.user / "u.kostyle", fs::perms::all);
+#else
+  EXPECT_TRUE(saved);
+#endif
+}
+
+TEST_F(CppSafeOverwrite, RefusesAFileThatIsHeldOpenOnWindows) {
+  const std::ifstream held(host.user / "u.kostyle");
+  const SafeSaveResult saved = safeOverwrite(host.createMutableStyle(), target);
+  EXPECT_THAT(entryNames(host.user), ElementsAre("u.kostyle"));
+#if defined(_WIN32)
+  ASSERT_EQ(saved.problems.size(), 1U);
+  EXPECT_EQ(saved.problems[0].kind, Kind::notReplaceable);
+  EXPECT_TRUE(saved.problems[0].cause);
+  EXPECT_EQ(host.bytes("u"), test::document("u", "Old"));
+#else
+  EXPECT_TRUE(saved);
+#endif
+}
+
+#if !defined(_WIN32)
+TEST_F(CppSafeOverwrite, ReplacesASymbolicLinkAndLeavesWhatItLeadsTo) {
+  const fs::path linked = host.directory / "linked";
+  fs::rename(host.user / "u.kostyle", linked);
+  fs::create_symlink(linked, host.user / "u.kostyle");
+  EXPECT_TRUE(safeOverwrite(host.createMutableStyle(), target));
+  EXPECT_FALSE(fs::is_symlink(host.user / "u.kostyle"));
+  EXPECT_EQ(test::readFile(linked), test::document("u", "Old"));
+  EXPECT_THAT(entryNames(host.user), ElementsAre("u.kostyle"));
+}
+#endif
 
 TEST_F(CppSafeOverwrite, ServesStylesOfFurtherDirectories) {
   const fs::path further = host.directory.folder("further");

@@ -61,7 +61,8 @@ bool sameContent(StyleA a, StyleB b) {
 // and in that the style as reading its file should give it.
 class Rehearsal {
  public:
-  explicit Rehearsal(MutableStyle style) : folder_(style.manager().userDirectory()) {
+  explicit Rehearsal(MutableStyle style)
+      : folder_(style.manager().userDirectory()), place_(folder_.path() / "written.kostyle") {
     const std::filesystem::path& folder = folder_.path();
     if (folder_.error()) {
       add(ProblemKind::folderFailed, style.manager().userDirectory(), folder_.error());
@@ -74,28 +75,37 @@ class Rehearsal {
     }
   }
 
+  Rehearsal(const Rehearsal&) = delete;
+  Rehearsal& operator=(const Rehearsal&) = delete;
+  ~Rehearsal() {
+    if (folder_.error()) return;
+    removeQuietly(place_);
+    removeQuietly(written_);
+  }
+
   // The style, to be copied; valid as long as this object.
   MutableStyle expected() const noexcept { return expected_; }
 
-  // Whether the style can be written and read again. `written` is its file then, in a place of no account.
-  bool write(Layout layout, std::filesystem::path& written) {
+  // Whether the style can be written and read again; written() is its file then, in a place of no account.
+  bool write(Layout layout) {
     if (!problems_.empty()) return false;
     OwnedMutableStyle copy(manager_);
     StyleCopier(copy.get(), StyleCopier::Form::asRead).copy(expected_);
     const Result<UserStyle> saved = copy.get().save(layout);
     if (!saved) return add(ProblemKind::refused, folder_.path(), {}, saved.code());
     copy.release();
-    written = saved->path();
-    return readBack({}, written);
+    written_ = saved->path();
+    return readBack({}, written_);
   }
+
+  const std::filesystem::path& written() const noexcept { return written_; }
 
   // Whether a file gives the style and, unless it is empty, an identifier.
   bool gives(const std::filesystem::path& file, Text id) {
-    const std::filesystem::path place = folder_.path() / "written.kostyle";
-    if (const std::error_code error = linkOrCopy(file, place))
+    if (const std::error_code error = linkOrCopy(file, place_))
       return add(ProblemKind::notReadBack, file, error);
     const bool same = readBack(id, file);
-    removeQuietly(place);
+    removeQuietly(place_);
     return same;
   }
 
@@ -118,6 +128,8 @@ class Rehearsal {
   }
 
   ScratchFolder folder_;
+  std::filesystem::path place_;    // of what is read again
+  std::filesystem::path written_;  // empty when nothing was
   Manager manager_{nullptr};
   MutableStyle expected_;
   Problems problems_;

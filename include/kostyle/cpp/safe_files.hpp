@@ -8,6 +8,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <new>
 #include <string>
 #include <system_error>
 
@@ -38,18 +39,21 @@ inline void removeQuietly(const std::filesystem::path& path) noexcept {
   std::filesystem::remove(path, ignored);
 }
 
-// A second name of a file, or where the file system has none or needs one, a copy.
+// A second name of a file, or where the file system has none or needs one, a copy. What has the name
+// already stays.
 inline std::error_code linkOrCopy(const std::filesystem::path& from, const std::filesystem::path& to) {
   std::error_code error;
   std::filesystem::create_hard_link(from, to, error);
-  if (!error) return error;
+  if (!error || error == std::errc::file_exists || error == std::errc::no_such_file_or_directory)
+    return error;
   error.clear();
   std::filesystem::copy_file(from, to, error);
-  if (error) removeQuietly(to);
+  if (error && error != std::errc::file_exists) removeQuietly(to);
   return error;
 }
 
-// A folder that is removed with all that was put into it.
+// A folder that is removed at the end. Who puts files into it removes them; what is left goes too, unless
+// memory runs out or a path is too long to be listed.
 class ScratchFolder {
  public:
   // In a directory that is made when it is missing. When error() is set there is no folder.
@@ -63,8 +67,15 @@ class ScratchFolder {
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;
   ~ScratchFolder() {
-    std::error_code ignored;
-    if (!error_) std::filesystem::remove_all(path_, ignored);
+    if (error_) return;
+    std::error_code error;
+    std::filesystem::remove(path_, error);
+    if (!error) return;
+    try {
+      std::filesystem::remove_all(path_, error);
+    } catch (const std::bad_alloc&) {
+      // The folder stays, as after a process that is killed.
+    }
   }
 
   std::error_code error() const noexcept { return error_; }
@@ -107,6 +118,17 @@ class Backup {
     // When both were names of one file still, the renaming did nothing.
     if (!error) removeQuietly(path_);
     return error;
+  }
+
+  // For when the file was not replaced. It is put back only if somebody else took it away.
+  void giveUp() noexcept {
+    std::error_code error;
+    const auto type = std::filesystem::symlink_status(file_, error).type();
+    if (type == std::filesystem::file_type::not_found) {
+      restore();
+    } else {
+      discard();
+    }
   }
 
   void discard() noexcept {

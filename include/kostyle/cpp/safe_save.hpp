@@ -5,8 +5,8 @@
  * the style first, write it into a folder of their own in the user style directory and read it again, and
  * only then save; what was saved is read again too. So what they report as saved is in its file, and what
  * was there before stays when anything goes wrong. Files are written through to the system, not to the
- * device: what the system loses when it crashes is not watched. Each call creates and destroys a manager, so
- * HasStyleManager() must not run meanwhile.
+ * device: what the system loses when it crashes is not watched, nor what other processes do with the same
+ * file meanwhile. Each call creates and destroys a manager, so HasStyleManager() must not run meanwhile.
  */
 #ifndef KOSTYLE_CPP_SAFE_SAVE_HPP
 #define KOSTYLE_CPP_SAFE_SAVE_HPP
@@ -65,13 +65,27 @@ inline SafeSaveResult notSaved(Problem problem) {
   return result;
 }
 
+// Whether a style's file can be replaced, as far as that shows without touching it.
+inline std::error_code whyNotReplaceable(const std::filesystem::path& file) {
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(file, error);
+  if (error) return error;
+  if (status.type() != std::filesystem::file_type::regular)
+    return std::make_error_code(std::errc::no_such_file_or_directory);
+#if defined(_WIN32)
+  // What is read-only or held open cannot be deleted there. Renaming a file to itself asks about the second.
+  if ((status.permissions() & std::filesystem::perms::owner_write) == std::filesystem::perms::none)
+    return std::make_error_code(std::errc::permission_denied);
+  std::filesystem::rename(file, file, error);
+#endif
+  return error;
+}
+
 // Whether a new file can be moved to where a style's file is; it is tried beside that.
 inline std::error_code tryReplacing(const std::filesystem::path& written,
                                     const std::filesystem::path& file) {
-  std::error_code error;
-  const bool isFile = std::filesystem::is_regular_file(file, error);
+  std::error_code error = whyNotReplaceable(file);
   if (error) return error;
-  if (!isFile) return std::make_error_code(std::errc::no_such_file_or_directory);
   const std::filesystem::path beside = file.parent_path() / freshName("kostyle-safe-");
   std::filesystem::rename(written, beside, error);
   if (!error) removeQuietly(beside);
@@ -107,7 +121,10 @@ inline SafeSaveResult overwriteRehearsed(Rehearsal& rehearsal, UserStyle target,
   StyleCopier(copy.get(), StyleCopier::Form::asRead).copy(rehearsal.expected());
 
   const Result<UserStyle> saved = copy.get().overwrite(target, layout);
-  if (!saved) return refusedSave(saved.code());
+  if (!saved) {
+    backup.giveUp();
+    return refusedSave(saved.code());
+  }
   copy.release();
   if (rehearsal.gives(file, target.id())) {
     backup.discard();
@@ -125,14 +142,15 @@ inline SafeSaveResult overwriteRehearsed(Rehearsal& rehearsal, UserStyle target,
 
 /**
  * Saves a mutable style as MutableStyle::save() does, or says why not and leaves everything as it was: no
- * file, and the mutable style with its effects and parameters. On success it is destroyed.
+ * file, and the mutable style with its effects and parameters; only the user directory may exist now. On
+ * success the mutable style is destroyed.
  *
  * Problems are those of findProblems(); `folderFailed`; `refused` with what MutableStyle::save() gives;
  * `notReadBack` and `readBackDiffers` when the file that was tried or saved is not what it should be, as on
  * a full disk; `notRestored` after these two when the new file could not be deleted.
  *
  * In the user style directory stands meanwhile a folder "kostyle-safe-..." with a file in it, which reading
- * passes over; a process that is killed leaves it. Where paths are limited its file has the longest, about
+ * passes over; a process that is killed or has no memory may leave it. Where paths are limited its file has the longest, about
  * forty units longer than the style's. When memory runs out after the style was saved, it stays saved, and so
  * does the mutable style.
  */
@@ -142,9 +160,8 @@ inline SafeSaveResult safeSave(MutableStyle style, const SafeSaveOptions& option
   if (detail::stops(problems, options)) return {{}, std::move(problems)};
 
   detail::Rehearsal rehearsal(style);
-  std::filesystem::path written;
-  if (!rehearsal.write(options.layout, written)) return {{}, rehearsal.takeProblems()};
-  detail::removeQuietly(written);
+  if (!rehearsal.write(options.layout)) return {{}, rehearsal.takeProblems()};
+  detail::removeQuietly(rehearsal.written());
   SafeSaveResult result = detail::saveRehearsed(rehearsal, style.manager(), options.layout);
   if (!result) return result;
   style.destroy();
@@ -156,17 +173,24 @@ inline SafeSaveResult safeSave(MutableStyle style, const SafeSaveOptions& option
  * Overwrites a user style as MutableStyle::overwrite() does, or says why not and leaves the old file as it
  * was. On success the mutable style is destroyed, and what stays and ends of the user style is as there.
  *
- * Problems are those of findProblems() and safeSave(); `vendorLost` when the user style has a vendor text;
- * `notReplaceable` when its file is missing, or a new one cannot be moved to its place, as where that is on
- * another file system than the user style directory; `backupFailed`; `refused` with what
- * MutableStyle::overwrite() gives. In all these cases nothing has changed. Only when the file is spoiled
- * after it could be written and read a moment before, `notReadBack` and `readBackDiffers` mean that the
- * style was overwritten and put back: what an overwrite ends has ended then, and the style in memory is as
- * it was as far as createMutableCopy() copies it; reading the set again makes it so altogether. When even the
- * file cannot be put back, `notRestored` says where the old one is kept.
+ * Problems are those of findProblems() and safeSave(); `vendorLost` when the user style has a vendor text,
+ * which it keeps in memory until its set is read again, even if the file has lost it; `notReplaceable` when
+ * its file is missing, on Windows also when it is read-only or held open, or when a new one cannot be moved
+ * to its place, as where that is on another file system than the user style directory; `backupFailed`;
+ * `refused` with what MutableStyle::overwrite() gives. In all these cases nothing has changed, but that the
+ * user directory may exist now.
  *
- * Beside the file stands meanwhile another one, "kostyle-backup-...", which a process that is killed leaves:
- * it is the old file. When it is a renaming that failed, the new file stays in the user style directory as
+ * Only when the file is spoiled after it could be written and read a moment before, `notReadBack` and
+ * `readBackDiffers` mean that the style was overwritten and put back: what an overwrite ends has ended then,
+ * and the style in memory is as it was as far as createMutableCopy() copies it; reading the set again makes
+ * it so altogether. When even the file cannot be put back, `notRestored` says where the old one is kept. When
+ * memory runs out after the style was overwritten, the old file is put back and the mutable style stays, but
+ * the user style in memory is the new one until its set is read again.
+ *
+ * A symbolic link in the file's place is replaced as the file would be; what it leads to stays as it is.
+ *
+ * Beside the file stands meanwhile another one, "kostyle-backup-...", which a process that is killed leaves,
+ * or a system that refuses to delete it: it is the old file. When it is a renaming that failed, the new file stays in the user style directory as
  * after MutableStyle::overwrite(), under a UUID without extension.
  */
 inline SafeSaveResult safeOverwrite(MutableStyle style, UserStyle target,
@@ -178,10 +202,9 @@ inline SafeSaveResult safeOverwrite(MutableStyle style, UserStyle target,
   if (detail::stops(problems, options)) return {{}, std::move(problems)};
 
   detail::Rehearsal rehearsal(style);
-  std::filesystem::path written;
-  if (!rehearsal.write(options.layout, written)) return {{}, rehearsal.takeProblems()};
+  if (!rehearsal.write(options.layout)) return {{}, rehearsal.takeProblems()};
   const std::filesystem::path file = target.path();
-  if (const std::error_code error = detail::tryReplacing(written, file))
+  if (const std::error_code error = detail::tryReplacing(rehearsal.written(), file))
     return detail::notSaved({ProblemKind::notReplaceable, detail::shownPath(file), KOSTYLE_OK, error});
   SafeSaveResult result = detail::overwriteRehearsed(rehearsal, target, options.layout);
   if (!result) return result;
