@@ -19,7 +19,7 @@ static_assert(areLight<Style, StoredStyle, SystemStyle, UserStyle, MutableStyle>
 static_assert(areLight<Effect, StoredEffect, AudioEffect, MidiEffect>);
 static_assert(areLight<MutableEffect, MutableAudioEffect, MutableMidiEffect>);
 static_assert(areLight<Parameter, StoredParameter, MutableParameter>);
-static_assert(areLight<CreationResult, ManagerView, Text>);
+static_assert(areLight<CreationResult, ManagerView, PropertyEditor, Text>);
 static_assert(areLight<SystemStyles, UserStyles, SystemCreationResults, UserCreationResults>);
 static_assert(areLight<AudioEffects, MidiEffects, MutableAudioEffects, MutableMidiEffects>);
 static_assert(areLight<StoredParameters, MutableParameters, decltype(UserStyle().genres())>);
@@ -28,8 +28,6 @@ static_assert(sizeof(Manager) == sizeof(void*));
 static_assert(std::is_nothrow_move_constructible_v<Manager> &&
               std::is_nothrow_move_assignable_v<Manager>);
 static_assert(!std::is_copy_constructible_v<Manager> && !std::is_copy_assignable_v<Manager>);
-static_assert(!std::is_copy_constructible_v<PropertyEditor> &&
-              !std::is_move_assignable_v<PropertyEditor>);
 
 // The kinds turn into more general ones, and into no others.
 template <class From, class To>

@@ -1,6 +1,4 @@
-// The property editor, which ends with its object.
-#include <utility>
-
+// The property editor, which its style owns.
 #include "cpp/cpp_host.h"
 
 namespace {
@@ -24,23 +22,34 @@ TEST(CppPropertyEditor, ReplacesNameSubGenresAndColours) {
   EXPECT_NE(host.bytes("w").find("\"Edited\""), std::string::npos);
 }
 
-TEST(CppPropertyEditor, EndsWithItsObject) {
+TEST(CppPropertyEditor, StaysUntilItsEndOrTheNextOne) {
   const test::CppHost host;
   const UserStyle style = host.addUserStyle("u");
-  {
-    kostyle::PropertyEditor editor = style.edit();
-    editor.setName("First");
-    kostyle::PropertyEditor moved = std::move(editor);
-    EXPECT_FALSE(editor.setName("x"));
-    EXPECT_TRUE(moved.addColor("c"));
-    EXPECT_FALSE(moved.addColor("c"));
-  }
+  style.edit().setName("First");
+  const kostyle::PropertyEditor next = style.edit();
+  EXPECT_FALSE(next.save());
+  EXPECT_TRUE(next.setName("Next"));
+  EXPECT_TRUE(kostyle::PropertyEditor(next).save());
+  EXPECT_EQ(style.name(), "Next");
+  style.endEdit();
+  style.endEdit();
   EXPECT_FALSE(style.edit().save());
+}
+
+TEST(CppPropertyEditor, EndsWithItsStyle) {
+  const test::CppHost host;
+  const UserStyle style = host.addUserStyle("u");
+  const kostyle::PropertyEditor editor = style.edit();
+  EXPECT_TRUE(editor.setName("x"));
+  EXPECT_TRUE(style.remove());
+  EXPECT_TRUE(host.manager.userStyles().empty());
 }
 
 TEST(CppPropertyEditor, OfAnEmptyViewDoesNothing) {
   const kostyle::PropertyEditor editor = UserStyle().edit();
+  EXPECT_FALSE(editor);
   EXPECT_FALSE(editor.setName("x") || editor.addSubGenre("x") || editor.addColor("x") || editor.save());
+  UserStyle().endEdit();
 }
 
 }  // namespace

@@ -4,11 +4,10 @@
 #ifndef KOSTYLE_CPP_PROPERTY_EDITOR_HPP
 #define KOSTYLE_CPP_PROPERTY_EDITOR_HPP
 
-#include <utility>
-
 #include "../property_editor.h"
 #include "style.hpp"
 #include "text.hpp"
+#include "view.hpp"
 
 namespace kostyle {
 
@@ -16,23 +15,17 @@ namespace kostyle {
  * Collects a name, sub-genres and colours, and writes the style back to its own file. It starts empty: what
  * the style has is replaced, not extended. UserStyle::edit() makes one.
  *
- * The editor ends with its object. A style has one editor at a time, so another one of the same style ends
- * this one; and the object must be gone before the style is removed, its set is read again or its manager
- * is destroyed.
+ * The style owns it, and has one at a time: it ends with the next UserStyle::edit() of the style, with
+ * UserStyle::endEdit(), and with the style, as when that is removed or its set is read again.
  *
  * What writes the file takes no care: a full disk or a style that holds what cannot be written spoils it
  * without an error, and the vendor text is lost. findProblems() tells of the second before; a host that
  * wants all care makes a mutable copy of the style and overwrites it by safeOverwrite().
  */
-class PropertyEditor {
+class PropertyEditor : public View<KoStylePropertyEditor> {
  public:
-  /** Takes over an editor; the other object has none then. */
-  PropertyEditor(PropertyEditor&& other) noexcept
-      : style_(std::exchange(other.style_, {})), editor_(std::exchange(other.editor_, nullptr)) {}
-  PropertyEditor(const PropertyEditor&) = delete;
-  PropertyEditor& operator=(const PropertyEditor&) = delete;
-  /** Destroys the editor with what it collected. */
-  ~PropertyEditor() { UserStyle_destroyPropertyEditor(style_.handle()); }
+  /** Empty, or of a handle, as View. */
+  using View::View;
 
   /**
    * Sets the name to be given to the style, in place of one that was set before.
@@ -41,17 +34,17 @@ class PropertyEditor {
    * @return true; false when the name is empty.
    */
   bool setName(const TextArgument& name) const {
-    return PropertyEditor_setStyleName(editor_, name.c_str());
+    return PropertyEditor_setStyleName(handle(), name.c_str());
   }
 
   /** Adds a sub-genre; false when it is empty or in the editor already. */
   bool addSubGenre(const TextArgument& subGenre) const {
-    return PropertyEditor_addSubGenre(editor_, subGenre.c_str());
+    return PropertyEditor_addSubGenre(handle(), subGenre.c_str());
   }
 
   /** Adds a colour; false when it is empty or in the editor already. */
   bool addColor(const TextArgument& color) const {
-    return PropertyEditor_addColor(editor_, color.c_str());
+    return PropertyEditor_addColor(handle(), color.c_str());
   }
 
   /**
@@ -63,18 +56,12 @@ class PropertyEditor {
    *         cannot be opened: then the file stays as it is, and so does the style, but for one that had no
    *         name, which keeps the new one.
    */
-  bool save() const { return PropertyEditor_save(editor_, true); }
-
- private:
-  friend class UserStyle;
-  explicit PropertyEditor(UserStyle style)
-      : style_(style), editor_(UserStyle_createPropertyEditor(style.handle())) {}
-
-  UserStyle style_;
-  KoStylePropertyEditor* editor_;
+  bool save() const { return PropertyEditor_save(handle(), true); }
 };
 
-inline PropertyEditor UserStyle::edit() const { return PropertyEditor(*this); }
+inline PropertyEditor UserStyle::edit() const {
+  return PropertyEditor(UserStyle_createPropertyEditor(handle()));
+}
 
 }  // namespace kostyle
 

@@ -116,8 +116,11 @@ class UserStyle : public StoredStyle {
    */
   Result<void> remove() const noexcept { return Error(UserStyle_remove(handle())); }
 
-  /** Makes a property editor of the style, empty; see PropertyEditor. */
+  /** Makes a property editor of the style, empty; one that the style had ends. Empty for an empty view. */
   PropertyEditor edit() const;
+
+  /** Destroys the style's property editor, if it has one, with what it collected. */
+  void endEdit() const noexcept { UserStyle_destroyPropertyEditor(handle()); }
 };
 
 inline StoredStyle StoredEffect::style() const noexcept { return StoredStyle(Effect_parent(handle())); }
