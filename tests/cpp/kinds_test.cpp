@@ -83,6 +83,10 @@ template <class View, class Value>
 using SetValue = decltype(std::declval<View>().setValue(std::declval<Value>()));
 template <class View, class Value>
 using AddValue = decltype(std::declval<View>().addParameter("x", std::declval<Value>()));
+template <class View, class Other>
+using Equal = decltype(std::declval<View>() == std::declval<Other>());
+template <class View, class Other>
+using Differ = decltype(std::declval<View>() != std::declval<Other>());
 template <class View>
 using SafeSave = decltype(safeSave(std::declval<View>()));
 template <class View, class Target>
@@ -123,8 +127,10 @@ static_assert(can<SetValue, MutableParameter, int> && can<SetValue, MutableParam
 static_assert(can<SetValue, MutableParameter, const char*> && can<SetValue, MutableParameter, Text>);
 static_assert(can<SetValue, MutableParameter, std::string> &&
               can<SetValue, MutableParameter, TextView>);
-static_assert(can<SetValue, MutableParameter, ParameterValue> &&
-              can<SetValue, MutableParameter, short>);
+static_assert(can<SetValue, MutableParameter, ParameterValue>);
+static_assert(!can<SetValue, MutableParameter, char> && !can<SetValue, MutableParameter, KoStyleChar>);
+static_assert(!can<SetValue, MutableParameter, short> &&
+              !can<SetValue, MutableParameter, std::nullptr_t>);
 static_assert(!can<SetValue, MutableParameter, double> && !can<SetValue, MutableParameter, bool>);
 static_assert(!can<SetValue, MutableParameter, long long> &&
               !can<SetValue, MutableParameter, unsigned>);
@@ -132,6 +138,14 @@ static_assert(!can<SetValue, StoredParameter, int> && !can<SetValue, MutablePara
 static_assert(can<AddValue, MutableAudioEffect, int> && can<AddValue, MutableAudioEffect, const char*>);
 static_assert(!can<AddValue, MutableAudioEffect, double> && !can<AddValue, MutableAudioEffect, bool>);
 static_assert(!can<AddValue, AudioEffect, int>);
+
+// Only what may be one object is compared.
+static_assert(can<Equal, UserStyle, UserStyle> && can<Differ, AudioEffect, AudioEffect>);
+static_assert(can<Equal, StoredStyle, UserStyle> && can<Equal, MutableStyle, Style>);
+static_assert(can<Equal, Manager, ManagerView> && can<Differ, Parameter, StoredParameter>);
+static_assert(!can<Equal, SystemStyle, UserStyle> && !can<Differ, MutableStyle, StoredStyle>);
+static_assert(!can<Equal, AudioEffect, MidiEffect> && !can<Equal, Style, Effect>);
+static_assert(!can<Equal, UserStyle, std::nullptr_t> && !can<Equal, UserStyle, KoStyleStyle*>);
 
 // Both kinds of text are taken, and a bare nullptr, which could be either, is not.
 static_assert(becomes<const char*, const TextArgument&> &&

@@ -114,9 +114,11 @@ class MutableParameter : public Parameter {
     std::visit([this](auto each) { setValue(each); }, value);
   }
 
-  /** A bool is no value; what is neither int nor float is converted by the host. */
-  template <class Bool, class = std::enable_if_t<std::is_same_v<Bool, bool>>>
-  void setValue(Bool) const = delete;
+  /** A bool, a character, a double, any number that is neither int nor float is converted by the host. */
+  template <class Number,
+            class = std::enable_if_t<std::is_arithmetic_v<Number> && !std::is_same_v<Number, int> &&
+                                     !std::is_same_v<Number, float>>>
+  void setValue(Number) const = delete;
 
   /** Takes the parameter out of its effect and destroys it; its handle and its texts end. */
   void destroy() const noexcept { MutableParameter_destroy(handle()); }

@@ -4,7 +4,19 @@
 #ifndef KOSTYLE_CPP_VIEW_HPP
 #define KOSTYLE_CPP_VIEW_HPP
 
+#include <type_traits>
+
 namespace kostyle {
+namespace detail {
+
+class AnyView {};
+
+// Whether views of the two types may refer to one object: one is the kind of the other or a more general one.
+template <class A, class B>
+inline constexpr bool areComparable = std::is_base_of_v<AnyView, A>&& std::is_base_of_v<AnyView, B> &&
+                                      (std::is_base_of_v<A, B> || std::is_base_of_v<B, A>);
+
+}  // namespace detail
 
 /**
  * A handle of the C interface with a type that says which kind it is of. It is as light as a pointer, and
@@ -15,7 +27,7 @@ namespace kostyle {
  * functions give for a null handle: empty texts, other empty views, false; ranges are empty.
  */
 template <class Handle>
-class View {
+class View : private detail::AnyView {
  public:
   /** Empty. */
   constexpr View() noexcept = default;
@@ -29,14 +41,23 @@ class View {
   /** Whether the view refers to an object. */
   constexpr explicit operator bool() const noexcept { return handle_ != nullptr; }
 
-  /** Whether two views refer to one object. */
-  friend constexpr bool operator==(View a, View b) noexcept { return a.handle_ == b.handle_; }
-  /** Whether they refer to different ones. */
-  friend constexpr bool operator!=(View a, View b) noexcept { return a.handle_ != b.handle_; }
-
  private:
   Handle* handle_ = nullptr;
 };
+
+/** Whether two views refer to one object. Views of kinds that exclude each other are not compared. */
+template <class A, class B>
+constexpr auto operator==(const A& a, const B& b) noexcept
+    -> std::enable_if_t<detail::areComparable<A, B>, bool> {
+  return a.handle() == b.handle();
+}
+
+/** Whether they refer to different ones. */
+template <class A, class B>
+constexpr auto operator!=(const A& a, const B& b) noexcept
+    -> std::enable_if_t<detail::areComparable<A, B>, bool> {
+  return !(a == b);
+}
 
 }  // namespace kostyle
 
