@@ -51,6 +51,12 @@ TEST(CppText, IsComparedWithTextsOfEveryKind) {
   EXPECT_TRUE(text != "a" && "a" != text && text != TextView(KOSTYLE_TEXT("a")) && !(text == Text()));
   EXPECT_TRUE(Text(KOSTYLE_TEXT("a")) < Text(KOSTYLE_TEXT("b")));
   EXPECT_FALSE(Text(KOSTYLE_TEXT("a")) < Text(KOSTYLE_TEXT("a")));
+  EXPECT_TRUE(Text(KOSTYLE_TEXT("b")) > Text(KOSTYLE_TEXT("a")));
+  EXPECT_FALSE(Text(KOSTYLE_TEXT("a")) > Text(KOSTYLE_TEXT("a")));
+  EXPECT_TRUE(Text(KOSTYLE_TEXT("a")) <= Text(KOSTYLE_TEXT("a")));
+  EXPECT_FALSE(Text(KOSTYLE_TEXT("b")) <= Text(KOSTYLE_TEXT("a")));
+  EXPECT_TRUE(Text(KOSTYLE_TEXT("a")) >= Text(KOSTYLE_TEXT("a")));
+  EXPECT_FALSE(Text(KOSTYLE_TEXT("a")) >= Text(KOSTYLE_TEXT("b")));
 }
 
 TEST(CppTextArgument, IsMadeOfTextsOfEveryKind) {

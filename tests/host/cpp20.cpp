@@ -1,6 +1,7 @@
 // A host in C++20: the ranges of the C++ layer are ranges, of the categories that they promise, and
 // texts may be char8_t. Its argument is a directory of styles.
 #include <algorithm>
+#include <concepts>
 #include <filesystem>
 #include <iostream>
 #include <kostyle/kostyle.hpp>
@@ -28,6 +29,9 @@ static_assert(isRandomAccess<decltype(SystemStyle().genres())>);
 static_assert(isBidirectional<SystemStyles> && isBidirectional<UserStyles>);
 static_assert(isBidirectional<MutableAudioEffects> && isBidirectional<MutableMidiEffects>);
 static_assert(isBidirectional<MutableParameters> && isBidirectional<decltype(MutableStyle().colors())>);
+
+static_assert(std::totally_ordered<Text> && std::equality_comparable<UserStyle>);
+static_assert(std::equality_comparable_with<Style, UserStyle>);
 
 bool takesUtf8(MutableStyle style) {
   const std::u8string owned = u8"\u00E4";

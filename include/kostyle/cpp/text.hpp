@@ -79,6 +79,12 @@ class Text {
   friend bool operator!=(Text a, Text b) noexcept { return !(a == b); }
   /** Whether a text stands before another by its units. */
   friend bool operator<(Text a, Text b) noexcept { return a.native() < b.native(); }
+  /** Whether a text stands behind another. */
+  friend bool operator>(Text a, Text b) noexcept { return b < a; }
+  /** Whether a text stands before another or equals it. */
+  friend bool operator<=(Text a, Text b) noexcept { return !(b < a); }
+  /** Whether a text stands behind another or equals it. */
+  friend bool operator>=(Text a, Text b) noexcept { return !(a < b); }
   /** Whether all units are equal. */
   friend bool operator==(Text a, TextView b) noexcept { return a.native() == b; }
   /** Whether all units are equal. */
