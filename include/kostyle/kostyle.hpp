@@ -4,9 +4,10 @@
  *
  *  1. Manager owns. Everything else that is reached through it is a view, as light as a pointer, valid as
  *     long as the handle in it: a style until it is removed or its set is read again, its effects and
- *     parameters as long as their style keeps its content. Nothing checks that.
+ *     parameters as long as their style keeps its content, its property editor until the next one. Nothing
+ *     checks that.
  *  2. Each kind has its type: a system style is no user style, a mutable effect no stored one. What does
- *     not fit together does not compile.
+ *     not fit together does not compile, comparisons of such kinds among it.
  *  3. Texts come as Text: utf8() copies, native() looks. Texts go in as UTF-8 or as native text, whichever
  *     the host has.
  *  4. What may fail gives a Result: a value, or a code of enum KoStyleCode with its sentence. Functions that

@@ -109,8 +109,8 @@ struct MutableCopy {
  * the stored style does not show either; and texts that hold U+0000 when what stands in front of it is
  * refused. Of other texts with U+0000 what stands behind it is not seen, and so neither copied nor listed.
  *
- * @param style of any manager.
- * @param manager owns the new style, as if by createMutableStyle().
+ * @param style of any manager; an empty view has nothing, so `nameMissing` is listed.
+ * @param manager owns the new style, as if by createMutableStyle(). When memory runs out there is none.
  */
 inline MutableCopy createMutableCopy(StoredStyle style, ManagerView manager) {
   detail::OwnedMutableStyle copy(manager);

@@ -134,7 +134,10 @@ class MutableEffect : public Effect {
     return MutableParameter(MutableEffect_addParameter(handle(), name.c_str()));
   }
 
-  /** Adds a parameter with a value: whatever MutableParameter::setValue() takes. */
+  /**
+   * Adds a parameter with a value: whatever MutableParameter::setValue() takes. Empty when the name is refused.
+   * When memory runs out for the value, the parameter may be there with the value 0.
+   */
   template <class Value,
             class = decltype(std::declval<MutableParameter>().setValue(std::declval<const Value&>()))>
   MutableParameter addParameter(const TextArgument& name, const Value& value) const {

@@ -33,7 +33,9 @@ inline std::filesystem::path toPath(Text text) {
 /**
  * The text that the library needs for a path. On Windows that is the absolute path with single backslashes,
  * without "." and ".." as steps and without a backslash at its end, so that any path of a host will do; one
- * that starts with two backslashes is taken as it is. Elsewhere it is the path itself.
+ * that starts with two backslashes is taken as it is. No prefix for long paths is added: a host that is not
+ * aware of them and saves beyond 260 units gives the path with the prefix itself. Elsewhere it is the path
+ * itself.
  */
 inline NativeString fromPath(const std::filesystem::path& path) {
 #if defined(_WIN32)
