@@ -17,26 +17,30 @@ using kostyle::SafeSaveResult;
 using kostyle::UserStyle;
 
 struct SafeSavingWithoutMemory : testing::Test {
-  // Saves until there is memory enough. When memory fails in the cleaning up alone, the save has ended
-  // well, and the next one takes another style.
+  // Saves until there is memory enough. Memory that fails in the cleaning up alone does no harm; the
+  // next save takes another style then.
   template <class Save>
   void failEachAllocationOf(Save save) {
     SafeSaveResult saved;
-    long thrownTimes = 0;
-    test::failEachAllocation([&] { saved = save(); },
-                             [&](long n, bool thrown) {
-                               if (thrown) {
-                                 ++thrownTimes;
-                                 ASSERT_TRUE(kostyle::ManagerView(host.manager).has(style)) << n;
-                                 ASSERT_EQ(test::valueOf(style.handle()), expected) << n;
-                               } else {
-                                 ASSERT_TRUE(saved) << n;
-                                 ASSERT_FALSE(kostyle::ManagerView(host.manager).has(style)) << n;
-                                 style = createStyle();
-                               }
-                               check(n, thrown);
-                             });
-    EXPECT_GT(thrownTimes, 2);
+    long failures = 0;
+    const auto trial = [&] {
+      saved = {};
+      saved = save();
+    };
+    test::failEachAllocation(trial, [&](long n, bool thrown) {
+      // On Windows the standard library makes an error code of some.
+      ASSERT_TRUE(thrown || saved || !saved.problems.empty()) << n;
+      if (saved) {
+        ASSERT_FALSE(kostyle::ManagerView(host.manager).has(style)) << n;
+        style = createStyle();
+      } else {
+        ++failures;
+        ASSERT_TRUE(kostyle::ManagerView(host.manager).has(style)) << n;
+        ASSERT_EQ(test::valueOf(style.handle()), expected) << n;
+      }
+      check(n, static_cast<bool>(saved));
+    });
+    EXPECT_GT(failures, 2);
     EXPECT_TRUE(saved);
     EXPECT_EQ(test::valueOf(saved.style.handle()), expected);
   }
@@ -48,7 +52,7 @@ struct SafeSavingWithoutMemory : testing::Test {
     return made;
   }
 
-  virtual void check(long n, bool thrown) = 0;
+  virtual void check(long n, bool saved) = 0;
 
   const test::Host host;
   UserStyle target{host.addUserStyle("a")};
@@ -58,11 +62,11 @@ struct SafeSavingWithoutMemory : testing::Test {
 };
 
 struct SafeSaveWithoutMemory : SafeSavingWithoutMemory {
-  void check(long n, bool thrown) override {
+  void check(long n, bool saved) override {
     ASSERT_EQ(test::readFile(host.user / "a.kostyle"), oldFile) << n;
     // A style that was saved before memory ran out stays.
     const std::size_t count = test::entryNames(host.user).size();
-    ASSERT_LE(count, thrown ? 2U : 3U) << n;
+    ASSERT_LE(count, saved ? 3U : 2U) << n;
     StyleManager_readUserStyles(host.manager);
     for (std::size_t i = StyleManager_numUserStyle(host.manager); i-- > 0;) {
       const UserStyle each(StyleManager_userStyle(host.manager, i));
@@ -78,13 +82,13 @@ TEST_F(SafeSaveWithoutMemory, KeepsTheMutableStyle) {
 }
 
 struct SafeOverwriteWithoutMemory : SafeSavingWithoutMemory {
-  void check(long n, bool thrown) override {
-    ASSERT_EQ(test::readFile(host.user / "a.kostyle") == oldFile, thrown) << n;
-    if (thrown) {
+  void check(long n, bool saved) override {
+    ASSERT_EQ(test::readFile(host.user / "a.kostyle") == oldFile, !saved) << n;
+    if (!saved) {
       ASSERT_EQ(test::filesOf(host.user).size(), 1U) << n;
-      return;
+    } else {
+      target = UserStyle(host.addUserStyle("a"));
     }
-    target = UserStyle(host.addUserStyle("a"));
   }
 };
 
