@@ -123,11 +123,10 @@ class Backup {
   // For when the file was not replaced. It is put back only if somebody else took it away.
   void giveUp() noexcept {
     std::error_code error;
-    const auto type = std::filesystem::symlink_status(file_, error).type();
-    if (type == std::filesystem::file_type::not_found) {
-      restore();
-    } else {
+    if (std::filesystem::exists(std::filesystem::symlink_status(file_, error))) {
       discard();
+    } else {
+      restore();
     }
   }
 
