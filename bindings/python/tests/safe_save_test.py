@@ -46,7 +46,7 @@ def full_disk(room: int) -> Iterator[None]:
 class SafeTest(StyleTest):
     def setUp(self) -> None:
         super().setUp()
-        self.target = self.read_one(document(vendor="Maker", filter={"genres": ["Old"]}))
+        self.target = self.read_one(document(filter={"genres": ["Old"]}))
         self.expected = kostyle.record_of(self.target)
         self.before = self.target.path.read_bytes()
 
@@ -136,7 +136,39 @@ class SuccessTest(SafeTest):
             copy.overwrite_safely(self.target)
         self.assertEqual(self.target.genres, ("New", "Old"))
 
+    def test_accepts_losses_when_told_to(self) -> None:
+        style = self.mutable()
+        style.audio_effects[0].add_parameter("Tarn", 1)
+        style.audio_effects[0].add_parameter("Tarn630", 2)
+        style.midi_effects.append("Empty")
+        saved = style.save_safely(accept_losses=True)
+        [record] = kostyle.scan([saved.path])
+        assert record.style is not None
+        self.assertEqual(dict(record.style.audio_effects[0].parameters)["Tarn630"], 1)
+        self.assertEqual(record.style.midi_effects, ())
+
+    def test_accepts_nothing_that_cannot_be_written(self) -> None:
+        style = self.mutable()
+        style.audio_effects[0].parameters["x"] = math.inf
+        with self.assertRaises(kostyle.UnsafeError):
+            style.save_safely(accept_losses=True)
+        with self.assertRaises(kostyle.UnsafeError):
+            style.overwrite_safely(self.target, accept_losses=True)
+        self.expect_all_as_it_was()
+
+    def test_of_overwriting_keeps_the_vendor_unless_its_loss_is_accepted(self) -> None:
+        target = self.read_one(document(vendor="Maker"))
+        before = target.path.read_bytes()
+        style = self.mutable("New")
+        with self.assertRaises(kostyle.UnsafeError) as caught:
+            style.overwrite_safely(target)
+        self.assertEqual([finding.place for finding in caught.exception.findings], ["vendor"])
+        self.assertEqual(target.path.read_bytes(), before)
+        style.overwrite_safely(target, accept_losses=True)
+        self.assertEqual(target.name, "New")
+
     def test_of_editing_tells_of_the_vendor(self) -> None:
+        self.target = self.read_one(document(vendor="Maker"))
         with self.target.property_editor() as editor:
             editor.name = "New"
             editor.add_color("red")

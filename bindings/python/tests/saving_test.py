@@ -1,7 +1,7 @@
 """Saving, overwriting, editing and removing, without further care."""
 import json
 import pathlib
-from typing import Any
+from typing import Any, Callable, List
 
 import kostyle
 
@@ -30,7 +30,8 @@ class SaveTest(StyleTest):
         effectless = self.manager.create_mutable_style()
         effectless.name = "x"
         for style, code in [(nameless, kostyle.Code.ARGUMENT_MISSING), (effectless, kostyle.Code.NO_EFFECT)]:
-            for save in (style.save, style.save_safely):
+            saves: List[Callable[..., Any]] = [style.save, style.save_safely]
+            for save in saves:
                 with self.subTest(code=code), self.assertRaises(kostyle.CodeError) as caught:
                     save()
                 self.assertEqual(caught.exception.code, code)
@@ -44,6 +45,9 @@ class SaveTest(StyleTest):
 
 
 class OverwriteTest(StyleTest):
+    def overwrites(self) -> List[Callable[..., Any]]:
+        return [self.mutable().overwrite, self.mutable().overwrite_safely]
+
     def test_gives_a_style_another_content(self) -> None:
         style = self.read_one(document(vendor="Maker"))
         self.assertIs(self.mutable("New").overwrite(style), style)
@@ -65,7 +69,7 @@ class OverwriteTest(StyleTest):
         with self.make_manager("other") as other:
             self.write(self.user / "two.kostyle", document("two"))
             other.read()
-            for overwrite in (self.mutable().overwrite, self.mutable().overwrite_safely):
+            for overwrite in self.overwrites():
                 with self.assertRaises(kostyle.CodeError) as caught:
                     overwrite(other.user_styles[0])
                 self.assertEqual(caught.exception.code, kostyle.Code.USER_STYLE_NOT_FOUND)
@@ -75,7 +79,7 @@ class OverwriteTest(StyleTest):
         style = self.read_one(document())
         wrong: Any
         for wrong in (style.audio_effects[0], self.mutable(), None, style.id):
-            for overwrite in (self.mutable().overwrite, self.mutable().overwrite_safely):
+            for overwrite in self.overwrites():
                 with self.assertRaises(TypeError):
                     overwrite(wrong)
             if not isinstance(wrong, kostyle.MutableStyle):

@@ -59,6 +59,8 @@ class Finding:
     """Where, as "vendor" or "audio effect 'Reverb', parameter 'mix'"."""
     reason: str
     """Why, in words, without a capital or a full stop."""
+    is_loss: bool = dataclasses.field(default=False, compare=False)
+    """Whether a style can be saved all the same, and is then read without it or otherwise."""
 
     def __str__(self) -> str:
         return f"{self.place}: {self.reason}"

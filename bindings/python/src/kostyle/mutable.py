@@ -129,18 +129,20 @@ class MutableStyle(Style):
                 raise CodeError(code.value, str(target.path))
         return target
 
-    def save_safely(self, *, pretty: bool = True) -> UserStyle:
+    def save_safely(self, *, pretty: bool = True, accept_losses: bool = False) -> UserStyle:
         """save(), with care: raises UnsafeError before anything is written when something would not come
-        back; reads the new file with a manager of its own; and when it does not hold what was written, on a
-        full disk say, removes it and raises NotSavedError. On any failure this style stays as it is."""
+        back, unless all of it is a loss (Finding.is_loss) and `accept_losses` is true; reads the new file with a
+        manager of its own; and when it does not hold what was written, on a full disk say, removes it and raises
+        NotSavedError. On any failure this style stays as it is."""
         from .safe_save import save_safely
-        return save_safely(self, pretty)
+        return save_safely(self, pretty, accept_losses)
 
-    def overwrite_safely(self, target: UserStyle, *, pretty: bool = True) -> UserStyle:
-        """overwrite(), with the care of save_safely(): on any failure the target's file is as it was, and
-        this style stays. The target in memory is then as it was too, but for its effects, which end and can
-        be asked for again; when even that failed, until the user styles are read again, it shows what was to
-        be written. Beside the file lies meanwhile another one, "kostyle-backup-" and a UUID, which a process that
-        is killed leaves behind: it is the old file. No other process may write the file at the same time."""
+    def overwrite_safely(self, target: UserStyle, *, pretty: bool = True, accept_losses: bool = False) -> UserStyle:
+        """overwrite(), with the care of save_safely(); the vendor text of the target is a loss too. On any failure
+        the target's file is as it was, and this style stays. The target in memory is then as it was too, but for
+        its effects, which end and can be asked for again; when even that failed, until the user styles are read
+        again, it shows what was to be written. Beside the file lies meanwhile another one, "kostyle-backup-" and a
+        UUID, which a process that is killed leaves behind: it is the old file. No other process may write the file
+        at the same time."""
         from .safe_save import overwrite_safely
-        return overwrite_safely(self, target, pretty)
+        return overwrite_safely(self, target, pretty, accept_losses)

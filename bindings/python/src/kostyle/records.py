@@ -16,13 +16,16 @@ from .text import PathLike, decode
 _BEHIND = 8
 
 
+Parameters = Tuple[Tuple[str, ParameterValue], ...]
+
+
 @dataclasses.dataclass
 class EffectRecord:
     """An effect."""
 
     id: str
     """The identifier, unique within the chain."""
-    parameters: Tuple[Tuple[str, ParameterValue], ...]
+    parameters: Parameters
     """Names and values, in the order of names; dict() makes a mapping of them."""
 
 

@@ -11,14 +11,14 @@ import pathlib
 import shutil
 import sys
 import uuid
-from typing import Callable, Iterator, Tuple
+from typing import Callable, Dict, Iterable, Iterator, Tuple
 
 from .attributes import LISTS
 from .errors import CodeError, Finding, NotSavedError, UnsafeError
 from .mutable import MutableStyle
 from .parameters import ParameterValue
 from .property_editor import PropertyEditor
-from .records import EffectRecord, StyleRecord, record_of
+from .records import EffectRecord, Parameters, StyleRecord, record_of
 from .scan import scan
 from .styles import Style, UserStyle
 from .text import has_lone_surrogate
@@ -57,29 +57,48 @@ def _effect_findings(place: str, effect: EffectRecord) -> Iterator[Finding]:
     if has_lone_surrogate(effect.id):
         yield Finding(place, _SURROGATE)
     if not effect.parameters:
-        yield Finding(place, "no effect without parameters comes back")
+        yield Finding(place, "no effect without parameters comes back", is_loss=True)
     seen = set()
     for name, value in effect.parameters:
+        here = f"{place}, parameter {name!r}"
         for reason in _parameter_reasons(name, value):
-            yield Finding(f"{place}, parameter {name!r}", reason)
+            yield Finding(here, reason)
+        if name == "Tarn":
+            yield Finding(here, "it comes back as Tarn630", is_loss=True)
         if name in seen:
-            yield Finding(f"{place}, parameter {name!r}", "of two parameters with one name only the first comes back")
+            yield Finding(here, "of two parameters with one name only the first comes back", is_loss=True)
         seen.add(name)
 
 
 def _parameter_reasons(name: str, value: ParameterValue) -> Iterator[str]:
-    if name == "Tarn":
-        yield "it comes back as Tarn630"
     if has_lone_surrogate(name) or (isinstance(value, str) and has_lone_surrogate(value)):
         yield _SURROGATE
     if isinstance(value, float) and not math.isfinite(value):
         yield "an infinity and NaN cannot be written"
 
 
-def _require_safe(record: StyleRecord) -> None:
-    findings = list(_findings(record))
-    if findings:
-        raise UnsafeError(findings)
+def _require_safe(findings: Iterable[Finding], accept_losses: bool = False) -> None:
+    found = list(findings)
+    if not all(accept_losses and finding.is_loss for finding in found):
+        raise UnsafeError(found)
+
+
+def _as_read(record: StyleRecord) -> StyleRecord:
+    """What reading a file of the style gives: without what is lost."""
+    return dataclasses.replace(record, audio_effects=_chain_as_read(record.audio_effects),
+                               midi_effects=_chain_as_read(record.midi_effects))
+
+
+def _chain_as_read(effects: Tuple[EffectRecord, ...]) -> Tuple[EffectRecord, ...]:
+    return tuple(EffectRecord(effect.id, _parameters_as_read(effect.parameters))
+                 for effect in effects if effect.parameters)
+
+
+def _parameters_as_read(parameters: Parameters) -> Parameters:
+    first: Dict[str, ParameterValue] = {}
+    for name, value in parameters:
+        first.setdefault("Tarn630" if name == "Tarn" else name, value)
+    return tuple(first.items())
 
 
 class _Backup:
@@ -151,10 +170,10 @@ def _restored_when_it_fails(backup: _Backup, put_back_in_memory: Callable[[], No
     backup.discard()
 
 
-def save_safely(style: MutableStyle, pretty: bool) -> UserStyle:
+def save_safely(style: MutableStyle, pretty: bool, accept_losses: bool) -> UserStyle:
     """Does what MutableStyle.save_safely() says."""
     written = record_of(style)
-    _require_safe(written)
+    _require_safe(_findings(written), accept_losses)
     with style.mutable_copy() as spare:  # saving ends what it saves
         saved = spare.save(pretty=pretty)
     try:
@@ -166,12 +185,12 @@ def save_safely(style: MutableStyle, pretty: bool) -> UserStyle:
     return saved
 
 
-def overwrite_safely(style: MutableStyle, target: UserStyle, pretty: bool) -> UserStyle:
+def overwrite_safely(style: MutableStyle, target: UserStyle, pretty: bool, accept_losses: bool) -> UserStyle:
     """Does what MutableStyle.overwrite_safely() says."""
     if not isinstance(target, UserStyle):
         raise TypeError(f"a user style is needed, not {target!r}")
     written = record_of(style)
-    _require_safe(written)
+    _require_safe([*_vendor_finding(target), *_findings(written)], accept_losses)
     _require_replaceable(target)
     with style.mutable_copy() as spare, target.mutable_copy() as previous:
         def put_back() -> None:
@@ -189,7 +208,7 @@ def edit_safely(editor: PropertyEditor, style: UserStyle) -> Tuple[Finding, ...]
     """Does what PropertyEditor.save_safely() says."""
     before = record_of(style)
     wanted = dataclasses.replace(before, name=editor.name, sub_genres=editor.sub_genres, colors=editor.colors)
-    _require_safe(wanted)
+    _require_safe(_findings(wanted))
 
     def put_back() -> None:
         if record_of(style) != before:
@@ -198,8 +217,12 @@ def edit_safely(editor: PropertyEditor, style: UserStyle) -> Tuple[Finding, ...]
     with _restored_when_it_fails(_Backup(style.path, in_place=True), put_back):
         editor.save()
         _read_back(style, wanted)
-    lost = f"an edited file has none: {style.vendor!r}"
-    return (Finding("vendor", lost),) if style.vendor else ()
+    return _vendor_finding(style)
+
+
+def _vendor_finding(style: UserStyle) -> Tuple[Finding, ...]:
+    lost = f"a file that is written again has none: {style.vendor!r}"
+    return (Finding("vendor", lost, is_loss=True),) if style.vendor else ()
 
 
 def _require_replaceable(target: UserStyle) -> None:
@@ -239,7 +262,7 @@ def _read_back(saved: UserStyle, written: StyleRecord) -> None:
         raise NotSavedError(path, f"it cannot be read again: {error}") from error
     if file.style is None:
         raise NotSavedError(path, str(file.refusal))
-    expected = dataclasses.replace(written, id=saved.id, vendor="")
+    expected = dataclasses.replace(_as_read(written), id=saved.id, vendor="")
     if _comparable(file.style) != _comparable(expected):
         raise NotSavedError(path, "the file does not hold what was written")
 
