@@ -123,12 +123,12 @@ class Page:
     def compile(self, block, file, name):
         c = block.language == "c"
         command = [self.compilers[0 if c else 1], "-std=c11" if c else "-std=c++17", *STRICT,
-                   f"-I{self.source / 'include'}", file, "-o", self.folder / (name + ".exe"),
-                   f"-L{self.build / 'lib'}", "-lKoStyle", "-pthread"]
+                   f"-I{self.source / 'include'}", file, "-o", self.folder / (name + ".exe"), "-pthread"]
+        libraries = self.build / "lib"
         if self.emulator:
-            command += ["-static", *(["-municode"] if "wmain" in block.code else [])]
+            command += [libraries / "libKoStyle.dll.a", "-static", *(["-municode"] if "wmain" in block.code else [])]
         else:
-            command += [f"-Wl,-rpath,{self.build / 'lib'}"]
+            command += [f"-L{libraries}", "-lKoStyle", f"-Wl,-rpath,{libraries}"]
         compiled = subprocess.run(command, capture_output=True, text=True, encoding="utf-8")
         if compiled.returncode != 0 or compiled.stderr:
             self.failures.append(f"{block}: does not compile\n{compiled.stderr}")
