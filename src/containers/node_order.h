@@ -2,6 +2,7 @@
 // there is room for a few nodes only, they stand in two arrays of bytes, and no memory is taken.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -57,17 +58,10 @@ class NodeOrder {
   template <class Before>
   Node partitionPoint(Before before) const {
     if (isTree()) return tree_->partitionPoint(before);
-    std::size_t first = 0;
-    for (std::size_t count = size_; count > 0;) {
-      const std::size_t half = count / 2;
-      if (before(Node{nodes_[first + half]})) {
-        first += half + 1;
-        count -= half + 1;
-      } else {
-        count = half;
-      }
-    }
-    return at(first);
+    const auto* const end = nodes_.data() + size_;
+    const auto* const found = std::partition_point(
+        nodes_.data(), end, [&before](std::uint8_t node) { return before(Node{node}); });
+    return found == end ? none : *found;
   }
 
  private:
