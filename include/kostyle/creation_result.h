@@ -17,10 +17,9 @@ KOSTYLE_API KoStyleCreationResult* StyleCreationResult_prev(KoStyleCreationResul
 /**
  * Whether the style was taken.
  *
- * @return KOSTYLE_OK when it was, else KOSTYLE_ERROR_NO_STYLE_FOR_KIND, KOSTYLE_ERROR_JSON_SYNTAX,
- *         KOSTYLE_ERROR_MEMBER_MISSING, KOSTYLE_ERROR_WRONG_TYPE, KOSTYLE_ERROR_EMPTY_STRING,
- *         KOSTYLE_ERROR_DUPLICATE_ID or KOSTYLE_ERROR_NO_EFFECT; KOSTYLE_ERROR_NO_CREATION_RESULT for
- *         a null handle.
+ * @return KOSTYLE_OK when it was, else KOSTYLE_ERROR_JSON_SYNTAX, KOSTYLE_ERROR_MEMBER_MISSING,
+ *         KOSTYLE_ERROR_WRONG_TYPE, KOSTYLE_ERROR_EMPTY_STRING, KOSTYLE_ERROR_DUPLICATE_ID or
+ *         KOSTYLE_ERROR_NO_EFFECT; KOSTYLE_ERROR_NO_CREATION_RESULT for a null handle.
  */
 KOSTYLE_API int StyleCreationResult_error(KoStyleCreationResult* result);
 

@@ -43,4 +43,7 @@
 #include "kostyle.h"
 /* IWYU pragma: end_exports */
 
+/** The layer for C++17 over the interface for C: one header, kostyle.hpp, which has the conventions. */
+namespace kostyle {}
+
 #endif

@@ -30,9 +30,9 @@ KOSTYLE_API bool PropertyEditor_addColor(KoStylePropertyEditor* editor, const Ko
  *
  * On success the texts of the style's old name, sub-genres and colours end, each of the three only when
  * it changes. Everything else stays, at its address: the style, its identifier, path, vendor text and
- * other attributes, its effects and parameters with their texts. On failure everything stays, but for a style without a name, whose file
- * has one longer than KOSTYLE_MAX_NAME_LENGTH units: when its file cannot be opened, it keeps the new
- * name, and the text of the empty one ends.
+ * other attributes, its effects and parameters with their texts. On failure everything stays, but for a
+ * style without a name, whose file has one longer than KOSTYLE_MAX_NAME_LENGTH units: when its file cannot
+ * be opened, it keeps the new name, and the text of the empty one ends.
  *
  * @param pretty not used.
  * @return true; false when the editor has no name of 1 to KOSTYLE_MAX_NAME_LENGTH units (nothing is

@@ -67,16 +67,19 @@ struct ColorList {
 
 }  // namespace detail
 
-/** A style of any kind: system, user or mutable. */
+/**
+ * A style of any kind: system, user or mutable. Its manager owns it and, with it, the texts that it returns:
+ * each stays until the style ends or that value of it changes.
+ */
 class Style : public View<KoStyleStyle> {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using View::View;
 
   /** The kind, of enum KoStyleKind; KOSTYLE_KIND_NONE for an empty view. */
   int type() const noexcept { return Style_type(handle()); }
 
-  /** The manager that owns the style. */
+  /** The manager that owns the style; empty for an empty view. */
   ManagerView manager() const noexcept;
 
   /**
@@ -87,20 +90,26 @@ class Style : public View<KoStyleStyle> {
 };
 
 /**
- * A style with its attribute lists, each in ascending order. Category is that of their iterators: random
- * access for stored styles, bidirectional for mutable ones, where an index takes logarithmic time.
+ * A style with its attribute lists, each in ascending order, texts by their units. The ranges are live: they
+ * show what the style has when they are asked.
+ *
+ * Category is that of their iterators: random access for stored styles, bidirectional for mutable ones,
+ * where an index takes logarithmic time.
  */
 template <class Category>
 class StyleWithAttributes : public Style {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using Style::Style;
 
-  /** The range of one of the lists. */
+  /** The range of one of the lists: of numbers (`int`) for languages(), of Text for the others. */
   template <class List>
   using Range = IndexRange<List, Category>;
 
-  /** The languages: numbers from KOSTYLE_MIN_LANGUAGE to KOSTYLE_MAX_LANGUAGE, to which the host gives a meaning. */
+  /**
+   * The languages: numbers from KOSTYLE_MIN_LANGUAGE to KOSTYLE_MAX_LANGUAGE, to which the host gives a
+   * meaning.
+   */
   Range<detail::LanguageList> languages() const noexcept {
     return Range<detail::LanguageList>(handle());
   }
@@ -108,7 +117,10 @@ class StyleWithAttributes : public Style {
   Range<detail::SingerGroupList> singerGroups() const noexcept {
     return Range<detail::SingerGroupList>(handle());
   }
-  /** The singer identifiers, each of KOSTYLE_SINGER_ID_LENGTH units, fewer for the host when a file's holds U+0000. */
+  /**
+   * The singer identifiers, each of KOSTYLE_SINGER_ID_LENGTH UTF-16 units; one of a file that holds U+0000 ends
+   * there for the host, and so has fewer.
+   */
   Range<detail::SingerIDList> singerIDs() const noexcept {
     return Range<detail::SingerIDList>(handle());
   }

@@ -96,10 +96,12 @@ class StyleCopier {
 
 /** A mutable style that was copied from a stored one, and what could not be copied. */
 struct MutableCopy {
-  /** Owned by its manager. */
+  /** The copy, owned by its manager as every mutable style is. */
   MutableStyle style;
 
-  /** `vendorLost`, `nameMissing` and `textLost`; empty when everything was copied. */
+  /**
+   * What is missing of it: `vendorLost`, `nameMissing` and `textLost`; empty when everything was copied.
+   */
   Problems notCopied;
 };
 
@@ -120,7 +122,7 @@ inline MutableCopy createMutableCopy(StoredStyle style, ManagerView manager) {
   return {copy.release(), copier.takeLosses()};
 }
 
-/** The same in the manager of the stored style. */
+/** As the other createMutableCopy(), in the manager of the stored style. */
 inline MutableCopy createMutableCopy(StoredStyle style) {
   return createMutableCopy(style, style.manager());
 }

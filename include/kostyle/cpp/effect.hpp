@@ -49,10 +49,10 @@ using StoredParameters = IndexRange<detail::StoredParameterList, std::random_acc
 /** The parameters of a mutable effect, in the order of names as of the last addParameter(). */
 using MutableParameters = LinkedRange<detail::MutableParameterList>;
 
-/** An effect of either chain, of a stored or of a mutable style. */
+/** An effect of either chain, of a stored or of a mutable style, which owns it. */
 class Effect : public View<KoStyleEffect> {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using View::View;
 
   /** The kind, of enum KoStyleEffectKind; KOSTYLE_EFFECT_NONE for an empty view. */
@@ -62,19 +62,19 @@ class Effect : public View<KoStyleEffect> {
   Text id() const noexcept { return Text(Effect_id(handle())); }
 };
 
-/** An effect of a system or user style. */
+/** An effect of a system or user style. It ends with its style, and when the style is overwritten. */
 class StoredEffect : public Effect {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using Effect::Effect;
 
-  /** The style that owns the effect. */
+  /** The style that owns the effect; empty for an empty view. */
   StoredStyle style() const noexcept;
 
   /** The parameters, in the order of names. */
   StoredParameters parameters() const noexcept { return StoredParameters(handle()); }
 
-  /** Whether a parameter is one of the effect's. The parameter is only compared. */
+  /** Whether a parameter is one of the effect's. It is only compared, so it may have ended. */
   bool has(StoredParameter parameter) const noexcept {
     return Effect_hasParameter(handle(), parameter.handle());
   }
@@ -83,7 +83,7 @@ class StoredEffect : public Effect {
 /** An effect of the audio chain of a system or user style. */
 class AudioEffect : public StoredEffect {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using StoredEffect::StoredEffect;
 
   /** The effect after this one in its chain; empty at the end. */
@@ -96,7 +96,7 @@ class AudioEffect : public StoredEffect {
 /** An effect of the MIDI chain of a system or user style. */
 class MidiEffect : public StoredEffect {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using StoredEffect::StoredEffect;
 
   /** The effect after this one in its chain; empty at the end. */
@@ -106,19 +106,19 @@ class MidiEffect : public StoredEffect {
   MidiEffect previous() const noexcept { return MidiEffect(MidiEffect_prev(handle())); }
 };
 
-/** An effect of a mutable style. */
+/** An effect of a mutable style. It ends with its style, and by destroy(). */
 class MutableEffect : public Effect {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using Effect::Effect;
 
-  /** The style that owns the effect. */
+  /** The style that owns the effect; empty for an empty view. */
   MutableStyle style() const noexcept;
 
   /** The parameters, in the order of names as of the last addParameter(). */
   MutableParameters parameters() const noexcept { return MutableParameters(handle()); }
 
-  /** Whether a parameter is one of the effect's. The parameter is only compared. */
+  /** Whether a parameter is one of the effect's. It is only compared, so it may have ended. */
   bool has(MutableParameter parameter) const noexcept {
     return Effect_hasParameter(handle(), parameter.handle());
   }
@@ -128,15 +128,19 @@ class MutableEffect : public Effect {
    *
    * @param name the parameter's name; not empty; not the name of a parameter of this effect. "Tarn" is
    *        written as it is, but reading the file gives "Tarn630"; of the two only the first is read.
-   * @return the parameter; empty when the name is refused.
+   * @return the parameter, owned by the effect; empty when the name is refused.
    */
   MutableParameter addParameter(const TextArgument& name) const {
     return MutableParameter(MutableEffect_addParameter(handle(), name.c_str()));
   }
 
   /**
-   * Adds a parameter with a value: whatever MutableParameter::setValue() takes. Empty when the name is refused.
-   * When memory runs out for the value, the parameter may be there with the value 0.
+   * Adds a parameter with a value, and sorts the parameters by name. When memory runs out for the value, the
+   * parameter may be there with the value 0.
+   *
+   * @param name as above.
+   * @param value whatever MutableParameter::setValue() takes: an int, a float, a text, a ParameterValue.
+   * @return the parameter, owned by the effect; empty when the name is refused.
    */
   template <class Value,
             class = decltype(std::declval<MutableParameter>().setValue(std::declval<const Value&>()))>
@@ -147,19 +151,23 @@ class MutableEffect : public Effect {
   }
 
   /**
-   * Moves the effect to an index of its own chain, which it has afterwards; an index past the end moves it
-   * to the end. true, also when it is there already; false for an empty view.
+   * Moves the effect within its own chain.
+   *
+   * @param index zero-based, and the effect's own afterwards; one past the end moves it to the end.
+   * @return true, also when the effect is there already; false for an empty view.
    */
   bool move(std::size_t index) const { return MutableEffect_move(handle(), index); }
 
-  /** Takes the effect out of its chain and destroys it with its parameters; handles and texts end. */
+  /**
+   * Takes the effect out of its chain and destroys it with its parameters; all their views and texts end.
+   */
   void destroy() const noexcept { MutableEffect_destroy(handle()); }
 };
 
 /** An effect of the audio chain of a mutable style. */
 class MutableAudioEffect : public MutableEffect {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using MutableEffect::MutableEffect;
 
   /** The effect after this one in its chain; empty at the end. */
@@ -176,7 +184,7 @@ class MutableAudioEffect : public MutableEffect {
 /** An effect of the MIDI chain of a mutable style. */
 class MutableMidiEffect : public MutableEffect {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using MutableEffect::MutableEffect;
 
   /** The effect after this one in its chain; empty at the end. */

@@ -121,8 +121,10 @@ class ProblemFinder {
 }  // namespace detail
 
 /**
- * What a file could not give back of a mutable style: the losses and the problems from `nameMissing` to
- * `notANumber`. Empty when saving the style and reading the file again gives the same style.
+ * What a file could not give back of a mutable style: of the losses `effectWithoutParameters`,
+ * `parameterRenamed` and `parameterRepeated`, and the problems from `nameMissing` to `notANumber`. Empty when
+ * saving the style and reading the file again gives the same style. Nothing is changed or written. An empty
+ * view has no name and no effect.
  */
 inline Problems findProblems(MutableStyle style) {
   detail::ProblemFinder finder;

@@ -86,18 +86,18 @@ using UserCreationResults = IndexRange<detail::UserCreationResultList, std::rand
  */
 class ManagerView : public View<KoStyleManager> {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using View::View;
 
-  /** The application identifier. */
+  /** The application identifier; lives as long as the manager. */
   Text applicationId() const noexcept { return Text(StyleManager_appID(handle())); }
 
-  /** The system style directory, as Manager::create() passed it to the library. */
+  /** The system style directory, as Manager::create() passed it to the library: on Windows absolute. */
   std::filesystem::path systemDirectory() const {
     return toPath(Text(StyleManager_systemStyleDirPath(handle())));
   }
 
-  /** The user style directory, as Manager::create() passed it to the library. */
+  /** The user style directory, as Manager::create() passed it to the library: on Windows absolute. */
   std::filesystem::path userDirectory() const {
     return toPath(Text(StyleManager_userStyleDirPath(handle())));
   }
@@ -106,47 +106,61 @@ class ManagerView : public View<KoStyleManager> {
    * Reads the system styles anew: every file directly inside the system style directory and the further
    * system directories whose extension is exactly ".kostyle". The system styles and their creation results
    * end first, whatever the outcome. Bad files do not fail the read: each opened file leaves a creation
-   * result. A file whose identifier a style of either set has is refused.
+   * result. A file whose identifier a style of either set has is refused. Files that cannot be opened, further
+   * directories that do not exist and directories that cannot be listed are passed over without one.
    *
    * @return success; KOSTYLE_ERROR_DIRECTORY_MISSING when the system style directory does not exist or is
    *         not a directory (the set is then empty); KOSTYLE_ERROR_INVALID_HANDLE for an empty view.
    */
   Result<void> readSystemStyles() const { return Error(StyleManager_readSystemStyles(handle())); }
 
-  /** Reads the user styles anew, from the user directories, in the same way; property editors end. */
+  /**
+   * Reads the user styles anew, from the user style directory and the further user directories, as
+   * readSystemStyles() does; the property editors end with the styles.
+   *
+   * @return success; KOSTYLE_ERROR_DIRECTORY_MISSING when the user style directory does not exist or is not a
+   *         directory (the set is then empty); KOSTYLE_ERROR_INVALID_HANDLE for an empty view.
+   */
   Result<void> readUserStyles() const { return Error(StyleManager_readUserStyles(handle())); }
 
-  /** The system styles. */
+  /** The system styles, live: none before they are read, and others when they are read again. */
   SystemStyles systemStyles() const noexcept { return SystemStyles(handle()); }
-  /** The user styles. */
+  /** The user styles, live: saving adds one at the end, removing takes one out. */
   UserStyles userStyles() const noexcept { return UserStyles(handle()); }
-  /** What the last read of the system styles left behind. */
+  /** What the last read of the system styles left behind, live: a read ends those of the one before. */
   SystemCreationResults systemCreationResults() const noexcept {
     return SystemCreationResults(handle());
   }
-  /** What the last read of the user styles left behind. */
+  /** What the last read of the user styles left behind, live: a read ends those of the one before. */
   UserCreationResults userCreationResults() const noexcept { return UserCreationResults(handle()); }
 
-  /** Whether a style is one of the manager's system styles. The style is only compared. */
+  /** Whether a style is one of the manager's system styles. It is only compared, so it may have ended. */
   bool has(SystemStyle style) const noexcept {
     return StyleManager_hasSystemStyle(handle(), style.handle());
   }
-  /** The same of a user style. */
+  /** Whether a style is one of the manager's user styles. It is only compared, so it may have ended. */
   bool has(UserStyle style) const noexcept {
     return StyleManager_hasUserStyle(handle(), style.handle());
   }
-  /** The same of a mutable style. */
+  /**
+   * Whether a style is one of the manager's mutable styles. It is only compared, so it may have ended.
+   */
   bool has(MutableStyle style) const noexcept {
     return StyleManager_hasMutableStyle(handle(), style.handle());
   }
 
-  /** Creates an empty mutable style, to become a new user style or the new content of one. */
+  /**
+   * Creates an empty mutable style, to become a new user style or the new content of one.
+   *
+   * @return the style, owned by the manager until MutableStyle::destroy(), a successful save or overwrite, or
+   *         the manager's end; empty for an empty view.
+   */
   MutableStyle createMutableStyle() const {
     return MutableStyle(StyleManager_createMutableStyle(handle()));
   }
 };
 
-/** Directories that are read as well. */
+/** Directories that are read as well, in their order. Those that do not exist are passed over. */
 struct FurtherDirectories {
   /** As system styles, after the system directory. */
   std::vector<std::filesystem::path> system;
@@ -154,7 +168,11 @@ struct FurtherDirectories {
   std::vector<std::filesystem::path> user;
 };
 
-/** A manager that ends with its object. */
+/**
+ * A manager that ends with its object. It is moved, not copied; what does not own it has a ManagerView, to
+ * which it converts. Managers are created and destroyed from any thread, all else of one is for one thread at a
+ * time.
+ */
 class Manager : public ManagerView {
  public:
   /**
@@ -167,7 +185,9 @@ class Manager : public ManagerView {
    *
    * @param applicationId not empty; compared exactly.
    * @param systemDirectory directory of the styles shipped with the host; must exist.
-   * @param userDirectory directory of the user's styles; created with all missing parents.
+   * @param userDirectory directory of the user's styles; created with all missing parents. A plain file in its
+   *        place is taken for it: readUserStyles() then gives KOSTYLE_ERROR_DIRECTORY_MISSING, and saving
+   *        KOSTYLE_ERROR_OPEN_FAILED.
    * @param further directories read as system and as user styles besides.
    * @return the manager, or the first that applies of KOSTYLE_ERROR_APP_ID_MISSING,
    *         KOSTYLE_ERROR_SYSTEM_DIRECTORY_MISSING and KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE.
@@ -186,7 +206,9 @@ class Manager : public ManagerView {
     return Manager(manager);
   }
 
-  /** Takes over a manager that CreateStyleManager() gave. */
+  /**
+   * Takes over a manager that CreateStyleManager() gave, and destroys it at its end; of NULL it is empty.
+   */
   explicit Manager(KoStyleManager* manager) noexcept : ManagerView(manager) {}
 
   /** Takes over what another object has, which is empty then. */
@@ -199,13 +221,18 @@ class Manager : public ManagerView {
     }
     return *this;
   }
+  /** Not copied: one object owns the manager. */
   Manager(const Manager&) = delete;
+  /** Not copied: one object owns the manager. */
   Manager& operator=(const Manager&) = delete;
 
   /** Destroys the manager with everything that it owns; all views and texts reached through it end. */
   ~Manager() { StyleManager_destroy(handle()); }
 
-  /** Gives the manager up: the object is empty, and the caller owns what it had. */
+  /**
+   * Gives the manager up: the object is empty, and who calls destroys what it had by
+   * StyleManager_destroy().
+   */
   KoStyleManager* release() noexcept {
     KoStyleManager* const manager = handle();
     setHandle(nullptr);

@@ -46,40 +46,51 @@ using MutableAudioEffects = LinkedRange<detail::MutableAudioEffectList>;
 /** The MIDI chain of a mutable style. */
 using MutableMidiEffects = LinkedRange<detail::MutableMidiEffectList>;
 
-/** How a file is laid out: without white space, or one line for each member, indented by 4 spaces. */
-enum class Layout : bool { compact, pretty };
+/** How a file is laid out. */
+enum class Layout : bool {
+  /** Without white space. */
+  compact,
+  /** One line for each member, indented by 4 spaces. */
+  pretty
+};
 
 /**
  * A mutable style. ManagerView::createMutableStyle() makes one; the manager owns it until destroy(), a
  * successful save or overwrite, or its own end. Then this view, those of effects and parameters, and all
  * texts reached through them end.
+ *
+ * A function that changes the style gives false, or an empty view, when it refuses its argument, and for an
+ * empty view; then nothing has changed. Texts are copied.
  */
 class MutableStyle : public StyleWithAttributes<std::bidirectional_iterator_tag> {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using StyleWithAttributes::StyleWithAttributes;
 
-  /** The audio chain. */
+  /** The audio chain, live. */
   MutableAudioEffects audioEffects() const noexcept { return MutableAudioEffects(handle()); }
-  /** The MIDI chain. */
+  /** The MIDI chain, live. */
   MutableMidiEffects midiEffects() const noexcept { return MutableMidiEffects(handle()); }
 
-  /** Whether an effect is in the audio chain. The effect is only compared. */
+  /** Whether an effect is in the audio chain. It is only compared, so it may have ended. */
   bool has(MutableAudioEffect effect) const noexcept {
     return Style_hasAudioEffect(handle(), effect.handle());
   }
-  /** Whether an effect is in the MIDI chain. The effect is only compared. */
+  /** Whether an effect is in the MIDI chain. It is only compared, so it may have ended. */
   bool has(MutableMidiEffect effect) const noexcept {
     return Style_hasMidiEffect(handle(), effect.handle());
   }
 
   /**
-   * Sets the name, of 1 to KOSTYLE_MAX_NAME_LENGTH units; the old name's text ends. false when the name is
-   * refused and the old one stays.
+   * Sets the name, of 1 to KOSTYLE_MAX_NAME_LENGTH UTF-16 units; the old name's text ends. false when the name
+   * is refused and the old one stays.
    */
   bool setName(const TextArgument& name) const { return MutableStyle_setName(handle(), name.c_str()); }
 
-  /** Adds a language; false when it is out of range or present. */
+  /**
+   * Adds a language, from KOSTYLE_MIN_LANGUAGE to KOSTYLE_MAX_LANGUAGE; false when it is another, or
+   * present.
+   */
   bool addLanguage(int language) const { return MutableStyle_addLanguage(handle(), language); }
 
   /** Deletes a language; false when it is not present. */
@@ -95,7 +106,9 @@ class MutableStyle : public StyleWithAttributes<std::bidirectional_iterator_tag>
     return MutableStyle_deleteSingerGroup(handle(), singerGroup.c_str());
   }
 
-  /** Adds a singer identifier; false when it is not of KOSTYLE_SINGER_ID_LENGTH units, or present. */
+  /**
+   * Adds a singer identifier; false when it is not of KOSTYLE_SINGER_ID_LENGTH UTF-16 units, or present.
+   */
   bool addSingerID(const TextArgument& singerID) const {
     return MutableStyle_addSingerID(handle(), singerID.c_str());
   }
@@ -138,25 +151,30 @@ class MutableStyle : public StyleWithAttributes<std::bidirectional_iterator_tag>
   /**
    * Inserts a new effect without parameters into the audio chain.
    *
-   * @param index position of the new effect; at or past the end it is appended.
+   * @param index zero-based position of the new effect; at or past the end it is appended.
    * @param id the identifier; not empty; not that of another effect of the chain.
-   * @return the effect; empty when the identifier is refused.
+   * @return the effect, owned by the style; empty when the identifier is refused.
    */
   MutableAudioEffect insertAudioEffect(std::size_t index, const TextArgument& id) const {
     return MutableAudioEffect(MutableStyle_insertAudioEffect(handle(), index, id.c_str()));
   }
 
-  /** Inserts a new effect into the MIDI chain in the same way. */
+  /**
+   * Inserts a new effect without parameters into the MIDI chain, as insertAudioEffect() does into the
+   * other.
+   */
   MutableMidiEffect insertMidiEffect(std::size_t index, const TextArgument& id) const {
     return MutableMidiEffect(MutableStyle_insertMidiEffect(handle(), index, id.c_str()));
   }
 
-  /** Inserts a new effect at the end of the audio chain. */
+  /**
+   * Inserts a new effect without parameters at the end of the audio chain, as insertAudioEffect() does.
+   */
   MutableAudioEffect appendAudioEffect(const TextArgument& id) const {
     return insertAudioEffect(SIZE_MAX, id);
   }
 
-  /** Inserts a new effect at the end of the MIDI chain. */
+  /** Inserts a new effect without parameters at the end of the MIDI chain, as insertMidiEffect() does. */
   MutableMidiEffect appendMidiEffect(const TextArgument& id) const {
     return insertMidiEffect(SIZE_MAX, id);
   }
@@ -169,6 +187,7 @@ class MutableStyle : public StyleWithAttributes<std::bidirectional_iterator_tag>
    * What goes wrong while the file is being written, a full disk for instance, and what does not come back
    * from the file give no error: safeSave() takes care of both.
    *
+   * @param layout how the file is laid out.
    * @return the new user style, or the first that applies of KOSTYLE_ERROR_ARGUMENT_MISSING (the style has
    *         no name), KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE, KOSTYLE_ERROR_OPEN_FAILED and
    *         KOSTYLE_ERROR_NO_EFFECT; KOSTYLE_ERROR_INVALID_HANDLE for an empty view.
@@ -193,8 +212,11 @@ class MutableStyle : public StyleWithAttributes<std::bidirectional_iterator_tag>
    * What goes wrong while writing or renaming gives no error, and no copy of the old file is kept:
    * safeOverwrite() takes care of that.
    *
-   * @return the user style, or the first that applies of KOSTYLE_ERROR_USER_STYLE_NOT_FOUND (`target` is one
-   *         of another manager), KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE, KOSTYLE_ERROR_OPEN_FAILED (of
+   * @param target the user style, which is found by its id(): one of another manager stands for the user style
+   *        of this manager that has the same.
+   * @param layout how the file is laid out.
+   * @return the user style, or the first that applies of KOSTYLE_ERROR_USER_STYLE_NOT_FOUND (the manager has
+   *         none with the identifier), KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE, KOSTYLE_ERROR_OPEN_FAILED (of
    *         the new file), KOSTYLE_ERROR_WRITE_EMPTY_NAME (the style has no name), KOSTYLE_ERROR_NO_EFFECT
    *         and KOSTYLE_ERROR_TARGET_NOT_REPLACEABLE; KOSTYLE_ERROR_INVALID_HANDLE when this view is empty,
    *         and KOSTYLE_ERROR_ARGUMENT_MISSING when `target` is.
@@ -207,7 +229,9 @@ class MutableStyle : public StyleWithAttributes<std::bidirectional_iterator_tag>
     return written;
   }
 
-  /** Destroys the style with its effects and their parameters; all its views and texts end. */
+  /**
+   * Destroys the style with its effects and their parameters; all views and texts reached through it end.
+   */
   void destroy() const noexcept { MutableStyle_destroy(handle()); }
 };
 

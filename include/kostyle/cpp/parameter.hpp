@@ -20,22 +20,25 @@ class StoredEffect;
 /** A parameter's value: a 32-bit integer, a 32-bit float, or a text, which the parameter owns. */
 using ParameterValue = std::variant<int, float, Text>;
 
-/** A parameter of a stored or of a mutable style. */
+/** A parameter of a stored or of a mutable style. Its effect owns it and, with it, its texts. */
 class Parameter : public View<KoStyleParameter> {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using View::View;
 
   /** The value's type, of enum KoStyleParameterType; KOSTYLE_PARAMETER_NONE for an empty view. */
   int type() const noexcept { return Parameter_type(handle()); }
 
   /**
-   * The name. Unique within a stored effect; MutableParameter::setName() can repeat one. The name "Tarn" of
-   * a file is read as "Tarn630".
+   * The name. Unique within a stored effect, but for texts of a file that differ behind U+0000 alone;
+   * MutableParameter::setName() can repeat one. The name "Tarn" of a file is read as "Tarn630".
    */
   Text name() const noexcept { return Text(Parameter_name(handle())); }
 
-  /** The value, with its type. A text is valid until the parameter ends or its value is set anew. */
+  /**
+   * The value, with its type; the empty text for an empty view. A text is valid until the parameter ends or
+   * its value is set anew.
+   */
   ParameterValue value() const noexcept {
     switch (type()) {
       case KOSTYLE_PARAMETER_INT:
@@ -48,13 +51,13 @@ class Parameter : public View<KoStyleParameter> {
   }
 };
 
-/** A parameter of a system or user style. */
+/** A parameter of a system or user style. It ends with its effect. */
 class StoredParameter : public Parameter {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using Parameter::Parameter;
 
-  /** The effect that owns the parameter. */
+  /** The effect that owns the parameter; empty for an empty view. */
   StoredEffect effect() const noexcept;
 
   /** The parameter after this one in its effect, in the order of names; empty at the end. */
@@ -64,13 +67,13 @@ class StoredParameter : public Parameter {
   StoredParameter previous() const noexcept { return StoredParameter(Parameter_prev(handle())); }
 };
 
-/** A parameter of a mutable style. */
+/** A parameter of a mutable style. It ends with its effect, and by destroy(). */
 class MutableParameter : public Parameter {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using Parameter::Parameter;
 
-  /** The effect that owns the parameter. */
+  /** The effect that owns the parameter; empty for an empty view. */
   MutableEffect effect() const noexcept;
 
   /** The parameter after this one in its effect; empty at the end. */
@@ -102,25 +105,30 @@ class MutableParameter : public Parameter {
    */
   void setValue(float value) const { MutableParameter_setValueFloat(handle(), value); }
 
-  /** Makes the parameter a text, which may be empty; the text of an earlier value ends. */
+  /**
+   * Makes the parameter a text, which may be empty; the text of an earlier value ends. A lone
+   * surrogate is kept in memory, but a file cannot hold it, as it cannot hold an infinity.
+   */
   void setValue(const TextArgument& value) const {
     MutableParameter_setValueString(handle(), value.c_str());
   }
-  /** The same. */
+  /** Makes the parameter a text that the library returned, also one of its own. */
   void setValue(Text value) const { MutableParameter_setValueString(handle(), value.c_str()); }
 
-  /** Takes over a value with its type, of this or of any other parameter. */
+  /** Takes over a value with its type, that of any parameter: `to.setValue(from.value())`. */
   void setValue(const ParameterValue& value) const {
     std::visit([this](auto each) { setValue(each); }, value);
   }
 
-  /** A bool, a character, a double, any number that is neither int nor float is converted by the host. */
+  /**
+   * Not for a bool, a character, a double or any other number than int and float: the host converts them.
+   */
   template <class Number,
             class = std::enable_if_t<std::is_arithmetic_v<Number> && !std::is_same_v<Number, int> &&
                                      !std::is_same_v<Number, float>>>
   void setValue(Number) const = delete;
 
-  /** Takes the parameter out of its effect and destroys it; its handle and its texts end. */
+  /** Takes the parameter out of its effect and destroys it; all its views and its texts end. */
   void destroy() const noexcept { MutableParameter_destroy(handle()); }
 };
 

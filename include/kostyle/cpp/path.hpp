@@ -16,7 +16,8 @@ namespace kostyle {
 
 /**
  * The path that a text of the library means. Outside Windows, where paths are bytes, nothing of a path that
- * is not valid UTF-8 is lost; a text that is no path, as KoStyle_pathFromText() says, gives the empty one.
+ * is not valid UTF-8 is lost; a text that is no path, as KoStyle_pathFromText() says, gives the empty one. The
+ * result is a copy.
  */
 inline std::filesystem::path toPath(Text text) {
 #if defined(_WIN32)
@@ -35,7 +36,7 @@ inline std::filesystem::path toPath(Text text) {
  * without "." and ".." as steps and without a backslash at its end, so that any path of a host will do; one
  * that starts with two backslashes is taken as it is. No prefix for long paths is added: a host that is not
  * aware of them and saves beyond 260 units gives the path with the prefix itself. Elsewhere it is the path
- * itself.
+ * as it is, also a relative one. The result is a copy.
  */
 inline NativeString fromPath(const std::filesystem::path& path) {
 #if defined(_WIN32)

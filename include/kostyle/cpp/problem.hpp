@@ -49,13 +49,15 @@ enum class ProblemKind {
   notReadBack,
   /** What was written is read as something else. */
   readBackDiffers,
-  /** The old file could not be put back, or the new one not be deleted; Problem::where is what is left. */
+  /**
+   * The old file could not be put back, or the new one not be deleted; Problem::where is what is left.
+   */
   notRestored
 };
 
-/** A problem: its kind, and where it is. */
+/** A problem: its kind, and where it is. Plain data of its own, which outlives the style. */
 struct Problem {
-  /** What is the matter. */
+  /** Of which kind the problem is; sentence() says it in words. */
   ProblemKind kind;
 
   /**
@@ -67,7 +69,7 @@ struct Problem {
   /** With `refused`, the library's code; otherwise KOSTYLE_OK. */
   int code = KOSTYLE_OK;
 
-  /** What the system said, if it was asked. */
+  /** What the system said, where a call of it failed; else the error code is not set. */
   std::error_code cause = {};
 
   /** Whether the problem is a loss: the style can be saved, but something of it will not come back. */

@@ -24,25 +24,25 @@ namespace kostyle {
  */
 class PropertyEditor : public View<KoStylePropertyEditor> {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using View::View;
 
   /**
    * Sets the name to be given to the style, in place of one that was set before.
    *
-   * @param name not empty. save() refuses more than KOSTYLE_MAX_NAME_LENGTH units.
-   * @return true; false when the name is empty.
+   * @param name not empty. save() refuses more than KOSTYLE_MAX_NAME_LENGTH UTF-16 units.
+   * @return true; false when the name is empty, or the view.
    */
   bool setName(const TextArgument& name) const {
     return PropertyEditor_setStyleName(handle(), name.c_str());
   }
 
-  /** Adds a sub-genre; false when it is empty or in the editor already. */
+  /** Adds a sub-genre; false when it is empty or in the editor already, and for an empty view. */
   bool addSubGenre(const TextArgument& subGenre) const {
     return PropertyEditor_addSubGenre(handle(), subGenre.c_str());
   }
 
-  /** Adds a colour; false when it is empty or in the editor already. */
+  /** Adds a colour; false when it is empty or in the editor already, and for an empty view. */
   bool addColor(const TextArgument& color) const {
     return PropertyEditor_addColor(handle(), color.c_str());
   }
@@ -52,9 +52,9 @@ class PropertyEditor : public View<KoStylePropertyEditor> {
    * was deleted is made again. The editor keeps what it collected. On success the texts of the style's old
    * name, sub-genres and colours end, each of the three only when it changes.
    *
-   * @return true; false when the editor has no name of 1 to KOSTYLE_MAX_NAME_LENGTH units, or when the file
-   *         cannot be opened: then the file stays as it is, and so does the style, but for one that had no
-   *         name, which keeps the new one.
+   * @return true; false for an empty view, when the editor has no name of 1 to KOSTYLE_MAX_NAME_LENGTH UTF-16
+   *         units, or when the file cannot be opened: then the file stays as it is, and so does the style, but
+   *         for one that had no name, which keeps the new one.
    */
   bool save() const { return PropertyEditor_save(handle(), true); }
 };

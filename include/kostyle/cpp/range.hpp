@@ -147,28 +147,33 @@ class LinkedIterator {
 template <class List, class Category>
 class IndexRange {
  public:
-  /** What an iterator gives. */
+  /** What an iterator gives: a view, a Text, or a number for a language. */
   using value_type = typename List::Value;
-  /** Gives elements by value. */
+  /**
+   * A standard iterator, of the category Category. It gives elements by value; `->`
+   * reaches what such a value has. Iterators of one range compare with each other.
+   */
   using iterator = detail::IndexIterator<List, Category>;
-  /** The same. */
+  /** As `iterator`: elements are views and texts, which no iterator changes. */
   using const_iterator = iterator;
 
   /** Empty. */
   IndexRange() noexcept = default;
-  /** Of an owner's handle. */
+  /** Of the handle of the style, effect or manager that owns the elements; of NULL it is empty. */
   explicit IndexRange(typename List::Owner* owner) noexcept : owner_(owner) {}
 
   /** To the first element. */
   iterator begin() const noexcept { return {owner_, 0}; }
-  /** Behind the last element. */
+  /** Behind the last element; not to be dereferenced. */
   iterator end() const noexcept { return {owner_, size()}; }
   /** The number of elements. */
   std::size_t size() const noexcept { return detail::sizeOf(List::count(owner_)); }
   /** Whether there are none. */
   bool empty() const noexcept { return size() == 0; }
 
-  /** The element at an index; an empty text or view, or -1 for a language, at or past the end. */
+  /**
+   * The element at a zero-based index; an empty text or view, or -1 for a language, at or past the end.
+   */
   value_type operator[](std::size_t index) const noexcept { return List::at(owner_, index); }
 
  private:
@@ -182,28 +187,31 @@ class IndexRange {
 template <class List>
 class LinkedRange {
  public:
-  /** What an iterator gives. */
+  /** What an iterator gives: a view. */
   using value_type = typename List::Value;
-  /** Gives elements by value. */
+  /**
+   * A standard iterator, of the category std::bidirectional_iterator_tag. It gives elements by value; `->`
+   * reaches what such a value has. Iterators of one range compare with each other.
+   */
   using iterator = detail::LinkedIterator<List>;
-  /** The same. */
+  /** As `iterator`: elements are views, which no iterator changes. */
   using const_iterator = iterator;
 
   /** Empty. */
   LinkedRange() noexcept = default;
-  /** Of an owner's handle. */
+  /** Of the handle of the style, effect or manager that owns the elements; of NULL it is empty. */
   explicit LinkedRange(typename List::Owner* owner) noexcept : owner_(owner) {}
 
   /** To the first element. */
   iterator begin() const noexcept { return {owner_, List::at(owner_, 0)}; }
-  /** Behind the last element. */
+  /** Behind the last element; not to be dereferenced. */
   iterator end() const noexcept { return {owner_, value_type()}; }
   /** The number of elements. */
   std::size_t size() const noexcept { return detail::sizeOf(List::count(owner_)); }
   /** Whether there are none. */
   bool empty() const noexcept { return size() == 0; }
 
-  /** The element at an index; an empty view at or past the end. */
+  /** The element at a zero-based index; an empty view at or past the end. */
   value_type operator[](std::size_t index) const noexcept { return List::at(owner_, index); }
 
  private:

@@ -16,7 +16,7 @@ namespace kostyle {
 /** A code of enum KoStyleCode with its sentence. */
 class Error {
  public:
-  /** Of a code that a C function returned. */
+  /** Of a code that a C function returned: any number. */
   constexpr explicit Error(int code) noexcept : code_(code) {}
 
   /** The code; a library that is newer than these headers may give one that is not in the list. */
@@ -38,15 +38,15 @@ class [[nodiscard]] Result {
  public:
   /** Success. */
   Result(Value value) noexcept : value_(std::move(value)) {}
-  /** Failure. */
+  /** Failure, with a code that is not KOSTYLE_OK. */
   Result(Error error) noexcept : error_(error) {}
 
   /** Whether there is a value. */
   bool has_value() const noexcept { return value_.has_value(); }
-  /** The same. */
+  /** As has_value(): `if (result)`. */
   explicit operator bool() const noexcept { return has_value(); }
 
-  /** The value, when there is one. */
+  /** The value, when there is one; it lives in the result. */
   Value& operator*() & noexcept { return *pointer(); }
   /** The value, when there is one. */
   const Value& operator*() const& noexcept { return *pointer(); }
@@ -57,11 +57,14 @@ class [[nodiscard]] Result {
   /** What the value has, when there is one. */
   const Value* operator->() const noexcept { return pointer(); }
 
-  /** Why there is no value; KOSTYLE_OK when there is one. */
+  /**
+   * Why there is no value: the codes are those that the operation names; KOSTYLE_OK when there is a
+   * value.
+   */
   Error error() const noexcept { return error_; }
-  /** The code of error(). */
+  /** The code of error(), of enum KoStyleCode. */
   int code() const noexcept { return error_.code(); }
-  /** The sentence of error(). */
+  /** The sentence of error(), in English; never NULL, and lives for ever. */
   const char* sentence() const noexcept { return error_.sentence(); }
 
  private:
@@ -78,7 +81,7 @@ class [[nodiscard]] Result {
   Error error_{KOSTYLE_OK};
 };
 
-/** Success, or the code that says what went wrong. */
+/** Success, or the code that says what went wrong; tested as Result is. */
 template <>
 class [[nodiscard]] Result<void> {
  public:
@@ -89,14 +92,14 @@ class [[nodiscard]] Result<void> {
 
   /** Whether it is success. */
   bool has_value() const noexcept { return error_.code() == KOSTYLE_OK; }
-  /** The same. */
+  /** As has_value(): `if (result)`. */
   explicit operator bool() const noexcept { return has_value(); }
 
   /** What went wrong; KOSTYLE_OK when nothing did. */
   Error error() const noexcept { return error_; }
-  /** The code of error(). */
+  /** The code of error(), of enum KoStyleCode. */
   int code() const noexcept { return error_.code(); }
-  /** The sentence of error(). */
+  /** The sentence of error(), in English; never NULL, and lives for ever. */
   const char* sentence() const noexcept { return error_.sentence(); }
 
  private:

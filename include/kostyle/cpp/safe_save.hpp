@@ -29,7 +29,7 @@ namespace kostyle {
 
 /** How to save. */
 struct SafeSaveOptions {
-  /** How the file is laid out. */
+  /** How the file is laid out: compact unless said otherwise. */
   Layout layout = Layout::compact;
 
   /**
@@ -39,7 +39,7 @@ struct SafeSaveOptions {
   bool acceptLosses = false;
 };
 
-/** What became of a safe save. */
+/** What became of a safe save: tested like a pointer, as a Result is. */
 struct [[nodiscard]] SafeSaveResult {
   /** The style that was saved; empty when it was not. */
   UserStyle style = {};
@@ -145,14 +145,19 @@ inline SafeSaveResult overwriteRehearsed(Rehearsal& rehearsal, UserStyle target,
  * file, and the mutable style with its effects and parameters; only the user directory may exist now. On
  * success the mutable style is destroyed.
  *
- * Problems are those of findProblems(); `folderFailed`; `refused` with what MutableStyle::save() gives;
+ * Problems are those of findProblems(); `folderFailed`; `refused` with what MutableStyle::save() gives, such as
+ * KOSTYLE_ERROR_INVALID_HANDLE for an empty view, or Manager::create() for the folder that is tried;
  * `notReadBack` and `readBackDiffers` when the file that was tried or saved is not what it should be, as on
  * a full disk; `notRestored` after these two when the new file could not be deleted.
  *
  * In the user style directory stands meanwhile a folder "kostyle-safe-..." with a file in it, which reading
- * passes over; a process that is killed or has no memory may leave it. Where paths are limited its file has the longest, about
- * forty units longer than the style's. When memory runs out after the style was saved, it stays saved, and so
- * does the mutable style.
+ * passes over; a process that is killed or has no memory may leave it. Where paths are limited its file has the
+ * longest, about forty units longer than the style's. When memory runs out after the style was saved, it stays
+ * saved, and so does the mutable style.
+ *
+ * @param style the style; an empty view is refused.
+ * @param options the layout, and whether losses are accepted.
+ * @return the new user style and the losses that were accepted, or why there is none.
  */
 inline SafeSaveResult safeSave(MutableStyle style, const SafeSaveOptions& options = {}) {
   if (!style) return detail::refusedSave(KOSTYLE_ERROR_INVALID_HANDLE);
@@ -173,7 +178,8 @@ inline SafeSaveResult safeSave(MutableStyle style, const SafeSaveOptions& option
  * Overwrites a user style as MutableStyle::overwrite() does, or says why not and leaves the old file as it
  * was. On success the mutable style is destroyed, and what stays and ends of the user style is as there.
  *
- * Problems are those of findProblems() and safeSave(); `vendorLost` when the user style has a vendor text,
+ * Problems are those of findProblems() and safeSave(); `refused` with KOSTYLE_ERROR_USER_STYLE_NOT_FOUND when
+ * `target` is no user style of the manager; `vendorLost` when the user style has a vendor text,
  * which it keeps in memory until its set is read again, even if the file has lost it; `notReplaceable` when
  * its file is missing, on Windows also when it is read-only or held open, or when a new one cannot be moved
  * to its place, as where that is on another file system than the user style directory; `backupFailed`;
@@ -190,8 +196,13 @@ inline SafeSaveResult safeSave(MutableStyle style, const SafeSaveOptions& option
  * A symbolic link in the file's place is replaced as the file would be; what it leads to stays as it is.
  *
  * Beside the file stands meanwhile another one, "kostyle-backup-...", which a process that is killed leaves,
- * or a system that refuses to delete it: it is the old file. When it is a renaming that failed, the new file stays in the user style directory as
- * after MutableStyle::overwrite(), under a UUID without extension.
+ * or a system that refuses to delete it: it is the old file. When it is a renaming that failed, the new file
+ * stays in the user style directory as after MutableStyle::overwrite(), under a UUID without extension.
+ *
+ * @param style the mutable style with the new content; an empty view is refused.
+ * @param target the user style to overwrite, of the same manager.
+ * @param options the layout, and whether losses are accepted.
+ * @return the overwritten user style and the losses that were accepted, or why it was not overwritten.
  */
 inline SafeSaveResult safeOverwrite(MutableStyle style, UserStyle target,
                                     const SafeSaveOptions& options = {}) {

@@ -48,19 +48,25 @@ using AudioEffects = IndexRange<detail::AudioEffectList, std::random_access_iter
 /** The MIDI chain of a stored style. */
 using MidiEffects = IndexRange<detail::MidiEffectList, std::random_access_iterator_tag>;
 
-/** A stored style: a system or a user style. It ends when its set is read again. */
+/**
+ * A stored style: a system or a user style. It ends when its set is read again, and with its manager. Its
+ * manager owns it; it owns its effects, and they own their parameters.
+ */
 class StoredStyle : public StyleWithAttributes<std::random_access_iterator_tag> {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using StyleWithAttributes::StyleWithAttributes;
 
-  /** The identifier, unique over the manager's system and user styles. */
+  /**
+   * The identifier, unique over the manager's system and user styles; never changes, nor does its text
+   * move.
+   */
   Text id() const noexcept { return Text(Style_id(handle())); }
 
   /** The path of the style's file: the directory as it was given, a separator and the file's name. */
   std::filesystem::path path() const { return toPath(pathText()); }
 
-  /** The same as the library has it. */
+  /** path() as the library has it: a text that lives as long as the style, and never changes. */
   Text pathText() const noexcept { return Text(Style_path(handle())); }
 
   /**
@@ -69,23 +75,23 @@ class StoredStyle : public StyleWithAttributes<std::random_access_iterator_tag> 
    */
   Text vendor() const noexcept { return Text(Style_vendor(handle())); }
 
-  /** The audio chain. */
+  /** The audio chain, in its order, which is that of the file. */
   AudioEffects audioEffects() const noexcept { return AudioEffects(handle()); }
-  /** The MIDI chain. */
+  /** The MIDI chain, in its order, which is that of the file. */
   MidiEffects midiEffects() const noexcept { return MidiEffects(handle()); }
 
-  /** Whether an effect is in the audio chain. The effect is only compared. */
+  /** Whether an effect is in the audio chain. It is only compared, so it may have ended. */
   bool has(AudioEffect effect) const noexcept {
     return Style_hasAudioEffect(handle(), effect.handle());
   }
-  /** Whether an effect is in the MIDI chain. The effect is only compared. */
+  /** Whether an effect is in the MIDI chain. It is only compared, so it may have ended. */
   bool has(MidiEffect effect) const noexcept { return Style_hasMidiEffect(handle(), effect.handle()); }
 };
 
 /** A system style: read from a system style directory, and never changed by the library. */
 class SystemStyle : public StoredStyle {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using StoredStyle::StoredStyle;
 
   /** The system style after this one in its manager; empty at the end. */
@@ -95,10 +101,13 @@ class SystemStyle : public StoredStyle {
   SystemStyle previous() const noexcept { return SystemStyle(SystemStyle_prev(handle())); }
 };
 
-/** A user style: read from or saved to a user style directory. */
+/**
+ * A user style: read from or saved to a user style directory. It ends as other stored styles do, and by
+ * remove(). MutableStyle::overwrite() ends its effects, and a property editor some of its texts.
+ */
 class UserStyle : public StoredStyle {
  public:
-  /** Empty, or of a handle, as View. */
+  /** Those of View: empty, or of a handle of the C interface, which must be of this kind, or NULL. */
   using StoredStyle::StoredStyle;
 
   /** The user style after this one in its manager; empty at the end. */
@@ -116,7 +125,11 @@ class UserStyle : public StoredStyle {
    */
   Result<void> remove() const noexcept { return Error(UserStyle_remove(handle())); }
 
-  /** Makes a property editor of the style, empty; one that the style had ends. Empty for an empty view. */
+  /**
+   * Makes a property editor of the style, with nothing collected; one that the style had ends.
+   *
+   * @return the editor, owned by the style; an empty view for an empty view.
+   */
   PropertyEditor edit() const;
 
   /** Destroys the style's property editor, if it has one, with what it collected. */

@@ -26,8 +26,8 @@ using TextView = std::basic_string_view<KoStyleChar>;
 using NativeString = std::basic_string<KoStyleChar>;
 
 /**
- * Native text of UTF-8 that ends with a NUL. Each byte that is part of no valid sequence becomes U+FFFD.
- * NULL is taken as the empty text.
+ * Native text of UTF-8 that ends with a NUL, as a copy. Each byte that is part of no valid sequence becomes
+ * U+FFFD. NULL is taken as the empty text.
  */
 inline NativeString fromUtf8(const char* utf8) {
   NativeString text(KoStyle_textFromUtf8(utf8, nullptr, 0), KoStyleChar());
@@ -35,10 +35,16 @@ inline NativeString fromUtf8(const char* utf8) {
   return text;
 }
 
-/** The same of a view, up to its end or its first NUL. */
+/**
+ * Native text of UTF-8, as a copy: of all of a view, or of what stands in front of its first NUL. Each byte
+ * that is part of no valid sequence becomes U+FFFD.
+ */
 inline NativeString fromUtf8(std::string_view utf8) { return fromUtf8(std::string(utf8).c_str()); }
 
-/** UTF-8 of native text that ends with a NUL. A lone surrogate becomes U+FFFD. NULL is taken as empty. */
+/**
+ * UTF-8 of native text that ends with a NUL, as a copy. A lone surrogate becomes U+FFFD. NULL is taken as the
+ * empty text.
+ */
 inline std::string toUtf8(const KoStyleChar* text) {
   std::string utf8(KoStyle_utf8FromText(text, nullptr, 0), '\0');
   KoStyle_utf8FromText(text, utf8.data(), utf8.size() + 1);
@@ -64,7 +70,10 @@ class Text {
   /** The text with a NUL at its end; never NULL. */
   constexpr const KoStyleChar* c_str() const noexcept { return text_ ? text_ : KOSTYLE_TEXT(""); }
 
-  /** The text with its length, which takes a pass over it. */
+  /**
+   * A view of the text with its length in UTF-16 units, which takes a pass over it; lives as the text
+   * does.
+   */
   constexpr TextView native() const noexcept { return TextView(c_str()); }
 
   /** A copy in UTF-8. A lone surrogate becomes U+FFFD. */
@@ -116,33 +125,38 @@ class Text {
  */
 class TextArgument {
  public:
-  /** Passed as it is. */
+  /** A text that the library returned, passed as it is. */
   TextArgument(Text text) noexcept : text_(text.c_str()) {}
-  /** Passed as it is; ends with a NUL. */
+  /** Native text that ends with a NUL, passed as it is. */
   TextArgument(const KoStyleChar* text) noexcept : text_(text) {}
-  /** Passed as it is. */
+  /** Native text of one's own, passed as it is. */
   TextArgument(const NativeString& text) noexcept : text_(text.c_str()) {}
-  /** Copied. */
+  /** A view of native text, copied. */
   TextArgument(TextView text) : copy_(text), text_(copy_.c_str()) {}
-  /** Converted; ends with a NUL. */
+  /** UTF-8 that ends with a NUL, converted. */
   TextArgument(const char* utf8) : copy_(fromUtf8(utf8)), text_(utf8 ? copy_.c_str() : nullptr) {}
-  /** Converted. */
+  /** UTF-8, converted. */
   TextArgument(const std::string& utf8) : TextArgument(utf8.c_str()) {}
-  /** Converted. */
+  /** A view of UTF-8, converted. */
   TextArgument(std::string_view utf8) : copy_(fromUtf8(utf8)), text_(copy_.c_str()) {}
 #if defined(__cpp_lib_char8_t)
-  /** Converted; ends with a NUL. */
+  /** UTF-8 that ends with a NUL, converted. */
   TextArgument(const char8_t* utf8) : TextArgument(reinterpret_cast<const char*>(utf8)) {}
-  /** Converted. */
+  /** UTF-8, converted. */
   TextArgument(const std::u8string& utf8) : TextArgument(utf8.c_str()) {}
-  /** Converted. */
+  /** A view of UTF-8, converted. */
   TextArgument(std::u8string_view utf8) : TextArgument(std::u8string(utf8)) {}
 #endif
+  /** Not copied: made for one call. */
   TextArgument(const TextArgument&) = delete;
+  /** Not copied: made for one call. */
   TextArgument& operator=(const TextArgument&) = delete;
+  /** Ends what was copied or converted. */
   ~TextArgument() = default;
 
-  /** As the C functions take it. */
+  /**
+   * The text as the C functions take it: with a NUL at its end, or NULL. Lives as long as this object.
+   */
   const KoStyleChar* c_str() const noexcept { return text_; }
 
  private:

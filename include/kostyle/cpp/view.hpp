@@ -25,6 +25,8 @@ inline constexpr bool areComparable = std::is_base_of_v<AnyView, A>&& std::is_ba
  *
  * A view may be empty, as at the end of a walk by next(). Of an empty view functions give what the C
  * functions give for a null handle: empty texts, other empty views, false; ranges are empty.
+ *
+ * A view and what is reached through it are used by one thread at a time, as all that belongs to a manager.
  */
 template <class Handle>
 class View : private detail::AnyView {
@@ -35,7 +37,7 @@ class View : private detail::AnyView {
   /** Of a handle of the C interface, which must be of the kind that the view is for, or NULL. */
   constexpr explicit View(Handle* handle) noexcept : handle_(handle) {}
 
-  /** For the functions of the C interface. */
+  /** The handle, for the functions of the C interface; NULL of an empty view. */
   constexpr Handle* handle() const noexcept { return handle_; }
 
   /** Whether the view refers to an object. */
@@ -52,7 +54,9 @@ constexpr auto operator==(const A& a, const B& b) noexcept
   return a.handle() == b.handle();
 }
 
-/** Whether they refer to different ones. */
+/**
+ * Whether two views refer to different objects. Views of kinds that exclude each other are not compared.
+ */
 template <class A, class B>
 constexpr auto operator!=(const A& a, const B& b) noexcept
     -> std::enable_if_t<detail::areComparable<A, B>, bool> {
