@@ -62,7 +62,8 @@ This package has the module kostyle for Python 3.")
   # Where Debian's Python looks for what packages bring, whatever its version.
   set(pythonFolder lib/python3/dist-packages/kostyle)
   find_package(Python3 REQUIRED COMPONENTS Interpreter)
-  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/kostyle/*.h)
+  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/kostyle/*.h
+       ${PROJECT_SOURCE_DIR}/include/kostyle/cpp/problem.hpp)
   add_custom_command(OUTPUT package-python/codes.py DEPENDS ${pythonSources}/generate.py ${headers} VERBATIM
                      COMMAND ${Python3_EXECUTABLE} -B ${pythonSources}/generate.py ${PROJECT_SOURCE_DIR}/include
                              ${CMAKE_CURRENT_BINARY_DIR}/package-python/codes.py)

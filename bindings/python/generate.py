@@ -1,4 +1,4 @@
-"""Writes the module kostyle.codes from the C headers: version, codes, kinds, limits and their sentences.
+"""Writes the module kostyle.codes from the C and C++ headers: version, codes, kinds, limits and their sentences.
 
 usage: generate.py INCLUDE CODES.PY
 
@@ -84,14 +84,41 @@ def sentence_function(codes: str, helpers: str, function: str, enum_name: str, p
     return lines
 
 
+def problem_kinds(header: str) -> List[str]:
+    """The kinds of problems, but for those that have no sentence of their own: what the library refuses is a code."""
+    body = re.search(r"^enum class ProblemKind \{(.*?)^\};", header, re.M | re.S)
+    texts = re.findall(r'case ProblemKind::(\w+):\s*return ("[^\n]*");', header)
+    last_loss = re.search(r"isLoss\(\).*kind <= ProblemKind::(\w+);", header)
+    if not body or not texts or not last_loss:
+        raise SystemExit("problem.hpp is not what is expected")
+    comments = {kind: one_line(comment) for comment, kind in re.findall(r"/\*\*(.*?)\*/\s*(\w+)", body.group(1), re.S)}
+    losses = list(comments)[:list(comments).index(last_loss.group(1)) + 1]
+    lines = ["", "", "class ProblemKind(enum.Enum):", f'    """{comment_of(header, "class ProblemKind")}"""', ""]
+    for kind, _ in texts:
+        lines += [f'    {constant(kind)} = "{kind}"', f'    """{comments[kind]}"""']
+    lines += ["", "", "LOSSES = {", *[f"    ProblemKind.{constant(kind)}," for kind in losses], "}",
+              '"""The kinds with which a style can be saved, but not all of it comes back."""', "",
+              "_PROBLEM_TEXTS = {", *[f"    ProblemKind.{constant(kind)}: {text}," for kind, text in texts], "}", "", "",
+              "def problem_text(kind: ProblemKind) -> str:",
+              '    """One sentence for a kind of problem, without a capital or a full stop."""',
+              "    return _PROBLEM_TEXTS[kind]"]
+    return lines
+
+
+def constant(name: str) -> str:
+    """vendorLost as VENDOR_LOST."""
+    return re.sub(r"([A-Z])", r"_\1", name).upper()
+
+
 def generate(include: pathlib.Path) -> str:
     codes, helpers = read_header(include, "codes.h"), read_header(include, "helpers.h")
-    lines = ['"""Version, codes, kinds, limits and sentences. Made from the C headers by generate.py."""',
+    lines = ['"""Version, codes, kinds, limits and sentences. Made from the headers by generate.py."""',
              "import enum", "", f'VERSION = "{version(include)}"']
     for entry in ENUMERATIONS:
         lines += enumeration(codes, *entry)
     for function, enum_name, python_enum, name in SENTENCES:
         lines += sentence_function(codes, helpers, function, enum_name, python_enum, name)
+    lines += problem_kinds(read_header(include, "cpp/problem.hpp"))
     return "\n".join(lines) + "\n"
 
 

@@ -1,6 +1,7 @@
 """The package agrees with the released interface and with the C headers' own words."""
 import ctypes
 import enum
+import json
 import os
 import pathlib
 import random
@@ -84,8 +85,16 @@ class CodesTest(unittest.TestCase):
         numbers = re.findall(r"VERSION_(?:MAJOR|MINOR|PATCH) (\d+)$", header, re.M)
         self.assertEqual(kostyle.__version__.split("."), numbers)
 
+    def test_of_problems_are_those_of_cpp(self) -> None:
+        header = (SOURCE / "include" / "kostyle" / "cpp" / "problem.hpp").read_text(encoding="utf-8")
+        sentences = re.findall(r"ProblemKind::(\w+):\s*return (.*);", header)
+        self.assertEqual(sentences.pop([kind for kind, _ in sentences].index("refused")),
+                         ("refused", "KoStyle_codeText(code)"))  # a CodeError here
+        self.assertEqual([(kind.value, kostyle.problem_text(kind)) for kind in codes.ProblemKind],
+                         [(kind, json.loads(sentence)) for kind, sentence in sentences])
+
     def test_have_words_in_their_documentation(self) -> None:
-        for enumeration in (codes.Code, codes.ParseError, codes.Kind, codes.Limit):
+        for enumeration in (codes.Code, codes.ParseError, codes.Kind, codes.Limit, codes.ProblemKind):
             self.assertRegex(enumeration.__doc__ or "", r"^\w.*\.$")
 
 

@@ -223,20 +223,24 @@ class CopyTest(StyleTest):
             expected = kostyle.record_of(style)
             expected.id = expected.vendor = ""
             self.assertEqual(kostyle.record_of(copy), expected)
-            self.assertEqual([finding.place for finding in copy.left_out], ["vendor"])
+            self.assertEqual([problem.where for problem in copy.not_copied], ["vendor"])
 
     def test_of_a_mutable_style_is_another_one(self) -> None:
         style = self.mutable()
         copy = style.mutable_copy()
         copy.name = "Copy"
-        self.assertEqual((style.name, copy.left_out), ("Mutable", ()))
+        self.assertEqual((style.name, copy.not_copied), ("Mutable", ()))
+
+    def test_lists_a_name_that_is_too_long(self) -> None:
+        with self.read_one(document(name="x" * 101)).mutable_copy() as copy:
+            self.assertEqual(list(map(str, copy.not_copied)), ["name: the style has no name"])
 
     def test_lists_what_a_nul_of_the_file_spoils(self) -> None:
         style = self.read_one(document(
             filter={"genres": ["\0x", "a\0b", "a\0c"]},
             audioEffect={"E\0a": {"parameter": {"p\0a": 1, "p\0b": 2, "\0": 3}}, "E\0b": {"parameter": {"p": 1}}}))
         with style.mutable_copy() as copy:
-            self.assertEqual([finding.place for finding in copy.left_out],
-                             ["genres ''", "genres 'a'", "audio effect 'E', parameter ''",
-                              "audio effect 'E', parameter 'p'", "audio effect 'E'"])
+            self.assertEqual([problem.where for problem in copy.not_copied],
+                             ["genres/", "genres/a", "audio/E/", "audio/E/p", "audio/E"])
+            self.assertEqual({problem.kind for problem in copy.not_copied}, {kostyle.ProblemKind.TEXT_LOST})
             self.assertEqual((list(copy.genres), dict(copy.audio_effects[0].parameters)), (["a"], {"p": 1}))

@@ -10,24 +10,29 @@ from typing import Any, Callable, Iterator, List, Tuple
 from unittest import mock
 
 import kostyle
-from kostyle import safe_save
+from kostyle import ProblemKind, safe_save
 
 from support import StyleTest, document
 
 # How a style comes to hold something that does not come back, and what is said about it.
-LOSSES: List[Tuple[str, str, Callable[[kostyle.MutableStyle], Any]]] = [
-    ("'Empty'", "no effect without parameters", lambda style: style.midi_effects.append("Empty")),
-    ("'p'", "an infinity", lambda style: style.audio_effects[0].add_parameter("p", math.inf)),
-    ("'p'", "an infinity", lambda style: style.audio_effects[0].add_parameter("p", -math.inf)),
-    ("'p'", "NaN", lambda style: style.audio_effects[0].add_parameter("p", math.nan)),
-    ("'Tarn'", "Tarn630", lambda style: style.audio_effects[0].add_parameter("Tarn", 1)),
-    ("'hold'", "one name", lambda style: setattr(style.audio_effects[0].add_parameter("p", 1), "name", "hold")),
-    ("'p'", "lone surrogate", lambda style: style.audio_effects[0].add_parameter("p", "\ud83c")),
-    ("parameter", "lone surrogate", lambda style: style.audio_effects[0].add_parameter("\udfb5", 1)),
-    ("MIDI effect", "lone surrogate", lambda style: style.midi_effects.append("\udfb5").add_parameter("p", 1)),
-    ("name", "lone surrogate", lambda style: setattr(style, "name", "x\ud83c")),
-    ("genres", "lone surrogate", lambda style: style.genres.add("\udfb5")),
-    ("singer_ids", "lone surrogate", lambda style: style.singer_ids.add("\udfb5" * 16)),
+PROBLEMS: List[Tuple[str, ProblemKind, Callable[[kostyle.MutableStyle], Any]]] = [
+    ("midi/Empty", ProblemKind.EFFECT_WITHOUT_PARAMETERS, lambda style: style.midi_effects.append("Empty")),
+    ("audio/Gate/p", ProblemKind.INFINITE, lambda style: style.audio_effects[0].add_parameter("p", math.inf)),
+    ("audio/Gate/p", ProblemKind.INFINITE, lambda style: style.audio_effects[0].add_parameter("p", -math.inf)),
+    ("audio/Gate/p", ProblemKind.NOT_A_NUMBER, lambda style: style.audio_effects[0].add_parameter("p", math.nan)),
+    ("audio/Gate/Tarn", ProblemKind.PARAMETER_RENAMED,
+     lambda style: style.audio_effects[0].add_parameter("Tarn", 1)),
+    ("audio/Gate/hold", ProblemKind.PARAMETER_REPEATED,
+     lambda style: setattr(style.audio_effects[0].add_parameter("p", 1), "name", "hold")),
+    ("audio/Gate/p", ProblemKind.LONE_SURROGATE, lambda style: style.audio_effects[0].add_parameter("p", "\ud83c")),
+    ("audio/Gate/\ufffd", ProblemKind.LONE_SURROGATE,
+     lambda style: style.audio_effects[0].add_parameter("\udfb5", 1)),
+    ("midi/\ufffd", ProblemKind.LONE_SURROGATE,
+     lambda style: style.midi_effects.append("\udfb5").add_parameter("p", 1)),
+    ("name", ProblemKind.LONE_SURROGATE, lambda style: setattr(style, "name", "x\ud83c")),
+    ("genres/\ufffd", ProblemKind.LONE_SURROGATE, lambda style: style.genres.add("\udfb5")),
+    ("singerIDs/" + "\ufffd" * 16, ProblemKind.LONE_SURROGATE, lambda style: style.singer_ids.add("\udfb5" * 16)),
+    ("", ProblemKind.NO_EFFECT, lambda style: style.audio_effects[0].destroy()),
 ]
 
 
@@ -61,32 +66,45 @@ class SafeTest(StyleTest):
         return [style.save_safely, lambda: style.overwrite_safely(self.target)]
 
 
-class CheckTest(SafeTest):
-    def test_finds_each_loss_before_anything_is_written(self) -> None:
-        for place, reason, spoil in LOSSES:
+class FindProblemsTest(SafeTest):
+    def test_finds_each_before_anything_is_written(self) -> None:
+        for where, kind, spoil in PROBLEMS:
             style = self.mutable()
             spoil(style)
             for save in self.saves(style):
-                with self.subTest(place=place, reason=reason), self.assertRaises(kostyle.UnsafeError) as caught:
+                with self.subTest(where=where, kind=kind), self.assertRaises(kostyle.UnsafeError) as caught:
                     save()
-                [finding] = caught.exception.findings
-                self.assertIn(place, finding.place)
-                self.assertIn(reason, finding.reason)
-                self.assertEqual((finding,), kostyle.check(style))
+                self.assertEqual(caught.exception.problems, (kostyle.Problem(kind, where),))
+                self.assertEqual(caught.exception.problems, kostyle.find_problems(style))
             self.assertFalse(style.ended)
         self.expect_all_as_it_was()
+
+    def test_finds_that_all_is_missing(self) -> None:
+        with self.manager.create_mutable_style() as style:
+            self.assertEqual(list(map(str, kostyle.find_problems(style))),
+                             ["name: the style has no name", "the style has no effect with a parameter"])
+
+    def test_finds_a_name_that_repeats_when_it_is_read(self) -> None:
+        style = self.mutable()
+        style.audio_effects[0].parameters.update({"Tarn": 1, "Tarn630": 2})
+        self.assertEqual([problem.kind for problem in kostyle.find_problems(style)],
+                         [ProblemKind.PARAMETER_RENAMED, ProblemKind.PARAMETER_REPEATED])
 
     def test_finds_nothing_else(self) -> None:
         style = self.mutable("\U0001f3b5 \u00e9 \" \\ \n")
         style.audio_effects[0].parameters.update({"Tarn630": 1, "tarn": 2})
-        self.assertEqual(kostyle.check(style), ())
+        self.assertEqual(kostyle.find_problems(style), ())
+
+    def test_finds_no_repetition_in_names_that_only_look_alike(self) -> None:
+        style = self.read_one(document(audioEffect={"A": {"parameter": {"x": 1, "x\0y": 2}}}))
+        self.assertEqual(kostyle.find_problems(style), ())
 
     def test_tells_of_a_stored_style_that_its_file_cannot_be_written_again(self) -> None:
-        style = self.read_one(document(audioEffect={"A": {"parameter": {"x": 1e300}}, "B": {"parameter": {"x": None}},
-                                                    "C": {"parameter": {"x": "\udfb5"}}}))
+        style = self.read_one(document(vendor="Maker", audioEffect={
+            "A": {"parameter": {"x": 1e300}}, "B": {"parameter": {"x": None}}, "C": {"parameter": {"x": "\udfb5"}}}))
         before = style.path.read_bytes()
-        self.assertEqual([finding.place for finding in kostyle.check(style)],
-                         ["audio effect 'A', parameter 'x'", "audio effect 'B'", "audio effect 'C', parameter 'x'"])
+        self.assertEqual([problem.where for problem in kostyle.find_problems(style)],
+                         ["vendor", "audio/A/x", "audio/B", "audio/C/x"])
         with style.property_editor() as editor:
             editor.name = "New"
             with self.assertRaises(kostyle.UnsafeError):
@@ -162,7 +180,7 @@ class SuccessTest(SafeTest):
         style = self.mutable("New")
         with self.assertRaises(kostyle.UnsafeError) as caught:
             style.overwrite_safely(target)
-        self.assertEqual([finding.place for finding in caught.exception.findings], ["vendor"])
+        self.assertEqual([problem.where for problem in caught.exception.problems], ["vendor"])
         self.assertEqual(target.path.read_bytes(), before)
         style.overwrite_safely(target, accept_losses=True)
         self.assertEqual(target.name, "New")
@@ -172,7 +190,7 @@ class SuccessTest(SafeTest):
         with self.target.property_editor() as editor:
             editor.name = "New"
             editor.add_color("red")
-            self.assertEqual([finding.place for finding in editor.save_safely()], ["vendor"])
+            self.assertEqual([problem.where for problem in editor.save_safely()], ["vendor"])
         self.assertEqual((self.target.name, self.target.colors), ("New", ("red",)))
         self.assertEqual([path.name for path in self.user.iterdir()], ["one.kostyle"])
 
@@ -201,6 +219,9 @@ class FailureTest(SafeTest):
         self.assertIsNone(caught.exception.backup)
         return caught.exception
 
+    def assert_kinds(self, failure: kostyle.NotSavedError, *kinds: ProblemKind) -> None:
+        self.assertEqual([problem.kind for problem in failure.problems], list(kinds))
+
     def big(self) -> kostyle.MutableStyle:
         style = self.mutable("Big")
         style.genres.update([f"genre {number}" for number in range(2000)])
@@ -221,7 +242,7 @@ class FailureTest(SafeTest):
     def test_on_a_full_disk_does_not_begin_to_edit(self) -> None:
         with self.target.property_editor() as editor, full_disk(10):
             editor.name = "New"
-            self.assertIn("backup", str(self.expect_not_saved(editor.save_safely)))
+            self.assert_kinds(self.expect_not_saved(editor.save_safely), ProblemKind.BACKUP_FAILED)
         self.expect_all_as_it_was()
 
     @unittest.skipIf(os.name == "nt", "files cannot be bounded there")
@@ -292,7 +313,7 @@ class FailureTest(SafeTest):
         with self.target.property_editor() as editor, mock.patch.object(safe_save, "scan", another):
             editor.name = "New"
             for save in (*self.saves(style), editor.save_safely):
-                self.assertIn("does not hold what was written", str(self.expect_not_saved(save)))
+                self.assert_kinds(self.expect_not_saved(save), ProblemKind.READ_BACK_DIFFERS)
                 self.expect_all_as_it_was()
 
     def test_to_delete_the_new_file_tells_where_it_is(self) -> None:
@@ -303,14 +324,16 @@ class FailureTest(SafeTest):
         with mock.patch.object(safe_save, "scan", vanished):
             failure = self.expect_not_saved(self.mutable().save_safely)
         self.assertEqual(failure.path.parent, self.user)
-        self.assertIn(f"{os.strerror(2)}; and it cannot be deleted", str(failure))
+        self.assert_kinds(failure, ProblemKind.NOT_READ_BACK, ProblemKind.NOT_RESTORED)
+        self.assertEqual([problem.where for problem in failure.problems], [str(failure.path)] * 2)
+        self.assertEqual(failure.problems[0].cause, os.strerror(2))
 
     def test_to_read_back_by_a_code_is_the_same(self) -> None:
         style = self.mutable()
         broken = kostyle.CodeError(kostyle.Code.DIRECTORY_MISSING, "x")
         for save in self.saves(style):
             with mock.patch.object(safe_save, "scan", side_effect=broken):
-                self.assertIn("read again", str(self.expect_not_saved(save)))
+                self.assert_kinds(self.expect_not_saved(save), ProblemKind.NOT_READ_BACK)
             self.expect_all_as_it_was()
 
     def test_to_read_back_leaves_all_as_it_was(self) -> None:
@@ -330,7 +353,7 @@ class FailureTest(SafeTest):
         style = self.mutable()
         for save in self.saves(style):
             with mock.patch.object(safe_save, "scan", return_value=[other]):
-                self.assertIn("does not hold what was written", str(self.expect_not_saved(save)))
+                self.assert_kinds(self.expect_not_saved(save), ProblemKind.READ_BACK_DIFFERS)
             self.expect_all_as_it_was()
 
     def test_to_put_the_file_back_tells_where_it_is(self) -> None:
@@ -342,18 +365,23 @@ class FailureTest(SafeTest):
         assert backup is not None
         self.assertEqual(backup.read_bytes(), self.before)
         self.assertNotEqual(backup.suffix, ".kostyle")
-        self.assertIn(str(backup), str(caught.exception))
+        self.assert_kinds(caught.exception, ProblemKind.NOT_READ_BACK, ProblemKind.NOT_RESTORED)
+        self.assertEqual(caught.exception.problems[1].where, str(backup))
 
     def test_of_the_library_leaves_all_as_it_was(self) -> None:
-        style = self.manager.create_mutable_style()
-        style.audio_effects.append("Gate").parameters["hold"] = 1
-        with self.assertRaises(kostyle.CodeError):
-            style.overwrite_safely(self.target)
-        self.expect_all_as_it_was()
+        refused = kostyle.CodeError(kostyle.Code.OPEN_FAILED, "x")
+        style = self.mutable()
+        for save, name in zip(self.saves(style), ("save", "overwrite")):
+            with mock.patch.object(kostyle.MutableStyle, name, side_effect=refused):
+                with self.assertRaises(kostyle.CodeError):
+                    save()
+            self.assertFalse(style.ended)
+            self.expect_all_as_it_was()
 
     def test_when_the_target_is_gone(self) -> None:
         self.target.path.unlink()
-        self.assertIn("backup", str(self.expect_not_saved(lambda: self.mutable().overwrite_safely(self.target))))
+        failure = self.expect_not_saved(lambda: self.mutable().overwrite_safely(self.target))
+        self.assert_kinds(failure, ProblemKind.BACKUP_FAILED)
 
     @unittest.skipIf(os.name == "nt", "links are made by os.link() there")
     def test_without_links_makes_a_copy(self) -> None:

@@ -1,5 +1,6 @@
 /*
- * KoStyle for C++: what is lost, cannot be written or went wrong when a style is copied or saved with care.
+ * KoStyle for C++: what is lost, cannot be written or went wrong when a style is copied or saved with care. The
+ * Python package takes kinds and sentences from here.
  */
 #ifndef KOSTYLE_CPP_PROBLEM_HPP
 #define KOSTYLE_CPP_PROBLEM_HPP
@@ -13,7 +14,7 @@
 
 namespace kostyle {
 
-/** The kind of a problem. Later versions may add some. */
+/** The kind of a problem when a style is copied or saved with care. Later versions may add some. */
 enum class ProblemKind {
   /** The vendor text: no mutable style has one, and no file that the library writes. A loss. */
   vendorLost,
@@ -50,7 +51,7 @@ enum class ProblemKind {
   /** What was written is read as something else. */
   readBackDiffers,
   /**
-   * The old file could not be put back, or the new one not be deleted; Problem::where is what is left.
+   * The old file could not be put back, or the new one not be deleted; `where` is what is left.
    */
   notRestored
 };

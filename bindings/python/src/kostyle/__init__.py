@@ -22,10 +22,12 @@ process ends.
 Text is Python's str; lengths count UTF-16 units. A text with U+0000 is refused. A lone surrogate is taken, but
 cannot be written.
 """
-from .codes import (VERSION, Code, EffectKind, Kind, Limit, ParameterType, ParseError, code_text, parse_error_text)
+from .codes import (VERSION, Code, EffectKind, Kind, Limit, ParameterType, ParseError, ProblemKind, code_text,
+                    parse_error_text, problem_text)
 from .creation_results import CreationResult
 from .effects import Chain, Effect, MutableChain, MutableEffect
-from .errors import CodeError, EndedError, Error, Finding, LibraryError, NotSavedError, RefusedError, UnsafeError
+from .errors import CodeError, EndedError, Error, LibraryError, NotSavedError, Problem, RefusedError, UnsafeError
+from .find_problems import find_problems
 from .manager import Manager, StyleSet
 from .mutable import MutableStyle
 from .attributes import MutableAttributes
@@ -33,7 +35,6 @@ from .parameters import MutableParameter, Parameter, ParameterValue
 from .places import find_line
 from .property_editor import PropertyEditor
 from .records import EffectRecord, FileRecord, Refusal, StyleRecord, record_of
-from .safe_save import check
 from .scan import scan
 from .styles import StoredStyle, Style, SystemStyle, UserStyle
 
@@ -41,9 +42,9 @@ __version__ = VERSION
 
 __all__ = [
     "Chain", "Code", "CodeError", "CreationResult", "Effect", "EffectKind", "EffectRecord", "EndedError", "Error",
-    "FileRecord", "Finding", "Kind", "LibraryError", "Limit", "Manager", "MutableAttributes", "MutableChain",
-    "MutableEffect", "MutableParameter", "MutableStyle", "NotSavedError", "Parameter", "ParameterType",
-    "ParameterValue", "ParseError", "PropertyEditor", "Refusal", "RefusedError", "StoredStyle", "Style", "StyleRecord",
-    "StyleSet", "SystemStyle", "UnsafeError", "UserStyle", "VERSION", "check", "code_text", "find_line",
-    "parse_error_text", "record_of", "scan",
+    "FileRecord", "Kind", "LibraryError", "Limit", "Manager", "MutableAttributes", "MutableChain", "MutableEffect",
+    "MutableParameter", "MutableStyle", "NotSavedError", "Parameter", "ParameterType", "ParameterValue", "ParseError",
+    "Problem", "ProblemKind", "PropertyEditor", "Refusal", "RefusedError", "StoredStyle", "Style", "StyleRecord",
+    "StyleSet", "SystemStyle", "UnsafeError", "UserStyle", "VERSION", "code_text", "find_line", "find_problems",
+    "parse_error_text", "problem_text", "record_of", "scan",
 ]

@@ -15,6 +15,9 @@ A = TypeVar("A")
 LISTS = ("languages", "singer_groups", "singer_ids", "genres", "sub_genres", "colors")
 """The names of the lists, as a style and a StyleRecord have them, in the order of the file."""
 
+IN_FILES = dict(zip(LISTS, ("languages", "singerGroups", "singerIDs", "genres", "subGenres", "colors")))
+"""What they are called in a file, and so in a Problem."""
+
 _NOT_EMPTY = "not empty"
 
 

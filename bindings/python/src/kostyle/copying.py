@@ -3,63 +3,65 @@ from __future__ import annotations
 
 from typing import Any, Iterable, List
 
-from .attributes import LISTS, MutableAttributes
+from .attributes import IN_FILES, LISTS, MutableAttributes
+from .codes import ProblemKind
 from .effects import MutableChain, MutableEffect
-from .errors import Finding, RefusedError
+from .errors import Problem, RefusedError
+from .find_problems import place, problem_of_vendor
 from .mutable import MutableStyle
 from .records import EffectRecord, StyleRecord, record_of
 from .styles import Style
 
-_CUT_SHORT = "refused, because a U+0000 of the file cuts it short or makes it look repeated"
-
 
 def mutable_copy(style: Style) -> MutableStyle:
-    """A new mutable style of the same manager with all that can be copied; `left_out` lists the rest."""
+    """A new mutable style of the same manager with all that can be copied; `not_copied` lists the rest."""
     record = record_of(style)
     copy = style.manager.create_mutable_style()
     try:
-        copy.left_out = tuple(_fill(copy, record))
+        copy.not_copied = tuple(_fill(copy, record))
     except BaseException:
         copy.destroy()
         raise
     return copy
 
 
-def _fill(copy: MutableStyle, record: StyleRecord) -> List[Finding]:
-    left_out = [Finding("vendor", f"a mutable style has none: {record.vendor!r}")] if record.vendor else []
+def _fill(copy: MutableStyle, record: StyleRecord) -> List[Problem]:
+    not_copied = [*problem_of_vendor(record)]
     if record.name:
         copy.name = record.name
+    else:
+        not_copied.append(Problem(ProblemKind.NAME_MISSING, "name"))
     for name in LISTS:
-        left_out += _fill_list(name, getattr(copy, name), getattr(record, name))
-    left_out += _fill_chain("audio effect", copy.audio_effects, record.audio_effects)
-    left_out += _fill_chain("MIDI effect", copy.midi_effects, record.midi_effects)
-    return left_out
+        not_copied += _fill_list(IN_FILES[name], getattr(copy, name), getattr(record, name))
+    not_copied += _fill_chain("audio", copy.audio_effects, record.audio_effects)
+    not_copied += _fill_chain("midi", copy.midi_effects, record.midi_effects)
+    return not_copied
 
 
-def _fill_list(name: str, values: MutableAttributes[Any], stored: Iterable[Any]) -> List[Finding]:
-    left_out = []
-    for value in stored:
-        if not values._add_new(value):
-            left_out.append(Finding(f"{name} {value!r}", _CUT_SHORT))
-    return left_out
+def _fill_list(name: str, values: MutableAttributes[Any], stored: Iterable[Any]) -> List[Problem]:
+    return [_text_lost(name, str(value)) for value in stored if not values._add_new(value)]
 
 
-def _fill_chain(kind: str, chain: MutableChain, effects: Iterable[EffectRecord]) -> List[Finding]:
-    left_out = []
+def _fill_chain(name: str, chain: MutableChain, effects: Iterable[EffectRecord]) -> List[Problem]:
+    not_copied = []
     for effect in effects:
-        place = f"{kind} {effect.id!r}"
         try:
-            left_out += _fill_effect(place, chain.append(effect.id), effect)
+            not_copied += _fill_effect(name, chain.append(effect.id), effect)
         except RefusedError:
-            left_out.append(Finding(place, _CUT_SHORT))
-    return left_out
+            not_copied.append(_text_lost(name, effect.id))
+    return not_copied
 
 
-def _fill_effect(place: str, copy: MutableEffect, effect: EffectRecord) -> List[Finding]:
-    left_out = []
+def _fill_effect(chain: str, copy: MutableEffect, effect: EffectRecord) -> List[Problem]:
+    not_copied = []
     for name, value in effect.parameters:
         try:
             copy.add_parameter(name, value)
         except RefusedError:
-            left_out.append(Finding(f"{place}, parameter {name!r}", _CUT_SHORT))
-    return left_out
+            not_copied.append(_text_lost(chain, effect.id, name))
+    return not_copied
+
+
+def _text_lost(*steps: str) -> Problem:
+    """A U+0000 of the file cuts a text short, which then is refused or looks repeated."""
+    return Problem(ProblemKind.TEXT_LOST, place(*steps))

@@ -5,7 +5,7 @@ import dataclasses
 import pathlib
 from typing import Optional, Sequence, Tuple
 
-from .codes import Code, code_text
+from .codes import LOSSES, Code, ProblemKind, code_text, problem_text
 
 
 class Error(Exception):
@@ -52,45 +52,61 @@ class CodeError(Error):
 
 
 @dataclasses.dataclass(frozen=True)
-class Finding:
-    """Something that would not come back from a file, or was not taken over into a copy."""
+class Problem:
+    """What is lost, cannot be written or went wrong when a style is copied or saved with care.
 
-    place: str
-    """Where, as "vendor" or "audio effect 'Reverb', parameter 'mix'"."""
-    reason: str
-    """Why, in words, without a capital or a full stop."""
-    is_loss: bool = dataclasses.field(default=False, compare=False)
-    """Whether a style can be saved all the same, and is then read without it or otherwise."""
+    >>> problem = kostyle.Problem(kostyle.ProblemKind.VENDOR_LOST, "vendor")
+    >>> str(problem), problem.is_loss
+    ('vendor: the vendor text is lost', True)
+    """
+
+    kind: ProblemKind
+    """What is the matter."""
+    where: str
+    """A path in the style ("name", "genres/Pop", "audio/Reverb", "audio/Reverb/mix"), empty for the whole style,
+    or the path of a file."""
+    cause: str = ""
+    """What is known besides, as what the system said; may be empty."""
+
+    @property
+    def sentence(self) -> str:
+        """The kind in words, without a capital or a full stop."""
+        return problem_text(self.kind)
+
+    @property
+    def is_loss(self) -> bool:
+        """Whether the style can be saved all the same, but something of it will not come back."""
+        return self.kind in LOSSES
 
     def __str__(self) -> str:
-        return f"{self.place}: {self.reason}"
+        place = f"{self.where}: " if self.where else ""
+        return place + self.sentence + (f" ({self.cause})" if self.cause else "")
 
 
 class UnsafeError(Error):
     """What was to be saved would not come back from its file. Nothing was written."""
 
-    def __init__(self, findings: Sequence[Finding]) -> None:
-        super().__init__(findings)
-        self.findings: Tuple[Finding, ...] = tuple(findings)
+    def __init__(self, problems: Sequence[Problem]) -> None:
+        super().__init__(problems)
+        self.problems: Tuple[Problem, ...] = tuple(problems)
         """All that would not come back."""
 
     def __str__(self) -> str:
-        return "; ".join(map(str, self.findings))
+        return "; ".join(map(str, self.problems))
 
 
 class NotSavedError(Error):
     """What was written did not come back from its file. A new file was removed; a file that was to be
-    overwritten is as it was, or `backup` says where it lies."""
+    overwritten is as it was. Where that failed too, the last problem is ProblemKind.NOT_RESTORED."""
 
-    def __init__(self, path: pathlib.Path, reason: str, backup: Optional[pathlib.Path] = None) -> None:
-        super().__init__(path, reason, backup)
+    def __init__(self, path: pathlib.Path, problems: Sequence[Problem], backup: Optional[pathlib.Path] = None) -> None:
+        super().__init__(path, problems, backup)
         self.path = path
         """The file."""
-        self.reason = reason
-        """Why it did not come back, in words."""
+        self.problems: Tuple[Problem, ...] = tuple(problems)
+        """What went wrong: BACKUP_FAILED, NOT_READ_BACK or READ_BACK_DIFFERS, and perhaps NOT_RESTORED."""
         self.backup = backup
         """The file as it was, when it could not be put back in its place; else None."""
 
     def __str__(self) -> str:
-        kept = f"; the style as it was is kept in {self.backup}" if self.backup else ""
-        return f"{self.path}: {self.reason}{kept}"
+        return "; ".join(map(str, self.problems))

@@ -3,10 +3,12 @@ from __future__ import annotations
 
 import contextlib
 import weakref
+from types import TracebackType
 from typing import Callable, Generic, Iterator, List, Optional, Sequence, Type, TypeVar, Union, overload
 
 from .errors import CodeError, EndedError
 
+D = TypeVar("D", bound="Destroyable")
 H = TypeVar("H", bound="Handle")
 T = TypeVar("T", covariant=True)
 
@@ -100,6 +102,25 @@ class Handle:
 
     def __reduce__(self) -> str:
         raise TypeError(f"a {type(self).__name__} cannot leave its process; record_of() gives a style's plain data")
+
+
+class Destroyable(Handle):
+    """What can be ended by hand: behind `with` it is destroyed, unless it has ended already."""
+
+    def __enter__(self: D) -> D:
+        return self
+
+    def __exit__(self, kind: Optional[Type[BaseException]], error: Optional[BaseException],
+                 trace: Optional[TracebackType]) -> None:
+        self.destroy()
+
+    def destroy(self) -> None:
+        """Ends the object with all that it holds; without effect when it has ended already."""
+        if not self.ended:
+            self._destroy(self._destroy_in_library, "it was destroyed")
+
+    def _destroy_in_library(self, address: int) -> None:
+        raise NotImplementedError
 
 
 class HandleSequence(Sequence[T], Generic[T]):

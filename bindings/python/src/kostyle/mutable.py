@@ -3,19 +3,19 @@ from __future__ import annotations
 
 import contextlib
 import ctypes
-from types import TracebackType
-from typing import Optional, Tuple, Type
+from typing import Tuple
 
 from .attributes import MutableAttributes, MutableLanguages, MutableTexts
 from .codes import Code, EffectKind, Limit
 from .effects import Effect, MutableChain
-from .errors import CodeError, Finding, RefusedError
+from .errors import CodeError, Problem, RefusedError
 from .functions import c
+from .handles import Destroyable
 from .styles import Style, UserStyle
 from .text import decode, encode
 
 
-class MutableStyle(Style):
+class MutableStyle(Style, Destroyable):
     """A style in memory that is being made. Ends when it is saved or destroyed, and with its manager; behind
     `with` it is destroyed unless it was saved.
 
@@ -30,20 +30,11 @@ class MutableStyle(Style):
     (True, True)
     """
 
-    left_out: Tuple[Finding, ...] = ()
+    not_copied: Tuple[Problem, ...] = ()
     """What mutable_copy() could not take over."""
 
-    def __enter__(self) -> MutableStyle:
-        return self
-
-    def __exit__(self, kind: Optional[Type[BaseException]], error: Optional[BaseException],
-                 trace: Optional[TracebackType]) -> None:
-        self.destroy()
-
-    def destroy(self) -> None:
-        """Destroys the style, if it has not ended already."""
-        if not self.ended:
-            self._destroy(c.MutableStyle_destroy, "it was destroyed")
+    def _destroy_in_library(self, address: int) -> None:
+        c.MutableStyle_destroy(address)
 
     @property
     def name(self) -> str:
@@ -131,7 +122,7 @@ class MutableStyle(Style):
 
     def save_safely(self, *, pretty: bool = True, accept_losses: bool = False) -> UserStyle:
         """save(), with care: raises UnsafeError before anything is written when something would not come
-        back, unless all of it is a loss (Finding.is_loss) and `accept_losses` is true; reads the new file with a
+        back, unless all of it is a loss (Problem.is_loss) and `accept_losses` is true; reads the new file with a
         manager of its own; and when it does not hold what was written, on a full disk say, removes it and raises
         NotSavedError. On any failure this style stays as it is."""
         from .safe_save import save_safely

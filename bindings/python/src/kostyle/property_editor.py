@@ -1,13 +1,12 @@
 """Giving a user style another name, other sub-genres and other colours."""
 from __future__ import annotations
 
-from types import TracebackType
-from typing import Iterable, List, Optional, Tuple, Type, TYPE_CHECKING
+from typing import Iterable, List, Optional, Tuple, TYPE_CHECKING
 
 from .codes import Code, Limit
-from .errors import CodeError, Finding, RefusedError
+from .errors import CodeError, Problem, RefusedError
 from .functions import c
-from .handles import Handle
+from .handles import Destroyable, Handle
 from .text import encode, units
 
 if TYPE_CHECKING:
@@ -15,7 +14,7 @@ if TYPE_CHECKING:
     from .styles import UserStyle
 
 
-class PropertyEditor(Handle):
+class PropertyEditor(Destroyable):
     """Collects a name, sub-genres and colours, and writes the user style's own file anew with them. It
     starts empty: what the style has of the three is replaced, not extended. Ends with its style, when the
     style gets another editor, and behind `with`.
@@ -24,7 +23,7 @@ class PropertyEditor(Handle):
     >>> with demo.property_editor() as editor:
     ...     editor.name = "Kitchen demo, take 4"
     ...     editor.add_color("green")
-    ...     left_out = editor.save_safely()
+    ...     lost = editor.save_safely()
     >>> demo.name, demo.sub_genres, demo.colors
     ('Kitchen demo, take 4', (), ('green',))
     """
@@ -35,18 +34,8 @@ class PropertyEditor(Handle):
         self._sub_genres: List[str] = []
         self._colors: List[str] = []
 
-    def __enter__(self) -> PropertyEditor:
-        return self
-
-    def __exit__(self, kind: Optional[Type[BaseException]], error: Optional[BaseException],
-                 trace: Optional[TracebackType]) -> None:
-        self.destroy()
-
-    def destroy(self) -> None:
-        """Ends the editor with what it collected; without effect when it has ended already."""
-        if not self.ended:
-            style = self._style._handle
-            self._destroy(lambda _: c.UserStyle_destroyPropertyEditor(style), "it was destroyed")
+    def _destroy_in_library(self, address: int) -> None:
+        c.UserStyle_destroyPropertyEditor(self._style._handle)
 
     @property
     def _style(self) -> UserStyle:
@@ -93,13 +82,16 @@ class PropertyEditor(Handle):
         """Writes the file in place, without a copy and without looking back: a full disk goes unnoticed,
         and the vendor text is lost. Raises RefusedError without a name of 1 to Limit.MAX_NAME_LENGTH units,
         and CodeError when the file cannot be opened; nothing is written then. The editor keeps what it has."""
-        if c.PropertyEditor_save(self._handle, True):
-            return
+        self._require_name()
+        if not c.PropertyEditor_save(self._handle, True):
+            raise CodeError(Code.OPEN_FAILED, str(self._style.path))
+
+    def _require_name(self) -> None:
+        self._handle
         if not 1 <= units(self._name) <= Limit.MAX_NAME_LENGTH:
             raise RefusedError(f"a style's name has 1 to {int(Limit.MAX_NAME_LENGTH)} UTF-16 units: {self._name!r}")
-        raise CodeError(Code.OPEN_FAILED, str(self._style.path))
 
-    def save_safely(self) -> Tuple[Finding, ...]:
+    def save_safely(self) -> Tuple[Problem, ...]:
         """save(), with the care of MutableStyle.save_safely(): raises UnsafeError before it writes when the
         style holds what cannot be written again, reads back what it wrote, and raises NotSavedError with
         the file and the style as they were; a style without a name then shows the new properties until it is read

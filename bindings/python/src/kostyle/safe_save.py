@@ -5,81 +5,27 @@ from __future__ import annotations
 import contextlib
 import dataclasses
 import filecmp
-import math
 import os
 import pathlib
 import shutil
 import sys
 import uuid
-from typing import Callable, Dict, Iterable, Iterator, Tuple
+from typing import Callable, Dict, Iterable, Iterator, Optional, Tuple
 
 from .attributes import LISTS
-from .errors import CodeError, Finding, NotSavedError, UnsafeError
+from .codes import ProblemKind
+from .errors import CodeError, NotSavedError, Problem, UnsafeError
+from .find_problems import name_as_read, problem_of_vendor, problems_of
 from .mutable import MutableStyle
 from .parameters import ParameterValue
 from .property_editor import PropertyEditor
 from .records import EffectRecord, Parameters, StyleRecord, record_of
 from .scan import scan
-from .styles import Style, UserStyle
-from .text import has_lone_surrogate
+from .styles import UserStyle
 
-_SURROGATE = "a lone surrogate cannot be written"
-
-
-def check(style: Style) -> Tuple[Finding, ...]:
-    """All that would not come back from a file if the style were written as it is: effects without
-    parameters, infinities and NaN, lone surrogates, parameters called "Tarn" and parameters of one name. Of a
-    stored style it tells whether its file could be written again, as a property editor does.
-
-    >>> with manager.create_mutable_style() as style:
-    ...     style.audio_effects.append("Gate")
-    ...     for finding in kostyle.check(style):
-    ...         print(finding)
-    <MutableEffect Gate>
-    audio effect 'Gate': no effect without parameters comes back
-    """
-    return tuple(_findings(record_of(style)))
-
-
-def _findings(record: StyleRecord) -> Iterator[Finding]:
-    if has_lone_surrogate(record.name):
-        yield Finding(f"name {record.name!r}", _SURROGATE)
-    for name in LISTS[1:]:
-        for text in getattr(record, name):
-            if has_lone_surrogate(text):
-                yield Finding(f"{name} {text!r}", _SURROGATE)
-    for kind, effects in (("audio", record.audio_effects), ("MIDI", record.midi_effects)):
-        for effect in effects:
-            yield from _effect_findings(f"{kind} effect {effect.id!r}", effect)
-
-
-def _effect_findings(place: str, effect: EffectRecord) -> Iterator[Finding]:
-    if has_lone_surrogate(effect.id):
-        yield Finding(place, _SURROGATE)
-    if not effect.parameters:
-        yield Finding(place, "no effect without parameters comes back", is_loss=True)
-    seen = set()
-    for name, value in effect.parameters:
-        here = f"{place}, parameter {name!r}"
-        for reason in _parameter_reasons(name, value):
-            yield Finding(here, reason)
-        if name == "Tarn":
-            yield Finding(here, "it comes back as Tarn630", is_loss=True)
-        if name in seen:
-            yield Finding(here, "of two parameters with one name only the first comes back", is_loss=True)
-        seen.add(name)
-
-
-def _parameter_reasons(name: str, value: ParameterValue) -> Iterator[str]:
-    if has_lone_surrogate(name) or (isinstance(value, str) and has_lone_surrogate(value)):
-        yield _SURROGATE
-    if isinstance(value, float) and not math.isfinite(value):
-        yield "an infinity and NaN cannot be written"
-
-
-def _require_safe(findings: Iterable[Finding], accept_losses: bool = False) -> None:
-    found = list(findings)
-    if not all(accept_losses and finding.is_loss for finding in found):
+def _require_safe(problems: Iterable[Problem], accept_losses: bool = False) -> None:
+    found = list(problems)
+    if not all(accept_losses and problem.is_loss for problem in found):
         raise UnsafeError(found)
 
 
@@ -97,7 +43,7 @@ def _chain_as_read(effects: Tuple[EffectRecord, ...]) -> Tuple[EffectRecord, ...
 def _parameters_as_read(parameters: Parameters) -> Parameters:
     first: Dict[str, ParameterValue] = {}
     for name, value in parameters:
-        first.setdefault("Tarn630" if name == "Tarn" else name, value)
+        first.setdefault(name_as_read(name), value)
     return tuple(first.items())
 
 
@@ -124,7 +70,7 @@ class _Backup:
             shutil.copy2(self.file, self.path)
         except OSError as error:
             self.discard()
-            raise NotSavedError(self.file, f"no backup can be made: {error.strerror}") from error
+            raise _not_saved(ProblemKind.BACKUP_FAILED, self.file, error.strerror) from error
 
     def discard(self) -> None:
         try:
@@ -165,7 +111,7 @@ def _restored_when_it_fails(backup: _Backup, put_back_in_memory: Callable[[], No
             put_back_in_memory()
         finally:
             if not backup.restore():
-                raise NotSavedError(backup.file, _reason(error), backup.path) from error
+                raise _not_restored(backup.file, error, backup.path, backup.path) from error
         raise
     backup.discard()
 
@@ -173,7 +119,7 @@ def _restored_when_it_fails(backup: _Backup, put_back_in_memory: Callable[[], No
 def save_safely(style: MutableStyle, pretty: bool, accept_losses: bool) -> UserStyle:
     """Does what MutableStyle.save_safely() says."""
     written = record_of(style)
-    _require_safe(_findings(written), accept_losses)
+    _require_safe(problems_of(written, is_mutable=True), accept_losses)
     with style.mutable_copy() as spare:  # saving ends what it saves
         saved = spare.save(pretty=pretty)
     try:
@@ -190,7 +136,8 @@ def overwrite_safely(style: MutableStyle, target: UserStyle, pretty: bool, accep
     if not isinstance(target, UserStyle):
         raise TypeError(f"a user style is needed, not {target!r}")
     written = record_of(style)
-    _require_safe([*_vendor_finding(target), *_findings(written)], accept_losses)
+    lost = problem_of_vendor(record_of(target))
+    _require_safe([*problems_of(written, is_mutable=True), *lost], accept_losses)
     _require_replaceable(target)
     with style.mutable_copy() as spare, target.mutable_copy() as previous:
         def put_back() -> None:
@@ -204,11 +151,12 @@ def overwrite_safely(style: MutableStyle, target: UserStyle, pretty: bool, accep
     return target
 
 
-def edit_safely(editor: PropertyEditor, style: UserStyle) -> Tuple[Finding, ...]:
+def edit_safely(editor: PropertyEditor, style: UserStyle) -> Tuple[Problem, ...]:
     """Does what PropertyEditor.save_safely() says."""
+    editor._require_name()
     before = record_of(style)
     wanted = dataclasses.replace(before, name=editor.name, sub_genres=editor.sub_genres, colors=editor.colors)
-    _require_safe(_findings(wanted))
+    _require_safe(problems_of(wanted, is_mutable=False))
 
     def put_back() -> None:
         if record_of(style) != before:
@@ -217,12 +165,7 @@ def edit_safely(editor: PropertyEditor, style: UserStyle) -> Tuple[Finding, ...]
     with _restored_when_it_fails(_Backup(style.path, in_place=True), put_back):
         editor.save()
         _read_back(style, wanted)
-    return _vendor_finding(style)
-
-
-def _vendor_finding(style: UserStyle) -> Tuple[Finding, ...]:
-    lost = f"a file that is written again has none: {style.vendor!r}"
-    return (Finding("vendor", lost, is_loss=True),) if style.vendor else ()
+    return problem_of_vendor(before)
 
 
 def _require_replaceable(target: UserStyle) -> None:
@@ -231,12 +174,13 @@ def _require_replaceable(target: UserStyle) -> None:
     if sys.platform == "win32" or not directory.exists() or not target.path.exists():
         return
     if os.stat(directory).st_dev != os.lstat(target.path).st_dev:
-        raise UnsafeError([Finding(str(target.path), "it lies on another file system than the user directory")])
+        raise UnsafeError([Problem(ProblemKind.NOT_REPLACEABLE, str(target.path),
+                                   "it lies on another file system than the user directory")])
 
 
 def _overwrite_again(previous: MutableStyle, target: UserStyle) -> None:
     """For what is in memory: over the file comes its backup."""
-    if all(finding.place == "vendor" for finding in previous.left_out):
+    if all(problem.kind == ProblemKind.VENDOR_LOST for problem in previous.not_copied):
         try:
             previous.overwrite(target)
         except CodeError:
@@ -247,11 +191,19 @@ def _remove(saved: UserStyle, error: BaseException) -> None:
     try:
         saved.remove()
     except CodeError:
-        raise NotSavedError(saved.path, f"{_reason(error)}; and it cannot be deleted") from error
+        raise _not_restored(saved.path, error, saved.path) from error
 
 
-def _reason(error: BaseException) -> str:
-    return error.reason if isinstance(error, NotSavedError) else str(error) or type(error).__name__
+def _not_saved(kind: ProblemKind, file: pathlib.Path, cause: str = "") -> NotSavedError:
+    return NotSavedError(file, [Problem(kind, str(file), cause)])
+
+
+def _not_restored(file: pathlib.Path, error: BaseException, left: pathlib.Path,
+                  backup: Optional[pathlib.Path] = None) -> NotSavedError:
+    """Of a failure after which something else is left than there was before."""
+    problems = error.problems if isinstance(error, NotSavedError) else (
+        Problem(ProblemKind.NOT_READ_BACK, str(file), str(error) or type(error).__name__),)
+    return NotSavedError(file, [*problems, Problem(ProblemKind.NOT_RESTORED, str(left))], backup)
 
 
 def _read_back(saved: UserStyle, written: StyleRecord) -> None:
@@ -259,12 +211,12 @@ def _read_back(saved: UserStyle, written: StyleRecord) -> None:
     try:
         [file] = scan([path])
     except (OSError, CodeError) as error:
-        raise NotSavedError(path, f"it cannot be read again: {error}") from error
+        raise _not_saved(ProblemKind.NOT_READ_BACK, path, str(error)) from error
     if file.style is None:
-        raise NotSavedError(path, str(file.refusal))
+        raise _not_saved(ProblemKind.NOT_READ_BACK, path, str(file.refusal))
     expected = dataclasses.replace(_as_read(written), id=saved.id, vendor="")
     if _comparable(file.style) != _comparable(expected):
-        raise NotSavedError(path, "the file does not hold what was written")
+        raise _not_saved(ProblemKind.READ_BACK_DIFFERS, path)
 
 
 def _comparable(record: StyleRecord) -> str:

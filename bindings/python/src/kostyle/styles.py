@@ -45,7 +45,7 @@ class Style(Handle):
 
     def mutable_copy(self) -> MutableStyle:
         """A new mutable style with all that this one has. What cannot be copied is listed in its
-        `left_out`: the vendor, which mutable styles do not have, and what is refused because a U+0000 of
+        `not_copied`: the vendor, which mutable styles do not have, and what is refused because a U+0000 of
         the file cuts it short."""
         from .copying import mutable_copy
         return mutable_copy(self)

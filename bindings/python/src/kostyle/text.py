@@ -79,6 +79,15 @@ def has_lone_surrogate(text: str) -> bool:
     return any("\ud800" <= character <= "\udfff" for character in text)
 
 
+def shown(text: str) -> str:
+    """A text that any output takes: a lone surrogate becomes U+FFFD.
+
+    >>> ascii(shown("x\\ud83c"))
+    "'x\\\\ufffd'"
+    """
+    return text.encode("utf-16", "surrogatepass").decode("utf-16", "replace")
+
+
 def several(paths: Iterable[PathLike]) -> Iterable[PathLike]:
     """The paths; raises TypeError for a single one, whose characters would be taken for paths."""
     if isinstance(paths, (str, bytes)):
