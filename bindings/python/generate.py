@@ -91,7 +91,8 @@ def problem_kinds(header: str) -> List[str]:
     last_loss = re.search(r"isLoss\(\).*kind <= ProblemKind::(\w+);", header)
     if not body or not texts or not last_loss:
         raise SystemExit("problem.hpp is not what is expected")
-    comments = {kind: one_line(comment) for comment, kind in re.findall(r"/\*\*(.*?)\*/\s*(\w+)", body.group(1), re.S)}
+    described = re.findall(r"/\*\*(.*?)\*/\s*(\w+)", body.group(1), re.S)
+    comments = {kind: one_line(comment) for comment, kind in described}
     losses = list(comments)[:list(comments).index(last_loss.group(1)) + 1]
     lines = ["", "", "class ProblemKind(enum.Enum):", f'    """{comment_of(header, "class ProblemKind")}"""', ""]
     for kind, _ in texts:

@@ -1,4 +1,5 @@
 """The examples in the documentation strings and in the package's README do what they show."""
+import ast
 import contextlib
 import doctest
 import importlib
@@ -10,7 +11,7 @@ import re
 import shutil
 import tempfile
 import unittest
-from typing import Any, Dict
+from typing import Any, Dict, Iterator, List
 
 import kostyle
 
@@ -42,6 +43,35 @@ def set_up(test: doctest.DocTest) -> None:
 
 def tear_down(test: doctest.DocTest) -> None:
     test.globs["example"].close()
+
+
+def undescribed(body: List[ast.stmt], prefix: str) -> Iterator[str]:
+    """The public classes, functions, properties and fields of a class or module that say nothing of themselves."""
+    for statement, following in zip(body, [*body[1:], None]):
+        if isinstance(statement, (ast.FunctionDef, ast.ClassDef)) and not statement.name.startswith("_"):
+            is_setter = any(isinstance(each, ast.Attribute) for each in statement.decorator_list)
+            if not ast.get_docstring(statement) and not is_setter:
+                yield prefix + statement.name
+            if isinstance(statement, ast.ClassDef) and not is_internal(statement):
+                yield from undescribed(statement.body, f"{prefix}{statement.name}.")
+        elif isinstance(statement, ast.AnnAssign) and isinstance(statement.target, ast.Name):
+            is_text = isinstance(following, ast.Expr) and isinstance(following.value, ast.Constant)
+            if not statement.target.id.startswith("_") and not is_text:
+                yield prefix + statement.target.id
+
+
+def is_internal(statement: ast.ClassDef) -> bool:
+    """Tables of C functions."""
+    return any(isinstance(base, ast.Name) and base.id == "NamedTuple" for base in statement.bases)
+
+
+class DescriptionTest(unittest.TestCase):
+    def test_has_every_public_name(self) -> None:
+        for module in pkgutil.iter_modules(kostyle.__path__):
+            source = pathlib.Path(kostyle.__path__[0], f"{module.name}.py").read_text(encoding="utf-8")
+            self.assertEqual(list(undescribed(ast.parse(source).body, f"{module.name}.")), [])
+        self.assertEqual(list(undescribed(ast.parse("def f(): ...\nclass C:\n    'x'\n    a: int").body, "")),
+                         ["f", "C.a"])
 
 
 class ReadmeTest(unittest.TestCase):

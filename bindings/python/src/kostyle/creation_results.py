@@ -49,7 +49,7 @@ class CreationResult(Handle):
         return None if self.taken else read_refusal(self._handle, self.path)
 
     def raise_for_refusal(self) -> None:
-        """Raises CodeError when the style was not taken."""
+        """Raises CodeError, with the path, when the style was not taken."""
         if not self.taken:
             raise CodeError(int(c.StyleCreationResult_error(self._handle)), os.fspath(self.path))
 

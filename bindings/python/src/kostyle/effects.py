@@ -30,17 +30,17 @@ class Effect(Handle):
 
     @property
     def id(self) -> str:
-        """The identifier, unique within the chain."""
+        """The identifier, unique within the chain, but for texts of a file that differ behind U+0000 alone."""
         return decode(c.Effect_id(self._handle))
 
     @property
     def kind(self) -> EffectKind:
-        """The chain that it belongs to."""
+        """The chain that it belongs to: EffectKind.AUDIO or EffectKind.MIDI."""
         return EffectKind(c.Effect_type(self._handle))
 
     @property
     def parameters(self) -> Mapping[str, ParameterValue]:
-        """The values of the parameters by name, in the order of names."""
+        """The values of the parameters by name, in the order of names: a live mapping."""
         return Parameters(self)
 
     @property
@@ -90,11 +90,12 @@ class MutableEffect(Effect):
         return parameter
 
     def move(self, index: int) -> None:
-        """Moves the effect to an index of its chain; one past the end moves it to the end."""
+        """Moves the effect to an index of its chain, from 0; one past the end moves it to the end. Raises
+        IndexError for a negative one."""
         c.MutableEffect_move(self._handle, place_in_chain(index))
 
     def destroy(self) -> None:
-        """Takes the effect out of its chain, with its parameters."""
+        """Takes the effect out of its chain and ends it, with its parameters."""
         self._destroy(c.MutableEffect_destroy, "it was destroyed")
 
     def _parameters_by_name(self) -> Dict[str, MutableParameter]:  # type: ignore[override]
@@ -183,7 +184,8 @@ class MutableChain(_AnyChain[MutableEffect]):
 
     def insert(self, index: int, id: str) -> MutableEffect:
         """Puts a new effect without parameters in front of the index; past the end it is appended. Raises
-        RefusedError when the identifier is empty or another effect of the chain has it."""
+        RefusedError when the identifier is empty or another effect of the chain has it, and IndexError for a
+        negative index."""
         assert self._functions.insert is not None
         address = self._functions.insert(self._style._handle, place_in_chain(index), encode(id))
         if not address:

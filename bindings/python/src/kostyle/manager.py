@@ -130,16 +130,17 @@ class Manager(Handle):
 
     @property
     def system_directory(self) -> pathlib.Path:
-        """The system style directory, as it was given."""
+        """The system style directory, as it was given; on Windows made absolute."""
         return pathlib.Path(decode(c.StyleManager_systemStyleDirPath(self._handle)))
 
     @property
     def user_directory(self) -> pathlib.Path:
-        """The user style directory, as it was given."""
+        """The user style directory, as it was given; on Windows made absolute."""
         return pathlib.Path(decode(c.StyleManager_userStyleDirPath(self._handle)))
 
     def read(self) -> None:
-        """Reads the system styles, then the user styles: of two with one identifier the former wins."""
+        """Reads the system styles, then the user styles: of two with one identifier the former wins. Raises what
+        the two raise."""
         self.read_system_styles()
         self.read_user_styles()
 
@@ -151,7 +152,7 @@ class Manager(Handle):
         self._check(c.StyleManager_readSystemStyles(self._handle), self.system_directory)
 
     def read_user_styles(self) -> None:
-        """Reads the user styles anew, as read_system_styles() does."""
+        """Reads the user styles anew, as read_system_styles() does; their property editors end too."""
         self._user._end_children("its style set was read again")
         self._check(c.StyleManager_readUserStyles(self._handle), self.user_directory)
 
@@ -162,14 +163,14 @@ class Manager(Handle):
 
     @property
     def system_styles(self) -> StyleSet[SystemStyle]:
-        """The system styles."""
+        """The system styles, live: none before they are read, and others when they are read again."""
         return StyleSet(self._system, SystemStyle, SetFunctions(
             c.StyleManager_numSystemStyle, c.StyleManager_systemStyle, c.StyleManager_hasSystemStyle,
             c.StyleManager_numSystemStyleCreationResult, c.StyleManager_systemStyleCreationResult))
 
     @property
     def user_styles(self) -> StyleSet[UserStyle]:
-        """The user styles."""
+        """The user styles, live: saving adds one at the end, removing takes one out."""
         return StyleSet(self._user, UserStyle, SetFunctions(
             c.StyleManager_numUserStyle, c.StyleManager_userStyle, c.StyleManager_hasUserStyle,
             c.StyleManager_numUserStyleCreationResult, c.StyleManager_userStyleCreationResult))

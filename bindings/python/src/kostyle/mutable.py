@@ -49,42 +49,42 @@ class MutableStyle(Style, Destroyable):
 
     @property
     def languages(self) -> MutableAttributes[int]:
-        """Numbers from Limit.MIN_LANGUAGE to Limit.MAX_LANGUAGE."""
+        """The languages: numbers from Limit.MIN_LANGUAGE to Limit.MAX_LANGUAGE, ascending. A live set."""
         return MutableLanguages(self, "languages")
 
     @property
     def singer_groups(self) -> MutableAttributes[str]:
-        """Texts that are not empty."""
+        """The singer groups: texts that are not empty. A live set."""
         return MutableTexts(self, "singer_groups")
 
     @property
     def singer_ids(self) -> MutableAttributes[str]:
-        """Texts of Limit.SINGER_ID_LENGTH UTF-16 units."""
+        """The singer identifiers: texts of Limit.SINGER_ID_LENGTH UTF-16 units. A live set."""
         return MutableTexts(self, "singer_ids")
 
     @property
     def genres(self) -> MutableAttributes[str]:
-        """Texts that are not empty."""
+        """The genres: texts that are not empty. A live set."""
         return MutableTexts(self, "genres")
 
     @property
     def sub_genres(self) -> MutableAttributes[str]:
-        """Texts that are not empty."""
+        """The sub-genres: texts that are not empty. A live set."""
         return MutableTexts(self, "sub_genres")
 
     @property
     def colors(self) -> MutableAttributes[str]:
-        """Texts that are not empty."""
+        """The colours: texts that are not empty. A live set."""
         return MutableTexts(self, "colors")
 
     @property
     def audio_effects(self) -> MutableChain:
-        """The audio chain."""
+        """The audio chain, live."""
         return MutableChain(self, EffectKind.AUDIO)
 
     @property
     def midi_effects(self) -> MutableChain:
-        """The MIDI chain."""
+        """The MIDI chain, live."""
         return MutableChain(self, EffectKind.MIDI)
 
     def save(self, *, pretty: bool = True) -> UserStyle:
@@ -105,8 +105,9 @@ class MutableStyle(Style, Destroyable):
     def overwrite(self, target: UserStyle, *, pretty: bool = True) -> UserStyle:
         """Writes the style over the file of a user style of the same manager, which keeps its identifier and
         path, takes the new content and is given back; its effects and this style end. Raises CodeError, and
-        nothing has changed: WRITE_EMPTY_NAME, NO_EFFECT, TARGET_NOT_REPLACEABLE, USER_DIRECTORY_NOT_CREATABLE,
-        OPEN_FAILED. overwrite_safely() also looks at what goes wrong while the file is being written."""
+        nothing has changed: USER_STYLE_NOT_FOUND for a style of another manager, USER_DIRECTORY_NOT_CREATABLE,
+        OPEN_FAILED, WRITE_EMPTY_NAME, NO_EFFECT, TARGET_NOT_REPLACEABLE. overwrite_safely() also looks at what
+        goes wrong while the file is being written."""
         if not isinstance(target, UserStyle):
             raise TypeError(f"a user style is needed, not {target!r}")
         if target not in self.manager.user_styles:
@@ -124,7 +125,8 @@ class MutableStyle(Style, Destroyable):
         """save(), with care: raises UnsafeError before anything is written when something would not come
         back, unless all of it is a loss (Problem.is_loss) and `accept_losses` is true; reads the new file with a
         manager of its own; and when it does not hold what was written, on a full disk say, removes it and raises
-        NotSavedError. On any failure this style stays as it is."""
+        NotSavedError; CodeError when the library refuses, as save() does. On any failure this style stays as it
+        is."""
         from .safe_save import save_safely
         return save_safely(self, pretty, accept_losses)
 

@@ -59,7 +59,7 @@ class Parameter(Handle):
 
     @property
     def type(self) -> ParameterType:
-        """The type of the value."""
+        """The type of the value: ParameterType.INT, FLOAT or STRING."""
         return ParameterType(c.Parameter_type(self._handle))
 
     def __repr__(self) -> str:
@@ -84,8 +84,8 @@ class MutableParameter(Parameter):
     @property
     def value(self) -> ParameterValue:
         """The value; setting it sets its type too. A float is rounded to 32 bits. Raises OverflowError
-        for a number beyond 32 bits, ValueError for a text with U+0000. An infinity and NaN are taken, but
-        cannot be written."""
+        for a number beyond 32 bits, TypeError for another type, also bool, and RefusedError for a text with
+        U+0000. An infinity and NaN are taken, but cannot be written."""
         return read_value(self._handle)
 
     @value.setter
@@ -93,7 +93,7 @@ class MutableParameter(Parameter):
         write_value(self._handle, value)
 
     def destroy(self) -> None:
-        """Takes the parameter out of its effect."""
+        """Takes the parameter out of its effect and ends it."""
         name = self.name
         self._destroy(c.MutableParameter_destroy, "it was destroyed")
         self._effect._destroyed(name, self)

@@ -21,7 +21,7 @@ Parameters = Tuple[Tuple[str, ParameterValue], ...]
 
 @dataclasses.dataclass
 class EffectRecord:
-    """An effect."""
+    """An effect of a StyleRecord."""
 
     id: str
     """The identifier, unique within the chain."""
@@ -40,11 +40,17 @@ class StyleRecord:
     vendor: str
     """Who made the style; empty when the file does not say."""
     languages: Tuple[int, ...]
+    """Numbers from Limit.MIN_LANGUAGE to Limit.MAX_LANGUAGE, ascending."""
     singer_groups: Tuple[str, ...]
+    """The singer groups, ascending by UTF-16 units, as all lists of texts."""
     singer_ids: Tuple[str, ...]
+    """The singer identifiers, each of Limit.SINGER_ID_LENGTH UTF-16 units."""
     genres: Tuple[str, ...]
+    """The genres."""
     sub_genres: Tuple[str, ...]
+    """The sub-genres."""
     colors: Tuple[str, ...]
+    """The colours: any texts."""
     audio_effects: Tuple[EffectRecord, ...]
     """The audio chain, in its order."""
     midi_effects: Tuple[EffectRecord, ...]

@@ -42,7 +42,7 @@ def scan(paths: Iterable[PathLike]) -> List[FileRecord]:
     number of threads at a time. It writes links (on Windows hard links, or copies where those cannot be made)
     into a folder of its own and removes them: below the folder that the environment variable TMPDIR names, else in
     memory, below /dev/shm, else below tempfile.gettempdir(). Raises OSError when that folder cannot be made or has no
-    room. A process that is killed meanwhile leaves the folder behind.
+    room, and TypeError when `paths` is a single path. A process that is killed meanwhile leaves the folder behind.
 
     >>> for record in kostyle.scan([system_directory / "concrete_club.kostyle", "missing.kostyle"]):
     ...     print(record.style.name if record.style else record.refusal)

@@ -34,7 +34,7 @@ class Style(Handle):
 
     @property
     def kind(self) -> Kind:
-        """System, user or mutable."""
+        """Kind.SYSTEM, Kind.USER or Kind.MUTABLE."""
         return Kind(c.Style_type(self._handle))
 
     @property
@@ -66,7 +66,7 @@ class StoredStyle(Style):
 
     @property
     def id(self) -> str:
-        """The identifier, unique over the manager's system and user styles."""
+        """The identifier, unique over the manager's system and user styles; it never changes."""
         return decode(c.Style_id(self._handle))
 
     @property
@@ -82,43 +82,44 @@ class StoredStyle(Style):
 
     @property
     def languages(self) -> Tuple[int, ...]:
-        """Numbers from Limit.MIN_LANGUAGE to Limit.MAX_LANGUAGE; the host and its styles agree on what
-        they mean."""
+        """Numbers from Limit.MIN_LANGUAGE to Limit.MAX_LANGUAGE, ascending; the host and its styles agree on
+        what they mean."""
         return read_languages(self._handle)
 
     @property
     def singer_groups(self) -> Tuple[str, ...]:
-        """Ascending, as all lists."""
+        """The singer groups, none of them empty, ascending by UTF-16 units."""
         return read_texts(self._handle, "singer_groups")
 
     @property
     def singer_ids(self) -> Tuple[str, ...]:
-        """Each of Limit.SINGER_ID_LENGTH UTF-16 units."""
+        """The singer identifiers, ascending, each of Limit.SINGER_ID_LENGTH UTF-16 units; one of a file that holds
+        U+0000 ends there, and so has fewer."""
         return read_texts(self._handle, "singer_ids")
 
     @property
     def genres(self) -> Tuple[str, ...]:
-        """Ascending."""
+        """The genres, none of them empty, ascending by UTF-16 units."""
         return read_texts(self._handle, "genres")
 
     @property
     def sub_genres(self) -> Tuple[str, ...]:
-        """Ascending."""
+        """The sub-genres, none of them empty, ascending by UTF-16 units."""
         return read_texts(self._handle, "sub_genres")
 
     @property
     def colors(self) -> Tuple[str, ...]:
-        """Ascending; any texts."""
+        """The colours: any texts that are not empty, ascending by UTF-16 units."""
         return read_texts(self._handle, "colors")
 
     @property
     def audio_effects(self) -> Chain:
-        """The audio chain."""
+        """The audio chain, in the order of the file."""
         return Chain(self, EffectKind.AUDIO)
 
     @property
     def midi_effects(self) -> Chain:
-        """The MIDI chain."""
+        """The MIDI chain, in the order of the file."""
         return Chain(self, EffectKind.MIDI)
 
 
@@ -131,7 +132,8 @@ class UserStyle(StoredStyle):
     and everything else of it stays."""
 
     def remove(self) -> None:
-        """Deletes the style's file, and ends the style. Raises CodeError, and nothing has changed."""
+        """Deletes the style's file, and ends the style. Raises CodeError with DELETE_FAILED when the file is
+        missing or the system refuses, and nothing has changed."""
         path = self.path
         with self._ending("it was removed") as handle:
             code = c.UserStyle_remove(handle)
