@@ -123,8 +123,10 @@ class FindProblemsTest(SafeTest):
                 far = manager.user_styles.find("far")
                 assert far is not None
                 before = far.path.read_bytes()
-                with far.mutable_copy() as copy, self.assertRaises(kostyle.UnsafeError):
+                with far.mutable_copy() as copy, self.assertRaises(kostyle.UnsafeError) as caught:
                     copy.overwrite_safely(far)
+                self.assertEqual([problem.kind for problem in caught.exception.problems],
+                                 [ProblemKind.NOT_REPLACEABLE])
                 self.assertEqual(far.path.read_bytes(), before)
         self.expect_all_as_it_was()
 
@@ -379,9 +381,24 @@ class FailureTest(SafeTest):
             self.expect_all_as_it_was()
 
     def test_when_the_target_is_gone(self) -> None:
-        self.target.path.unlink()
-        failure = self.expect_not_saved(lambda: self.mutable().overwrite_safely(self.target))
+        self.expect_not_replaceable(self.target.path.unlink, os.strerror(2))
+        self.expect_not_replaceable(self.target.path.mkdir, "it is no regular file")
+
+    def expect_not_replaceable(self, spoil: Callable[[], None], cause: str) -> None:
+        spoil()
+        style = self.mutable()
+        with self.assertRaises(kostyle.UnsafeError) as caught:
+            style.overwrite_safely(self.target)
+        self.assertEqual(caught.exception.problems,
+                         (kostyle.Problem(ProblemKind.NOT_REPLACEABLE, str(self.target.path), cause),))
+        self.assertFalse(style.ended)
+
+    @unittest.skipIf(os.name == "nt", "files cannot be bounded there")
+    def test_without_room_for_a_copy_does_not_begin_to_overwrite(self) -> None:
+        with mock.patch("os.link", side_effect=OSError), full_disk(10):
+            failure = self.expect_not_saved(lambda: self.mutable().overwrite_safely(self.target))
         self.assert_kinds(failure, ProblemKind.BACKUP_FAILED)
+        self.expect_all_as_it_was()
 
     @unittest.skipIf(os.name == "nt", "links are made by os.link() there")
     def test_without_links_makes_a_copy(self) -> None:

@@ -27,8 +27,8 @@ struct FilePosition {
 };
 
 /**
- * A creation result. It never changes, and lives with its texts until its set is read again or its manager
- * is destroyed.
+ * A creation result: what reading one file of a style set left behind. It never changes, and lives with its
+ * texts until its set is read again or its manager is destroyed.
  */
 class CreationResult : public View<KoStyleCreationResult> {
  public:

@@ -55,9 +55,9 @@ enum class Layout : bool {
 };
 
 /**
- * A mutable style. ManagerView::createMutableStyle() makes one; the manager owns it until destroy(), a
- * successful save or overwrite, or its own end. Then this view, those of effects and parameters, and all
- * texts reached through them end.
+ * A mutable style: one in memory that is being made. ManagerView::createMutableStyle() makes one; the manager
+ * owns it until destroy(), a successful save or overwrite, or its own end. Then this view, those of effects
+ * and parameters, and all texts reached through them end.
  *
  * A function that changes the style gives false, or an empty view, when it refuses its argument, and for an
  * empty view; then nothing has changed. Texts are copied.

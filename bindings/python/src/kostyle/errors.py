@@ -84,12 +84,12 @@ class Problem:
 
 
 class UnsafeError(Error):
-    """What was to be saved would not come back from its file. Nothing was written."""
+    """What was to be saved would not come back from its file, or cannot be put in its place. Nothing was written."""
 
     def __init__(self, problems: Sequence[Problem]) -> None:
         super().__init__(problems)
         self.problems: Tuple[Problem, ...] = tuple(problems)
-        """All that would not come back."""
+        """All that stands in the way."""
 
     def __str__(self) -> str:
         return "; ".join(map(str, self.problems))

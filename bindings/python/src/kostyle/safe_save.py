@@ -8,6 +8,7 @@ import filecmp
 import os
 import pathlib
 import shutil
+import stat
 import sys
 import uuid
 from typing import Callable, Dict, Iterable, Iterator, Optional, Tuple
@@ -169,13 +170,21 @@ def edit_safely(editor: PropertyEditor, style: UserStyle) -> Tuple[Problem, ...]
 
 
 def _require_replaceable(target: UserStyle) -> None:
-    """Outside Windows a file is not replaced from another file system."""
-    directory = target.manager.user_directory
-    if sys.platform == "win32" or not directory.exists() or not target.path.exists():
-        return
-    if os.stat(directory).st_dev != os.lstat(target.path).st_dev:
-        raise UnsafeError([Problem(ProblemKind.NOT_REPLACEABLE, str(target.path),
-                                   "it lies on another file system than the user directory")])
+    cause = _why_not_replaceable(target.path, target.manager.user_directory)
+    if cause:
+        raise UnsafeError([Problem(ProblemKind.NOT_REPLACEABLE, str(target.path), cause)])
+
+
+def _why_not_replaceable(file: pathlib.Path, directory: pathlib.Path) -> str:
+    try:
+        if not stat.S_ISREG(os.stat(file).st_mode):
+            return "it is no regular file"
+    except OSError as error:
+        return error.strerror or str(error)
+    if sys.platform == "win32" or not directory.exists() or os.stat(directory).st_dev == os.lstat(file).st_dev:
+        return ""
+    # Outside Windows a file is not replaced from another file system.
+    return "it lies on another file system than the user directory"
 
 
 def _overwrite_again(previous: MutableStyle, target: UserStyle) -> None:
