@@ -3,7 +3,10 @@ set(KOSTYLE_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= t
 option(KOSTYLE_COVERAGE "Count the lines that tests reach" OFF)
 
 if(MSVC)
-  add_compile_options(/W4 /utf-8)
+  # Standard C++, and a preprocessor that takes raw strings in arguments of macros. Interfaces are implemented by
+  # inheriting from both sides, which is what C4250 is about; C4996 advises functions of Microsoft's own.
+  add_compile_options(/W4 /wd4250 /utf-8 /permissive- /Zc:preprocessor $<$<COMPILE_LANGUAGE:CXX>:/Zc:__cplusplus>)
+  add_compile_definitions(_CRT_SECURE_NO_WARNINGS)
   # Exported functions are extern "C" and may throw.
   string(REPLACE "/EHsc" "/EHs" CMAKE_CXX_FLAGS "${CMAKE_CXX_FLAGS}")
 else()

@@ -57,7 +57,7 @@ def faults(src):
         if floor in FLOORS:
             known.append(file)
         else:
-            yield f"{file}: {floor} is no known floor"
+            yield f"{file.as_posix()}: {floor} is no known floor"
     for file in known:
         for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
             match = INCLUDE.match(line)
@@ -66,7 +66,7 @@ def faults(src):
             reason = "an include through a macro cannot be checked" if match[3] else fault(
                 file, src, match[1] == '"', match[2])
             if reason:
-                yield f"{file}:{number}: {reason}"
+                yield f"{file.as_posix()}:{number}: {reason}"
 
 
 def main(src):

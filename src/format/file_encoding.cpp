@@ -1,6 +1,5 @@
 #include "format/file_encoding.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -40,10 +39,10 @@ FileEncoding FileEncoding::of(const Block& firstBlock) noexcept {
   constexpr std::size_t bytesLookedAt = 4;
   if (firstBlock.size < bytesLookedAt) return {};
   const std::string_view start(reinterpret_cast<const char*>(firstBlock.bytes), bytesLookedAt);
-  const auto* const found = std::find_if(marks.begin(), marks.end(), [start](const Mark& mark) {
-    return start.substr(0, mark.bytes.size()) == mark.bytes;
-  });
-  return found != marks.end() ? found->encoding : ofZeroBytes(firstBlock.bytes);
+  for (const Mark& mark : marks) {
+    if (start.substr(0, mark.bytes.size()) == mark.bytes) return mark.encoding;
+  }
+  return ofZeroBytes(firstBlock.bytes);
 }
 
 }  // namespace Tesk::KoStyle

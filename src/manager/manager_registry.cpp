@@ -20,7 +20,7 @@ StyleManagerRegistry& registry = *new (storage) StyleManagerRegistry();
 #else
 const struct AtUnload {
   ~AtUnload() { registry.~StyleManagerRegistry(); }
-} atUnload;
+} atUnload{};
 #endif
 
 }  // namespace

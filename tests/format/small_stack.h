@@ -5,11 +5,7 @@
 #include <stdexcept>
 
 #if defined(_WIN32)
-#if !defined(NOMINMAX)
-#define NOMINMAX
-#endif
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
+#include "support/windows_api.h"
 #else
 #include <pthread.h>
 #endif

@@ -20,7 +20,7 @@ class CheckIncludes(unittest.TestCase):
                 file = src / floor / ".".join(rest.rsplit("_", 1))
                 file.parent.mkdir(exist_ok=True)
                 file.write_text(text)
-            return [fault.replace(folder + "/", "") for fault in check_includes.faults(src)]
+            return [fault.replace(src.as_posix() + "/", "") for fault in check_includes.faults(src)]
 
     def test_down_and_sideways_is_allowed(self):
         self.assertEqual(self.faults(

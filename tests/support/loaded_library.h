@@ -2,11 +2,7 @@
 #pragma once
 
 #if defined(_WIN32)
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
+#include "support/windows_api.h"
 #else
 #include <dlfcn.h>
 #endif

@@ -12,7 +12,7 @@
 #include "support/temporary_directory.h"
 
 #if defined(_WIN32)
-#include <windows.h>
+#include "support/windows_api.h"
 #else
 #include <fcntl.h>
 #include <spawn.h>
