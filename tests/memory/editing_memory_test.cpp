@@ -48,7 +48,7 @@ class EditingWithoutMemory : public testing::TestWithParam<Edit> {
     return style;
   }
 
-  const test::Host host;
+  const test::Host host{};
 };
 
 TEST_P(EditingWithoutMemory, LeavesTheStyleAsItWas) {

@@ -54,7 +54,7 @@ struct SafeSavingWithoutMemory : testing::Test {
 
   virtual void check(long n, bool saved) = 0;
 
-  const test::Host host;
+  const test::Host host{};
   UserStyle target{host.addUserStyle("a")};
   const std::string oldFile = test::readFile(host.user / "a.kostyle");
   MutableStyle style = createStyle();
