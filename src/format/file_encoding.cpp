@@ -1,7 +1,6 @@
 #include "format/file_encoding.h"
 
 #include <array>
-#include <string_view>
 
 namespace Tesk::KoStyle {
 namespace {

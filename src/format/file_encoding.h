@@ -3,14 +3,24 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <string_view>
 
 namespace Tesk::KoStyle {
 
 inline constexpr std::size_t blockSize = 256;
 
+/// A file's content in memory, from what was not read yet on.
+struct BytesInMemory {
+  std::string_view rest;
+};
+
 /// What is read of a file at once.
 struct Block {
   explicit Block(std::FILE* file) noexcept : size(std::fread(bytes, 1, blockSize, file)) {}
+  explicit Block(BytesInMemory* memory) noexcept
+      : size(memory->rest.copy(reinterpret_cast<char*>(bytes), blockSize)) {
+    memory->rest.remove_prefix(size);
+  }
 
   bool isLast() const noexcept { return size < blockSize; }
 

@@ -1,8 +1,9 @@
 // UnitStream: the code units of a style file, for the parser.
 //
-// The file is read in blocks, and each block is turned into units of the file's encoding at once, so
-// that taking a unit costs a comparison and no call. Positions count as the parser's own streams count
-// them: the bytes of the file up to and including the unit that is looked at next.
+// The file, which may lie in memory, is read in blocks, and each block is turned into units of the
+// file's encoding at once, so that taking a unit costs a comparison and no call. Positions count as the
+// parser's own streams count them: the bytes of the file up to and including the unit that is looked at
+// next.
 //
 // The parser adds up a number's exponent and its places after the point in an int, unchecked, and looks
 // the sum up in a table. So the stream holds back the digits of an exponent after the ninth and those
@@ -21,7 +22,8 @@
 
 namespace Tesk::KoStyle {
 
-template <class Unit>
+/// `File` is what a Block is read from.
+template <class Unit, class File = std::FILE>
 class UnitStream {
  public:
   using Ch = Unit;
@@ -30,7 +32,7 @@ class UnitStream {
   UnitStream& operator=(const UnitStream&) = delete;
 
   /// Goes on where `skipped` bytes of the first block are taken.
-  UnitStream(std::FILE* file, const Block& first, std::size_t skipped, ByteOrder order) noexcept
+  UnitStream(File* file, const Block& first, std::size_t skipped, ByteOrder order) noexcept
       : file_(file), order_(order), bytesBefore_(skipped) {
     load(first, skipped);
   }
@@ -45,6 +47,12 @@ class UnitStream {
 
   std::size_t Tell() const noexcept {
     const std::size_t bytes = static_cast<std::size_t>(current_ - units_ + 1) * sizeof(Unit);
+    return bytesBefore_ + (bytes < size_ ? bytes : size_);
+  }
+
+  /// The bytes of the file before the unit that is looked at next.
+  std::size_t offset() const noexcept {
+    const std::size_t bytes = static_cast<std::size_t>(current_ - units_) * sizeof(Unit);
     return bytesBefore_ + (bytes < size_ ? bytes : size_);
   }
 
@@ -237,7 +245,7 @@ class UnitStream {
     followNumber();
   }
 
-  std::FILE* const file_;
+  File* const file_;
   const ByteOrder order_;
   std::size_t bytesBefore_;  // of earlier blocks, and of a byte-order mark
   std::size_t size_ = 0;     // of this block, in bytes
@@ -251,8 +259,8 @@ class UnitStream {
 };
 
 /// The parser finds this in the place of its own.
-template <class Unit>
-void SkipWhitespace(UnitStream<Unit>& stream) noexcept {
+template <class Unit, class File>
+void SkipWhitespace(UnitStream<Unit, File>& stream) noexcept {
   stream.skipWhitespace();
 }
 
