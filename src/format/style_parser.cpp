@@ -14,7 +14,8 @@ constexpr std::size_t stackSize = 1024;
 StyleParser::StyleParser()
     : firstChunk_(new char[chunkSize]), pool_(firstChunk_.get(), chunkSize, chunkSize, &allocator_) {}
 
-rapidjson::ParseResult StyleParser::parse(std::FILE* file) {
+template <class File>
+rapidjson::ParseResult StyleParser::parse(File* file) {
   document_.reset();
   pool_.Clear();
   document_.emplace(&pool_, stackSize, &stackMemory_);
@@ -30,10 +31,10 @@ rapidjson::ParseResult StyleParser::parse(std::FILE* file) {
   }
 }
 
-template <class Unit, class Source>
-rapidjson::ParseResult StyleParser::parseUnits(Reader<Source>& reader, std::FILE* file,
-                                               const Block& first, const FileEncoding& encoding) {
-  UnitStream<Unit> units(file, first, encoding.markSize, encoding.order);
+template <class Unit, class Source, class File>
+rapidjson::ParseResult StyleParser::parseUnits(Reader<Source>& reader, File* file, const Block& first,
+                                               const FileEncoding& encoding) {
+  UnitStream<Unit, File> units(file, first, encoding.markSize, encoding.order);
   rapidjson::ParseResult result;
   auto parseInto = [&](json::Document& document) {
     NestingLimit handler(document);
@@ -43,5 +44,8 @@ rapidjson::ParseResult StyleParser::parseUnits(Reader<Source>& reader, std::FILE
   document_->Populate(parseInto);
   return result;
 }
+
+template rapidjson::ParseResult StyleParser::parse(std::FILE* file);
+template rapidjson::ParseResult StyleParser::parse(BytesInMemory* file);
 
 }  // namespace Tesk::KoStyle

@@ -4,9 +4,9 @@
 
 #include <cstdio>
 
+#include "format/document_reader.h"
 #include "format/style_parser.h"
 #include "format/style_read_outcome.h"
-#include "model/style_builder.h"
 #include "model/style_sequence.h"
 
 namespace Tesk::KoStyle {
@@ -20,13 +20,8 @@ class StyleReader {
                                  TextView path, std::FILE* file, StyleReadOutcome& outcome);
 
  private:
-  bool readDocument(Style& style, TextView path, StyleReadOutcome& outcome);
-  void readChain(EffectKind kind);
-  void readParameters(const json::Value& source);
-  void readFilter();
-
   StyleParser parser_;
-  StyleBuilder builder_;
+  DocumentReader<Unobserved> documents_;
 };
 
 }  // namespace Tesk::KoStyle

@@ -1,6 +1,7 @@
 #include "model/style_builder.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace Tesk::KoStyle {
 
@@ -13,10 +14,12 @@ void StyleBuilder::clear() noexcept {
   parameterKeys_.clear();
 }
 
-void StyleBuilder::addText(Attribute attribute, TextView text) {
-  if (!isAttributeText(attribute, text)) return;
+StyleBuilder::Adding StyleBuilder::addText(Attribute attribute, TextView text) {
+  if (!isAttributeText(attribute, text)) return Adding::unfit;
   std::vector<Named>& texts = texts_[static_cast<std::size_t>(attribute)];
-  if (texts.empty() || !equalTexts(texts.back().name, text)) texts.push_back({text});
+  if (!texts.empty() && equalTexts(texts.back().name, text)) return Adding::repeated;
+  texts.push_back({text});
+  return Adding::added;
 }
 
 void StyleBuilder::reserve(std::size_t effects, std::size_t parameters) {
@@ -89,13 +92,52 @@ void StyleBuilder::orderParameters() {
   for (std::size_t i = 0; i < effects_.size(); ++i) {
     EffectEntry& effect = effects_[i];
     if (!effect.taken) continue;
-    const std::size_t end =
-        i + 1 < effects_.size() ? effects_[i + 1].firstParameter : parameters_.size();
     effect.firstKey = parameterKeys_.size();
-    addKeys(parameterKeys_, parameters_.data() + effect.firstParameter, parameters_.data() + end);
+    addKeys(parameterKeys_, parameters_.data() + effect.firstParameter,
+            parameters_.data() + endOfParameters(i));
     sortDistinct(parameterKeys_, effect.firstKey);
     effect.numKeys = parameterKeys_.size() - effect.firstKey;
   }
+}
+
+std::size_t StyleBuilder::endOfParameters(std::size_t effect) const noexcept {
+  return effect + 1 < effects_.size() ? effects_[effect + 1].firstParameter : parameters_.size();
+}
+
+std::vector<std::size_t> StyleBuilder::repeatedEffects() const {
+  std::vector<std::size_t> repeated;
+  for (std::size_t i = 0; i < effects_.size(); ++i) {
+    if (!effects_[i].taken) repeated.push_back(i);
+  }
+  return repeated;
+}
+
+std::vector<std::size_t> StyleBuilder::repeatedParameters() const {
+  std::vector<bool> kept(parameters_.size());
+  for (const NameKey& key : parameterKeys_) {
+    const auto index = static_cast<const ParameterEntry*>(key.item) - parameters_.data();
+    kept[static_cast<std::size_t>(index)] = true;
+  }
+  std::vector<std::size_t> repeated;
+  for (std::size_t effect = 0; effect < effects_.size(); ++effect) {
+    if (!effects_[effect].taken) continue;
+    for (std::size_t i = effects_[effect].firstParameter; i < endOfParameters(effect); ++i) {
+      if (!kept[i]) repeated.push_back(i);
+    }
+  }
+  return repeated;
+}
+
+// A text is told by where it lies.
+std::vector<std::size_t> StyleBuilder::repeatedTexts(Attribute attribute) const {
+  std::unordered_set<const Char*> kept;
+  for (const TextView text : listed_) kept.insert(text.data());
+  const std::vector<Named>& texts = texts_[static_cast<std::size_t>(attribute)];
+  std::vector<std::size_t> repeated;
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    if (kept.count(texts[i].name.data()) == 0) repeated.push_back(i);
+  }
+  return repeated;
 }
 
 void StyleBuilder::freezeEffects(StoredContent& content, const Style& style) {

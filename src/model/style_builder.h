@@ -20,6 +20,8 @@ namespace Tesk::KoStyle {
 
 class StyleBuilder {
  public:
+  enum class Adding { added, unfit, repeated };
+
   /// Starts anew, keeping the memory.
   void clear() noexcept;
 
@@ -27,12 +29,19 @@ class StyleBuilder {
   void setPath(TextView path) noexcept { path_ = path; }
   void setVendor(TextView vendor) noexcept { vendor_ = vendor; }
 
-  /// A name that no style may have is left out.
-  void setName(TextView name) noexcept { name_ = isStyleName(name) ? name : TextView(); }
+  /// A name that no style may have is left out; false then.
+  bool setName(TextView name) noexcept {
+    name_ = isStyleName(name) ? name : TextView();
+    return !name_.empty();
+  }
 
-  // A value that the attribute cannot have is left out.
-  void addLanguage(int language) noexcept { languages_.insert(language); }
-  void addText(Attribute attribute, TextView text);
+  // A value that the attribute cannot have is left out as unfit. Of texts that repeat only those that
+  // follow each other show at once.
+  Adding addLanguage(int language) noexcept {
+    if (!LanguageSet::isLanguage(language)) return Adding::unfit;
+    return languages_.insert(language) ? Adding::added : Adding::repeated;
+  }
+  Adding addText(Attribute attribute, TextView text);
 
   /// Takes memory ahead.
   void reserve(std::size_t effects, std::size_t parameters);
@@ -51,6 +60,12 @@ class StyleBuilder {
   /// The content of `style`.
   StoredContent freeze(const Style& style);
 
+  // What freeze() left out because it repeats, by its place among all that was added of its kind.
+  // Parameters of an effect that is left out do not count.
+  std::vector<std::size_t> repeatedEffects() const;
+  std::vector<std::size_t> repeatedParameters() const;
+  std::vector<std::size_t> repeatedTexts(Attribute attribute) const;
+
  private:
   struct ParameterEntry : Named {
     ParameterValue value;
@@ -67,6 +82,7 @@ class StyleBuilder {
   void takeEffects(EffectKind kind);
   void orderParameters();
   void freezeEffects(StoredContent& content, const Style& style);
+  std::size_t endOfParameters(std::size_t effect) const noexcept;
   std::size_t countTaken(EffectKind kind) const noexcept;
   std::size_t countEffectUnits() const noexcept;
   template <class EffectType>
