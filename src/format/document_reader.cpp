@@ -4,17 +4,9 @@
 #include "format/style_keys.h"
 
 namespace Tesk::KoStyle {
-namespace {
 
 using json::Value;
 using json::view;
-
-// One name is read as another.
-TextView currentName(TextView parameterKey) {
-  return parameterKey == KOSTYLE_TEXT("Tarn") ? KOSTYLE_TEXT("Tarn630") : parameterKey;
-}
-
-}  // namespace
 
 template <class Observer>
 const Value* DocumentReader<Observer>::find(const Value& object, TextView key) {
@@ -115,7 +107,7 @@ template <class Observer>
 void DocumentReader<Observer>::readParameters(const Value& source) {
   TextView last;  // a file may repeat a name without end: only the first is worth remembering
   for (auto member = source.MemberBegin(); member != source.MemberEnd(); ++member) {
-    const TextView name = currentName(view(member->name));
+    const TextView name = key::parameterName(view(member->name));
     const Value& value = member->value;
     if (name.empty()) {
       observer_.leftOut(value, LeftOut::emptyKey);

@@ -12,6 +12,12 @@ namespace Tesk::KoStyle {
 
 inline constexpr TextView styleFileExtension = KOSTYLE_TEXT(".kostyle");
 
+/// Whether a file is read as a style, by its path.
+inline bool hasStyleExtension(TextView path) {
+  const std::size_t lastDot = path.rfind(Char('.'));
+  return lastDot != TextView::npos && path.substr(lastDot) == styleFileExtension;
+}
+
 }  // namespace Tesk::KoStyle
 
 namespace Tesk::KoStyle::key {
@@ -28,6 +34,11 @@ constexpr TextView chain(EffectKind kind) {
 
 // In an effect object.
 inline constexpr TextView parameter = KOSTYLE_TEXT("parameter");
+
+/// The name of the parameter with a key: one is read as another.
+constexpr TextView parameterName(TextView parameterKey) {
+  return parameterKey == KOSTYLE_TEXT("Tarn") ? KOSTYLE_TEXT("Tarn630") : parameterKey;
+}
 
 // In the filter object, the languages first.
 inline constexpr TextView languages = KOSTYLE_TEXT("languages");

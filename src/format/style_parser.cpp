@@ -14,8 +14,7 @@ constexpr std::size_t stackSize = 1024;
 StyleParser::StyleParser()
     : firstChunk_(new char[chunkSize]), pool_(firstChunk_.get(), chunkSize, chunkSize, &allocator_) {}
 
-template <class File>
-rapidjson::ParseResult StyleParser::parse(File* file) {
+rapidjson::ParseResult StyleParser::parse(std::FILE* file) {
   document_.reset();
   pool_.Clear();
   document_.emplace(&pool_, stackSize, &stackMemory_);
@@ -31,10 +30,10 @@ rapidjson::ParseResult StyleParser::parse(File* file) {
   }
 }
 
-template <class Unit, class Source, class File>
-rapidjson::ParseResult StyleParser::parseUnits(Reader<Source>& reader, File* file, const Block& first,
-                                               const FileEncoding& encoding) {
-  UnitStream<Unit, File> units(file, first, encoding.markSize, encoding.order);
+template <class Unit, class Source>
+rapidjson::ParseResult StyleParser::parseUnits(Reader<Source>& reader, std::FILE* file,
+                                               const Block& first, const FileEncoding& encoding) {
+  UnitStream<Unit> units(file, first, encoding.markSize, encoding.order);
   rapidjson::ParseResult result;
   auto parseInto = [&](json::Document& document) {
     NestingLimit handler(document);
@@ -44,8 +43,5 @@ rapidjson::ParseResult StyleParser::parseUnits(Reader<Source>& reader, File* fil
   document_->Populate(parseInto);
   return result;
 }
-
-template rapidjson::ParseResult StyleParser::parse(std::FILE* file);
-template rapidjson::ParseResult StyleParser::parse(BytesInMemory* file);
 
 }  // namespace Tesk::KoStyle

@@ -16,11 +16,10 @@ class StyleParser {
  public:
   StyleParser();
 
-  /// Parses an open file, or one in memory: UTF-8, UTF-16 or UTF-32 with or without a byte-order mark.
-  /// The offset of an error counts the bytes of the file up to where it was detected. The document ends
-  /// with the next call.
-  template <class File>
-  rapidjson::ParseResult parse(File* file);
+  /// Parses an open file, UTF-8, UTF-16 or UTF-32 with or without a byte-order mark. The offset of an
+  /// error counts the bytes of the file up to where it was detected. The document ends with the next
+  /// call.
+  rapidjson::ParseResult parse(std::FILE* file);
 
   const json::Value& document() const noexcept { return *document_; }
 
@@ -28,8 +27,8 @@ class StyleParser {
   template <class Source>
   using Reader = rapidjson::GenericReader<Source, json::Encoding, json::StackMemory>;
 
-  template <class Unit, class Source, class File>
-  rapidjson::ParseResult parseUnits(Reader<Source>& reader, File* file, const Block& first,
+  template <class Unit, class Source>
+  rapidjson::ParseResult parseUnits(Reader<Source>& reader, std::FILE* file, const Block& first,
                                     const FileEncoding& encoding);
 
   std::unique_ptr<char[]> firstChunk_;
@@ -41,8 +40,5 @@ class StyleParser {
   Reader<Utf32Source> utf32_;
   std::optional<json::Document> document_;
 };
-
-extern template rapidjson::ParseResult StyleParser::parse(std::FILE* file);
-extern template rapidjson::ParseResult StyleParser::parse(BytesInMemory* file);
 
 }  // namespace Tesk::KoStyle

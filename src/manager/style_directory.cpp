@@ -14,11 +14,6 @@
 namespace Tesk::KoStyle {
 namespace {
 
-bool hasStyleExtension(TextView path) {
-  const std::size_t lastDot = path.rfind(Char('.'));
-  return lastDot != TextView::npos && path.substr(lastDot) == styleFileExtension;
-}
-
 // Makes room for one more, so that appending it cannot throw.
 void reserveOneMore(CreationResults& results) {
   if (results.size() == results.capacity())

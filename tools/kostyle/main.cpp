@@ -19,17 +19,19 @@ constexpr const char* examples = R"(Examples:
   kostyle list --system styles/system --user styles/user
   kostyle show morning-light --system styles/system
   kostyle new --user styles/user --name "Night drive" --audio-effect Filter --param Filter.cutoff=0.4
+  kostyle check styles/system styles/user
 
 "kostyle COMMAND --help" tells more. Exit code: 0 success, 1 refused, 2 wrong use.)";
 
 // The arguments do not hold the program's own name.
 int run(std::vector<std::string> arguments) {
-  CLI::App app("Lists, shows and edits .kostyle style files.", "kostyle");
+  CLI::App app("Checks, lists, shows and edits .kostyle style files.", "kostyle");
   app.allow_windows_style_options(false);
   app.set_version_flag("--version", "kostyle " KOSTYLE_VERSION_STRING);
   app.require_subcommand(0, 1);
   app.footer(examples);
   tool::Command chosen;
+  tool::addCheckCommand(app, chosen);
   tool::addListCommand(app, chosen);
   tool::addShowCommand(app, chosen);
   tool::addNewCommand(app, chosen);
@@ -45,7 +47,7 @@ int run(std::vector<std::string> arguments) {
   } catch (const CLI::ParseError& error) {
     throw tool::WrongUse(error.what());
   }
-  if (!chosen) throw tool::WrongUse("a command is required: list, show, new, set or remove");
+  if (!chosen) throw tool::WrongUse("a command is required: check, list, show, new, set or remove");
   const int exitCode = chosen();
   tool::flushOutput();
   return exitCode;

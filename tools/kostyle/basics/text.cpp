@@ -48,8 +48,31 @@ char32_t takeUnits(TextView& text) {
   return 0x10000 + ((first - 0xD800) << 10) + (second - 0xDC00);
 }
 
+bool isIn(char32_t codePoint, char32_t first, char32_t last) {
+  return codePoint >= first && codePoint <= last;
+}
+
 bool isControl(char32_t codePoint) {
-  return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+  return codePoint < 0x20 || isIn(codePoint, 0x7F, 0x9F) || codePoint == 0x61C ||
+         isIn(codePoint, 0x200E, 0x200F) || isIn(codePoint, 0x2028, 0x202E) ||
+         isIn(codePoint, 0x2066, 0x2069) || codePoint == 0xFEFF;
+}
+
+// Combining marks and what joins characters.
+bool hasNoWidth(char32_t codePoint) {
+  return isIn(codePoint, 0x300, 0x36F) || isIn(codePoint, 0x200B, 0x200D) ||
+         isIn(codePoint, 0x20D0, 0x20FF) || isIn(codePoint, 0xFE00, 0xFE0F) ||
+         isIn(codePoint, 0xFE20, 0xFE2F);
+}
+
+// East Asian characters and pictures.
+bool isWide(char32_t codePoint) {
+  return isIn(codePoint, 0x1100, 0x115F) || isIn(codePoint, 0x2E80, 0x303E) ||
+         isIn(codePoint, 0x3041, 0xA4CF) || isIn(codePoint, 0xAC00, 0xD7A3) ||
+         isIn(codePoint, 0xF900, 0xFAFF) || isIn(codePoint, 0xFE30, 0xFE6F) ||
+         isIn(codePoint, 0xFF00, 0xFF60) || isIn(codePoint, 0xFFE0, 0xFFE6) ||
+         isIn(codePoint, 0x1F300, 0x1F64F) || isIn(codePoint, 0x1F680, 0x1F6FF) ||
+         isIn(codePoint, 0x1F900, 0x1F9FF) || isIn(codePoint, 0x20000, 0x3FFFD);
 }
 
 std::string escaped(std::string_view utf8, std::string_view alsoEscaped) {
@@ -139,6 +162,15 @@ std::string pathToUtf8(TextView path) {
 }
 
 std::string printable(std::string_view utf8) { return escaped(utf8, ""); }
+
+std::size_t widthOf(std::string_view utf8) {
+  std::size_t width = 0;
+  while (!utf8.empty()) {
+    const char32_t codePoint = takeCodePoint(utf8);
+    if (!hasNoWidth(codePoint)) width += isWide(codePoint) ? 2 : 1;
+  }
+  return width;
+}
 
 std::string inQuotes(std::string_view utf8) { return '"' + escaped(utf8, "\"\\") + '"'; }
 

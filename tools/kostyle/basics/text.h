@@ -3,6 +3,7 @@
 
 #include <kostyle/types.h>
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -27,8 +28,12 @@ std::string toUtf8(TextView text);
 /// Like toUtf8(), but outside Windows the unit of a stray byte becomes that byte again.
 std::string pathToUtf8(TextView path);
 
-/// Control characters become escapes, so that text neither breaks a line nor drives the terminal.
+/// Control characters and those that turn the direction of text become escapes, so that text neither
+/// breaks a line nor drives the terminal.
 std::string printable(std::string_view utf8);
+
+/// How many columns of a terminal a text takes.
+std::size_t widthOf(std::string_view utf8);
 
 /// As JSON writes a string: in quotation marks, which together with \ and controls are escaped inside.
 std::string inQuotes(std::string_view utf8);

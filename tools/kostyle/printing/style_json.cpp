@@ -1,13 +1,12 @@
 #include "printing/style_json.h"
 
 #include <kostyle/helpers.h>
-#include <rapidjson/prettywriter.h>
-#include <rapidjson/stringbuffer.h>
 
 #include <cmath>
 #include <string_view>
 
 #include "basics/text.h"
+#include "printing/json_writing.h"
 #include "reading/attributes.h"
 #include "reading/parameter_value.h"
 #include "reading/reasons.h"
@@ -15,21 +14,7 @@
 namespace tool {
 namespace {
 
-using Writer = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
-
-void writeText(Writer& writer, std::string_view utf8) {
-  writer.String(utf8.data(), static_cast<rapidjson::SizeType>(utf8.size()));
-}
-
-void writeMember(Writer& writer, const char* key, std::string_view utf8) {
-  writer.Key(key);
-  writeText(writer, utf8);
-}
-
-// JSON is UTF-8 throughout; what a path has besides becomes U+FFFD.
-std::string validUtf8(const std::string& path) { return toUtf8(fromUtf8(path)); }
-
-void writeValue(Writer& writer, const Value& value) {
+void writeValue(JsonWriter& writer, const Value& value) {
   if (const auto* integer = std::get_if<int>(&value)) {
     writer.Int(*integer);
   } else if (const auto* number = std::get_if<float>(&value)) {
@@ -45,7 +30,7 @@ void writeValue(Writer& writer, const Value& value) {
   }
 }
 
-void writeEffect(Writer& writer, KoStyleEffect* effect) {
+void writeEffect(JsonWriter& writer, KoStyleEffect* effect) {
   writer.StartObject();
   writeMember(writer, "id", toUtf8(Effect_id(effect)));
   writer.Key("parameters");
@@ -64,7 +49,7 @@ void writeEffect(Writer& writer, KoStyleEffect* effect) {
   writer.EndObject();
 }
 
-void writeAttributes(Writer& writer, KoStyleStyle* style) {
+void writeAttributes(JsonWriter& writer, KoStyleStyle* style) {
   writer.Key("languages");
   writer.StartArray();
   for (const int language : languages(style)) writer.Int(language);
@@ -77,12 +62,12 @@ void writeAttributes(Writer& writer, KoStyleStyle* style) {
   }
 }
 
-void writeStyle(Writer& writer, KoStyleStyle* style, const StyleSource& source) {
+void writeStyle(JsonWriter& writer, KoStyleStyle* style, const StyleSource& source) {
   writer.StartObject();
   writeMember(writer, "kind", source.kind);
   writeMember(writer, "name", toUtf8(Style_name(style)));
   writeMember(writer, "id", toUtf8(Style_id(style)));
-  writeMember(writer, "path", validUtf8(source.path));
+  writeMember(writer, "path", source.path);
   writeMember(writer, "vendor", toUtf8(Style_vendor(style)));
   writeAttributes(writer, style);
   for (const Chain& chain : chains()) {
@@ -94,7 +79,7 @@ void writeStyle(Writer& writer, KoStyleStyle* style, const StyleSource& source) 
   writer.EndObject();
 }
 
-void writeParseError(Writer& writer, KoStyleCreationResult* result) {
+void writeParseError(JsonWriter& writer, KoStyleCreationResult* result) {
   const int parseError = StyleCreationResult_parseError(result);
   writer.Key("parseError");
   writer.StartObject();
@@ -106,7 +91,7 @@ void writeParseError(Writer& writer, KoStyleCreationResult* result) {
   writer.EndObject();
 }
 
-void writeRefusal(Writer& writer, KoStyleCreationResult* result) {
+void writeRefusal(JsonWriter& writer, KoStyleCreationResult* result) {
   const int code = StyleCreationResult_error(result);
   writer.StartObject();
   writeMember(writer, "kind", kindText(StyleCreationResult_type(result)));
@@ -128,14 +113,14 @@ std::string textOf(const rapidjson::StringBuffer& buffer) {
 
 std::string styleJson(KoStyleStyle* style, const StyleSource& source) {
   rapidjson::StringBuffer buffer;
-  Writer writer(buffer);
+  JsonWriter writer(buffer);
   writeStyle(writer, style, source);
   return textOf(buffer);
 }
 
 std::string listJson(const Listing& listing) {
   rapidjson::StringBuffer buffer;
-  Writer writer(buffer);
+  JsonWriter writer(buffer);
   const auto writeArray = [&](const char* key, const auto& elements, const auto& writeElement) {
     writer.Key(key);
     writer.StartArray();
@@ -148,7 +133,7 @@ std::string listJson(const Listing& listing) {
   writeArray("refused", listing.refused,
              [&](KoStyleCreationResult* result) { writeRefusal(writer, result); });
   writeArray("unopened", listing.unopened,
-             [&](const fs::path& path) { writeText(writer, validUtf8(shownPath(path))); });
+             [&](const fs::path& path) { writeText(writer, shownPath(path)); });
   writer.EndObject();
   return textOf(buffer);
 }

@@ -1,0 +1,83 @@
+#include "checking/check_run.h"
+
+#include <algorithm>
+#include <atomic>
+#include <new>
+#include <system_error>
+#include <thread>
+
+#include "checking/file_check.h"
+#include "checking/inputs.h"
+#include "checking/repeated_identifiers.h"
+
+namespace tool {
+namespace {
+
+FileReport checkOrSayWhyNot(const Input& input, std::size_t maxSize) {
+  try {
+    return checkInput(input, maxSize);
+  } catch (const std::bad_alloc&) {
+    return unreadable(input.shown, "there is not enough memory for the file");
+  } catch (const std::exception& error) {
+    return unreadable(input.shown, error.what());
+  }
+}
+
+// Each thread takes the next file that none has taken.
+std::vector<FileReport> checkOnThreads(const std::vector<Input>& inputs, const CheckOptions& options) {
+  std::vector<FileReport> reports(inputs.size());
+  std::atomic<std::size_t> next = 0;
+  const auto work = [&] {
+    for (std::size_t i = next++; i < inputs.size(); i = next++)
+      reports[i] = checkOrSayWhyNot(inputs[i], options.maxSize);
+  };
+  std::vector<std::thread> others;
+  try {
+    while (others.size() + 1 < std::min<std::size_t>(options.jobs, inputs.size()))
+      others.emplace_back(work);
+  } catch (const std::system_error&) {  // fewer threads do the same
+  }
+  work();
+  for (std::thread& other : others) other.join();
+  return reports;
+}
+
+}  // namespace
+
+std::vector<FileReport> checkAll(const std::vector<std::string>& paths, const CheckOptions& options) {
+  const std::vector<Input> inputs = inputsOf(paths);
+  std::vector<FileReport> reports = checkOnThreads(inputs, options);
+  findRepeatedIdentifiers(inputs, reports);
+  return reports;
+}
+
+void dropBelow(Severity least, std::vector<FileReport>& reports) {
+  const auto isBelow = [least](const Finding& finding) { return finding.rule->severity < least; };
+  for (FileReport& report : reports) {
+    auto& findings = report.findings;
+    findings.erase(std::remove_if(findings.begin(), findings.end(), isBelow), findings.end());
+  }
+}
+
+Counts countsOf(const std::vector<FileReport>& reports) {
+  Counts counts;
+  counts.files = reports.size();
+  for (const FileReport& report : reports) {
+    for (const Finding& finding : report.findings) {
+      switch (finding.rule->severity) {
+        case Severity::error:
+          ++counts.errors;
+          break;
+        case Severity::warning:
+          ++counts.warnings;
+          break;
+        case Severity::note:
+          ++counts.notes;
+          break;
+      }
+    }
+  }
+  return counts;
+}
+
+}  // namespace tool

@@ -1,0 +1,33 @@
+// The check of many files.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "checking/finding.h"
+
+namespace tool {
+
+struct CheckOptions {
+  std::size_t maxSize = 0;  // of a file, in bytes
+  unsigned jobs = 1;        // files that are checked at the same time
+};
+
+/// What was found in the files of the named paths. The order depends on nothing but the paths and what
+/// is in the files.
+std::vector<FileReport> checkAll(const std::vector<std::string>& paths, const CheckOptions& options);
+
+/// Takes the findings out that are less than `least`.
+void dropBelow(Severity least, std::vector<FileReport>& reports);
+
+struct Counts {
+  std::size_t files = 0;
+  std::size_t errors = 0;
+  std::size_t warnings = 0;
+  std::size_t notes = 0;
+};
+
+Counts countsOf(const std::vector<FileReport>& reports);
+
+}  // namespace tool
