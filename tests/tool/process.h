@@ -52,14 +52,24 @@ inline HANDLE createInherited(const fs::path& path) {
   return file;
 }
 
+inline HANDLE openInherited(const fs::path& path) {
+  SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+  const HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, &inherited,
+                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) throw std::runtime_error("cannot open " + path.string());
+  return file;
+}
+
+/// The program's standard input is a file when one is named.
 inline int runTo(const fs::path& out, const fs::path& err, const std::string& program,
-                 const std::vector<std::string>& arguments) {
+                 const std::vector<std::string>& arguments, const fs::path& in = {}) {
   const std::wstring application = fs::absolute(fs::u8path(program)).make_preferred().native();
   std::wstring commandLine = quotedArgument(application);
   for (const auto& argument : arguments) commandLine += L' ' + quotedArgument(text(argument));
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESTDHANDLES;
+  if (!in.empty()) startup.hStdInput = openInherited(in);
   startup.hStdOutput = createInherited(out);
   startup.hStdError = createInherited(err);
   PROCESS_INFORMATION process{};
@@ -72,6 +82,7 @@ inline int runTo(const fs::path& out, const fs::path& err, const std::string& pr
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
   }
+  if (!in.empty()) CloseHandle(startup.hStdInput);
   CloseHandle(startup.hStdOutput);
   CloseHandle(startup.hStdError);
   if (!started) throw std::runtime_error("cannot start " + program);
@@ -80,8 +91,9 @@ inline int runTo(const fs::path& out, const fs::path& err, const std::string& pr
 
 #else
 
+/// The program's standard input is a file when one is named.
 inline int runTo(const fs::path& out, const fs::path& err, const std::string& program,
-                 const std::vector<std::string>& arguments) {
+                 const std::vector<std::string>& arguments, const fs::path& in = {}) {
   std::vector<std::string> all{program};
   all.insert(all.end(), arguments.begin(), arguments.end());
   std::vector<char*> pointers;
@@ -90,6 +102,7 @@ inline int runTo(const fs::path& out, const fs::path& err, const std::string& pr
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   constexpr int flags = O_WRONLY | O_CREAT | O_TRUNC;
+  if (!in.empty()) posix_spawn_file_actions_addopen(&actions, 0, in.c_str(), O_RDONLY, 0);
   posix_spawn_file_actions_addopen(&actions, 1, out.c_str(), flags, 0600);
   posix_spawn_file_actions_addopen(&actions, 2, err.c_str(), flags, 0600);
   pid_t process = 0;
@@ -132,11 +145,12 @@ inline std::string readPrinted(const fs::path& path) {
 }
 
 /// Expects that the program leaves no temporary file.
-inline Outcome run(const std::string& program, const std::vector<std::string>& arguments) {
+inline Outcome run(const std::string& program, const std::vector<std::string>& arguments,
+                   const fs::path& in = {}) {
   const TemporaryDirectory directory;
   const fs::path temporary = directory.folder("temporary");
   const OtherTemporaryPath other(temporary);
-  const int exitCode = runTo(directory / "out", directory / "err", program, arguments);
+  const int exitCode = runTo(directory / "out", directory / "err", program, arguments, in);
   EXPECT_TRUE(fs::is_empty(temporary));
   return {exitCode, readPrinted(directory / "out"), readPrinted(directory / "err")};
 }

@@ -29,17 +29,25 @@ platform::NativePath nativePathOf(const Text& path) {
   return platform::nativePath(Tesk::KoStyle::toLongPath(path.c_str()));
 }
 
+bool endsWithSeparator(const std::string& path) {
+#if defined(_WIN32)
+  if (path.back() == '\\') return true;
+#endif
+  return path.back() == '/';
+}
+
 // The style files of a directory, those too that the library passes over because they are no regular
 // ones.
 std::vector<Input> styleFilesOf(const std::string& argument) {
   const Text directory = libraryPath(pathOf(argument));
+  const std::string prefix = argument + (endsWithSeparator(argument) ? "" : "/");
   std::vector<Input> inputs;
   const bool listed =
       platform::enumerateDirectory(nativePathOf(directory), [&](platform::DirectoryEntry&& entry) {
         if (entry.isDirectory || !Tesk::KoStyle::hasStyleExtension(entry.name)) return true;
         Input input;
         input.path = Tesk::KoStyle::joinPath(directory, entry.name);
-        input.shown = pathToUtf8(input.path);
+        input.shown = prefix + pathToUtf8(entry.name);
         if (!entry.isRegularFile) input.problem = "not a regular file";
         input.order = inputs.size();
         inputs.push_back(std::move(input));

@@ -14,7 +14,7 @@ const char* outcomeOf(PartKind kind) {
     case PartKind::vendor:
       return "the vendor is left out";
     case PartKind::identity:
-      return "the style has no name";
+      return "the style has no name and cannot be written";
     case PartKind::filter:
       return "the filter is left out";
     case PartKind::languages:

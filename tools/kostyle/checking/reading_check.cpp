@@ -114,19 +114,21 @@ class Walk {
     for (const JsonNode& child : *part.node) {
       const Part childPart{childKind(part.kind, document_.key(child)), &child};
       const JsonValue& childValue = valueOf(value, child);
-      Finding* const finding = visitChild(childPart, childValue);
-      const Text name = nameOf(document_, childPart);
-      if (!finding) {
-        taken.emplace(name, &child);
-      } else if (const auto first = taken.find(name); first != taken.end()) {
-        finding->related = reporter_.relatedTo(*first->second, "the first stands here");
+      if (Finding* const repeats = visitChild(childPart, childValue)) {
+        repeats->related =
+            reporter_.relatedTo(*taken.at(nameOf(document_, childPart)), "the first stands here");
+      } else if (!observer_.whyLeftOut(childValue)) {
+        taken.emplace(nameOf(document_, childPart), &child);
       }
     }
   }
 
-  // Gives the finding when the child is left out.
+  // Gives the finding when the child is left out because it repeats.
   Finding* visitChild(const Part& child, const JsonValue& value) {
-    if (const auto* why = observer_.whyLeftOut(value)) return &addLeftOut(reporter_, child, *why);
+    if (const auto* why = observer_.whyLeftOut(value)) {
+      Finding& finding = addLeftOut(reporter_, child, *why);
+      return *why == LeftOut::repeated ? &finding : nullptr;
+    }
     const auto& refusals = observer_.refusals();
     const auto isIt = [&value](const auto& refusal) { return refusal.value == &value; };
     if (std::none_of(refusals.begin(), refusals.end(), isIt)) visit(child, value);
@@ -215,18 +217,18 @@ void Walk::checkTexts(const Part& part) {
   if (keyCounts && isCut(document_.key(node))) {
     reporter_.add(rule::textCut, node, true,
                   "the name " + textInQuotes(document_.key(node)) + " holds U+0000",
-                  "an application sees what stands before it");
+                  "the rest is not seen");
   }
   if (node.isString() && isCut(document_.text(node))) {
     reporter_.add(rule::textCut, node, false,
                   "the text " + textInQuotes(document_.text(node)) + " holds U+0000",
-                  "an application sees what stands before it");
+                  "the rest is not seen");
   }
   if (part.kind == PartKind::parameter &&
       key::parameterName(document_.key(node)) != document_.key(node)) {
     reporter_.add(rule::parameterRenamed, node, true,
                   partName(document_, part) + " has another name now",
-                  "it is read as " + textInQuotes(key::parameterName(document_.key(node))));
+                  "the name changes when the style is written");
   }
 }
 
@@ -238,7 +240,7 @@ void Walk::checkNumber(const Part& part) {
   if (!becomesZero && std::isfinite(single)) return;
   reporter_.add(rule::floatRange, *part.node, false,
                 partName(document_, part) + " is " + described(document_, *part.node),
-                becomesZero ? "it becomes zero" : "it becomes infinite");
+                becomesZero ? "it becomes zero" : "it becomes infinite, which cannot be written");
 }
 
 }  // namespace

@@ -26,7 +26,9 @@ class WritingCheck {
  public:
   WritingCheck(Reporter& reporter, const Taken& taken)
       : reporter_(reporter), document_(reporter.document()) {
-    for (const Part& part : taken.parts) children_[part.node->parent()].push_back(part);
+    for (const Part& part : taken.parts) {
+      if (part.kind != PartKind::vendor) children_[part.node->parent()].push_back(part);
+    }
   }
 
   void check(const Part& part) {
@@ -79,13 +81,8 @@ class WritingCheck {
         "the order changes");
   }
 
-  // The vendor, which is not written, has no place.
   int rootPlace(const Part& member) const {
-    const TextView order[] = {key::id,
-                              key::name,
-                              key::vendor,
-                              key::filter,
-                              key::chain(EffectKind::audio),
+    const TextView order[] = {key::id, key::name, key::filter, key::chain(EffectKind::audio),
                               key::chain(EffectKind::midi)};
     const auto* const found =
         std::find(std::begin(order), std::end(order), document_.key(*member.node));
@@ -128,7 +125,7 @@ class WritingCheck {
 
   Reporter& reporter_;
   const JsonDocument& document_;
-  std::unordered_map<const JsonNode*, std::vector<Part>> children_;
+  std::unordered_map<const JsonNode*, std::vector<Part>> children_;  // of what is written
   std::set<const Rule*> reordered_;
 };
 
