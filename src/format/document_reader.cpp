@@ -66,11 +66,9 @@ bool DocumentReader<Observer>::read(const Value& root, TextView path, Style& sty
   }
   readVendor(root);
   readFilter(root);
-  StoredContent content = builder_.freeze(style);
+  style.assign(builder_.freeze(style));
   observer_.froze(builder_);
-  if (Observer::wantsAll && outcome.error != KOSTYLE_OK) return false;
-  style.assign(std::move(content));
-  return true;
+  return !Observer::wantsAll || outcome.error == KOSTYLE_OK;
 }
 
 template <class Observer>

@@ -19,7 +19,7 @@ class DocumentReader {
   explicit DocumentReader(Observer observer = {}) : observer_(std::move(observer)) {}
 
   /// Reads a document into a new style, filling a cleared outcome. False when the document is no style,
-  /// with the first failing check in `outcome`.
+  /// with the first failing check in `outcome`; the style is then of no use.
   bool read(const json::Value& root, TextView path, Style& style, StyleReadOutcome& outcome);
 
  private:
