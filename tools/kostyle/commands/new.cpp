@@ -7,6 +7,7 @@
 #include "reading/manager.h"
 #include "writing/mutable_style.h"
 #include "writing/notices.h"
+#include "writing/requested_change.h"
 #include "writing/saving.h"
 #include "writing/style_edits.h"
 
@@ -22,8 +23,10 @@ int create(const NewOptions& options) {
   requireExistingButUser(options.directories);
   MissingDirectories made(*options.directories.user);
   const Manager manager(options.directories);
+  const StyleContent content = requestedChange(options.edits, {}).after;
   MutableStyle mutableStyle(manager);
-  mutableStyle.apply(options.edits);
+  mutableStyle.setName(content.name);
+  mutableStyle.fill(content);
   const Losses losses = saveNew(mutableStyle, *options.directories.user, options.edits.pretty);
   made.keep();
   noticeLosses(losses);

@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <chrono>
 #include <memory>
 #include <string>
 
@@ -6,9 +7,7 @@
 #include "basics/text.h"
 #include "commands/commands.h"
 #include "reading/manager.h"
-#include "writing/mutable_style.h"
-#include "writing/notices.h"
-#include "writing/saving.h"
+#include "writing/changing.h"
 #include "writing/style_edits.h"
 
 namespace tool {
@@ -18,30 +17,15 @@ struct SetOptions {
   std::string id;
   StyleDirectories directories;
   StyleEdits edits;
+  unsigned secondsToWait = 10;
 };
-
-// The library writes to the user directory and then renames the file, which fails across volumes: the
-// directory that the style lies in is made the user directory.
-StyleDirectories besideStyle(const StyleDirectories& directories, const Text& id) {
-  const Manager manager(directories);
-  StyleDirectories own;
-  own.user = pathOf(TextView(Style_path(manager.userStyle(id)))).parent_path();
-  return own;
-}
 
 int change(const SetOptions& options) {
   if (changesNothing(options.edits)) throw WrongUse("nothing is to be changed");
   requireExisting(options.directories);
-  const Text id = fromUtf8(options.id);
-  const Manager manager(besideStyle(options.directories, id));
-  KoStyleStyle* style = manager.userStyle(id);
-  const std::string vendor = toUtf8(Style_vendor(style));
-  MutableStyle mutableStyle(manager);
-  mutableStyle.copy(style);
-  mutableStyle.apply(options.edits);
-  const Losses losses = saveOver(mutableStyle, style, options.edits.pretty);
-  if (!vendor.empty()) noticeLostVendor(vendor);
-  noticeLosses(losses);
+  const Manager manager(options.directories);
+  changeStyle(manager.userStyle(fromUtf8(options.id)), options.edits,
+              std::chrono::seconds(options.secondsToWait));
   return exitOk;
 }
 
@@ -54,14 +38,23 @@ void addSetCommand(CLI::App& app, Command& chosen) {
   addDirectoryOptions(*command, options->directories);
   command->get_option("--user")->required();
   addChangeOptions(*command, options->edits);
+  command
+      ->add_option("--wait", options->secondsToWait,
+                   "How long to wait for another program that uses the file, 10 when not given")
+      ->type_name("SECONDS")
+      ->check(CLI::Range(0U, 86400U));
   command->footer(
       R"(Prints the identifier and the path of the file. What is deleted is deleted before anything is added.
-The file loses its vendor text, if it has one, and whatever else no style can hold.
+Everything else in the file stays byte for byte; with --reformat, what is lost is named on stderr.
+
+A parameter keeps its type, unless TYPE is given. One that the effect does not have is added with --add, and
+with audio:EFFECT.NAME or midi:EFFECT.NAME so is the effect.
 
 Examples:
   kostyle set 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --name "Late drive"
   kostyle set 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --delete-genre Pop
-    --add-genre Rock --delete-audio-effect Delay --param Reverb.mix=0.5 --delete-param Reverb.decay)");
+    --add-genre Rock --delete-audio-effect Delay --param Reverb.mix=0.5 --delete-param Reverb.decay
+  kostyle set 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --add --param Reverb.size:text=7)");
   command->callback([options, &chosen] { chosen = [options] { return change(*options); }; });
 }
 

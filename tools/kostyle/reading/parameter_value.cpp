@@ -1,7 +1,5 @@
 #include "reading/parameter_value.h"
 
-#include <fmt/format.h>
-
 namespace tool {
 
 Value valueOf(KoStyleParameter* parameter) {
@@ -23,23 +21,6 @@ void setValue(KoStyleParameter* parameter, const Value& value) {
   } else {
     MutableParameter_setValueString(parameter, std::get<Text>(value).c_str());
   }
-}
-
-const char* typeText(const Value& value) {
-  constexpr const char* types[] = {"int", "float", "text"};
-  return types[value.index()];
-}
-
-std::string floatText(float value) {
-  std::string text = fmt::format("{}", value);
-  if (text.find_first_not_of("-0123456789") == text.npos) text += ".0";
-  return text;
-}
-
-std::string valueText(const Value& value) {
-  if (const auto* integer = std::get_if<int>(&value)) return fmt::format("{}", *integer);
-  if (const auto* number = std::get_if<float>(&value)) return floatText(*number);
-  return inQuotes(toUtf8(std::get<Text>(value)));
 }
 
 }  // namespace tool

@@ -1,27 +1,13 @@
-// The typed value of a parameter.
+// The values of parameters in the library.
 #pragma once
 
 #include <kostyle/kostyle.h>
 
-#include <string>
-#include <variant>
-
-#include "basics/text.h"
+#include "basics/value.h"
 
 namespace tool {
 
-using Value = std::variant<int, float, Text>;
-
 Value valueOf(KoStyleParameter* parameter);
 void setValue(KoStyleParameter* parameter, const Value& value);
-
-/// "int", "float" or "text".
-const char* typeText(const Value& value);
-
-/// The shortest form that reads back as the same float, always recognisable as one: 0.1, 3.0, 1e+20.
-std::string floatText(float value);
-
-/// A number, or a text in quotation marks.
-std::string valueText(const Value& value);
 
 }  // namespace tool

@@ -4,6 +4,7 @@
 #include <kostyle/kostyle.h>
 
 #include <memory>
+#include <string_view>
 
 #include "basics/paths.h"
 #include "reading/manager.h"
@@ -15,9 +16,15 @@ class StyleFile {
   /// Throws Refused when the file cannot be read or holds no valid style. The directory is empty.
   explicit StyleFile(const fs::path& path, const TemporaryDirectory& directory = TemporaryDirectory());
 
+  /// The same for what a file holds, or is to hold.
+  StyleFile(const fs::path& path, std::string_view bytes,
+            const TemporaryDirectory& directory = TemporaryDirectory());
+
   KoStyleStyle* style() const { return manager_->styles().front(); }
 
  private:
+  void read(const fs::path& path, const fs::path& directory);
+
   std::unique_ptr<Manager> manager_;
 };
 

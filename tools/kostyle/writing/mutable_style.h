@@ -1,15 +1,10 @@
-// A mutable style under work. What the library refuses throws Refused.
+// A mutable style with a content. What the library does not take throws Refused.
 #pragma once
 
 #include <kostyle/kostyle.h>
 
-#include <string>
-#include <vector>
-
-#include "reading/attributes.h"
+#include "editing/style_content.h"
 #include "reading/manager.h"
-#include "writing/parameter_argument.h"
-#include "writing/style_edits.h"
 
 namespace tool {
 
@@ -20,23 +15,16 @@ class MutableStyle {
 
   KoStyleStyle* handle() const { return style_; }
 
-  /// Takes over everything that a stored style has, but the vendor text.
-  void copy(KoStyleStyle* stored);
+  void setName(const Text& name);
 
-  /// Deletes first, then adds; effects come before parameters.
-  void apply(const StyleEdits& edits);
+  /// Puts everything in but identifier, name and vendor text.
+  void fill(const StyleContent& content);
 
  private:
-  void addLanguage(int language);
-  void addText(const TextList& list, const KoStyleChar* text);
-  void deleteText(const TextList& list, const std::string& text);
-  KoStyleEffect* appendEffect(const Chain& chain, const KoStyleChar* id);
-  void deleteEffect(const Chain& chain, const std::string& id);
-  void deleteParameter(const std::string& argument);
-  void assignParameters(const std::vector<std::string>& arguments);
-  std::vector<NamedEffect> effects() const;
-
   KoStyleStyle* style_;
 };
+
+/// Throws Refused when the library does not take what a change adds.
+void requireTaken(const StyleChange& change);
 
 }  // namespace tool

@@ -14,8 +14,8 @@ void noticeLosses(const Losses& losses) {
                "kostyle: notice: effects or parameters are lost: readers take their names for one\n");
 }
 
-void noticeLostVendor(const std::string& vendor) {
-  fmt::print(stderr, "kostyle: notice: the vendor text is lost: {}\n", inQuotes(vendor));
+void noticeLost(const std::vector<std::string>& parts) {
+  for (const std::string& part : parts) fmt::print(stderr, "kostyle: notice: {}\n", printable(part));
 }
 
 }  // namespace tool

@@ -2,12 +2,13 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "writing/saving.h"
 
 namespace tool {
 
 void noticeLosses(const Losses& losses);
-void noticeLostVendor(const std::string& vendor);
+void noticeLost(const std::vector<std::string>& parts);
 
 }  // namespace tool

@@ -1,43 +1,37 @@
 // The arguments of --param, EFFECT.NAME=VALUE, and --delete-param, EFFECT.NAME.
 #pragma once
 
-#include <kostyle/kostyle.h>
-
+#include <cstddef>
+#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
-
-#include "reading/attributes.h"
-#include "reading/parameter_value.h"
 
 namespace tool {
 
-/// An effect of a mutable style.
+/// An effect that an argument may name.
 struct NamedEffect {
-  const Chain* chain;
+  std::string chain;  // its name
   std::string id;
-  KoStyleEffect* handle;
 };
 
 struct EffectReference {
-  KoStyleEffect* effect;
-  std::string rest;  // of the argument, behind the dot
+  std::size_t effect;  // its place among the effects
+  std::string rest;    // of the argument, behind the dot
 };
 
-/// The effect that the argument starts with. Identifiers may hold dots: the longest one wins. "audio:"
-/// or "midi:" in front names the chain, wins over as long an identifier that starts so, and is needed
-/// when both chains have the effect.
-EffectReference findEffect(const std::string& argument, const std::vector<NamedEffect>& effects);
+/// The effect that the argument starts with, if any. Identifiers may hold dots: the longest one wins.
+/// "audio:" or "midi:" in front names the chain, wins over as long an identifier that starts so, and is
+/// needed when both chains have the effect. Throws WrongUse and Refused.
+std::optional<EffectReference> findEffect(const std::string& argument,
+                                          const std::vector<NamedEffect>& effects);
 
 struct Assignment {
   std::string name;
-  Value value;
+  std::string type;  // empty when none is given
+  std::string value;
 };
 
-/// A whole decimal number and nothing else; throws WrongUse.
-int intOf(std::string_view text);
-
-/// NAME=VALUE, whose type follows the form of VALUE, or NAME:TYPE=VALUE. The first "=" ends NAME.
+/// NAME=VALUE or NAME:TYPE=VALUE. The first "=" ends NAME. Throws WrongUse.
 Assignment parseAssignment(const std::string& text);
 
 }  // namespace tool

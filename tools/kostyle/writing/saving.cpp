@@ -10,7 +10,6 @@
 #include "basics/output.h"
 #include "basics/text.h"
 #include "reading/style_file.h"
-#include "writing/backup.h"
 
 namespace tool {
 namespace {
@@ -49,6 +48,22 @@ void requireWritable(KoStyleParameter* parameter) {
                               inQuotes(toUtf8(Parameter_name(parameter)))));
 }
 
+// A full disk is no error to the library either.
+Losses readAgain(KoStyleStyle* style, const Counts& written, const TemporaryDirectory& directory) {
+  const StyleFile file(pathOf(TextView(Style_path(style))), directory);
+  const Counts read = countsOf(file.style(), &Chain::stored);
+  const bool sameNames =
+      read.effects < written.effects - written.emptyEffects || read.parameters < written.parameters;
+  return {written.emptyEffects > 0, sameNames};
+}
+
+void check(int error, const fs::path& path) {
+  if (error != KOSTYLE_OK)
+    throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
+}
+
+}  // namespace
+
 // The library ends the file in front of what JSON cannot hold, without an error.
 void requireWritable(KoStyleStyle* style) {
   requireUnicode(Style_name(style));
@@ -66,26 +81,10 @@ void requireWritable(KoStyleStyle* style) {
     throw Refused("no effect has a parameter: the file could not be read again");
 }
 
-// A full disk is no error to the library either.
-Losses readAgain(KoStyleStyle* style, const Counts& written, const TemporaryDirectory& directory) {
-  const StyleFile file(pathOf(TextView(Style_path(style))), directory);
-  const Counts read = countsOf(file.style(), &Chain::stored);
-  const bool sameNames =
-      read.effects < written.effects - written.emptyEffects || read.parameters < written.parameters;
-  return {written.emptyEffects > 0, sameNames};
-}
-
-void printWritten(KoStyleStyle* style) {
-  fmt::print("{}\t{}\n", printable(toUtf8(Style_id(style))), printable(pathToUtf8(Style_path(style))));
+void printWritten(TextView id, const fs::path& path) {
+  fmt::print("{}\t{}\n", printable(toUtf8(id)), printable(shownPath(path)));
   flushOutput();
 }
-
-void check(int error, const fs::path& path) {
-  if (error != KOSTYLE_OK)
-    throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
-}
-
-}  // namespace
 
 Losses saveNew(const MutableStyle& mutableStyle, const fs::path& directory, bool pretty) {
   requireWritable(mutableStyle.handle());
@@ -96,31 +95,11 @@ Losses saveNew(const MutableStyle& mutableStyle, const fs::path& directory, bool
   check(error, directory);
   try {
     const Losses losses = readAgain(style, counts, temporary);
-    printWritten(style);
+    printWritten(Style_id(style), pathOf(TextView(Style_path(style))));
     return losses;
   } catch (...) {
     UserStyle_remove(style);
     throw;
-  }
-}
-
-Losses saveOver(const MutableStyle& mutableStyle, KoStyleStyle* target, bool pretty) {
-  requireWritable(mutableStyle.handle());
-  const Counts counts = countsOf(mutableStyle.handle(), &Chain::mutableEffect);
-  const TemporaryDirectory temporary;
-  const fs::path path = pathOf(TextView(Style_path(target)));
-  Backup backup(path);
-  int error = KOSTYLE_OK;
-  MutableStyle_overwrite(mutableStyle.handle(), Style_id(target), pretty, &error);
-  check(error, path);
-  try {
-    const Losses losses = readAgain(target, counts, temporary);
-    printWritten(target);
-    return losses;
-  } catch (const std::exception& failure) {
-    if (backup.restore()) throw;
-    throw Refused(
-        fmt::format("{}; the style as it was is kept in {}", failure.what(), shownPath(backup.path())));
   }
 }
 

@@ -18,7 +18,10 @@ struct Losses {
 /// and path, a tab between them; or leaves nothing. Throws Refused.
 Losses saveNew(const MutableStyle& mutableStyle, const fs::path& directory, bool pretty);
 
-/// Does the same over a user style of the user directory, or leaves its file as it was. Throws Refused.
-Losses saveOver(const MutableStyle& mutableStyle, KoStyleStyle* target, bool pretty);
+/// Throws Refused when a file could not hold the mutable style, or could not be read again.
+void requireWritable(KoStyleStyle* mutableStyle);
+
+/// Prints identifier and path, a tab between them. Throws Refused.
+void printWritten(TextView id, const fs::path& path);
 
 }  // namespace tool

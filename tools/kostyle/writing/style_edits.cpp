@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "basics/failure.h"
-#include "writing/parameter_argument.h"
+#include "writing/value_argument.h"
 
 namespace tool {
 namespace {
@@ -57,7 +57,7 @@ bool changesNothing(const StyleEdits& edits) {
   return !edits.name && edits.languages.empty() && edits.deletedLanguages.empty() &&
          allEmpty(edits.texts) && allEmpty(edits.deletedTexts) && allEmpty(edits.effects) &&
          allEmpty(edits.deletedEffects) && edits.parameters.empty() &&
-         edits.deletedParameters.empty() && !edits.pretty;
+         edits.deletedParameters.empty() && !edits.reformat;
 }
 
 void addCreationOptions(CLI::App& command, StyleEdits& edits) {
@@ -86,7 +86,12 @@ void addChangeOptions(CLI::App& command, StyleEdits& edits) {
                 fmt::format("Delete an effect of the {} chain", chain.name));
   }
   addRepeated(command, "delete-param", edits.deletedParameters, "EFFECT.NAME", "Delete a parameter");
+  command.add_flag("--add", edits.add, "Let --param add what is not there")->disable_flag_override();
+  auto* reformat =
+      command.add_flag("--reformat", edits.reformat, "Write the library's own form of the file")
+          ->disable_flag_override();
   addCommonOptions(command, edits);
+  command.get_option("--pretty")->needs(reformat);
 }
 
 }  // namespace tool

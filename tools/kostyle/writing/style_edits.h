@@ -27,10 +27,12 @@ struct StyleEdits {
   std::array<Texts, std::tuple_size_v<Chains>> deletedEffects;
   Texts parameters;
   Texts deletedParameters;
+  bool add = false;  // parameters and effects that are not there
+  bool reformat = false;
   bool pretty = false;
 };
 
-/// True when not even another layout of the file is asked for.
+/// True when not even another form of the file is asked for.
 bool changesNothing(const StyleEdits& edits);
 
 /// Adds the options that fill a new style.

@@ -1,0 +1,38 @@
+// New content for a file: written beside it first, then put in its place at once.
+#pragma once
+
+#include <chrono>
+#include <string_view>
+
+#include "basics/paths.h"
+#include "writing/folder_lock.h"
+
+namespace tool {
+
+/// The file keeps mode and owner. A process that is killed before the end may leave the new content
+/// behind as `kostyle.new`; the next replacement in the folder takes it away.
+class FileReplacement {
+ public:
+  /// Writes the new content. `file` is no link, and its folder is locked. Throws Refused and leaves
+  /// nothing.
+  FileReplacement(const FolderLock& lock, const fs::path& file, std::string_view bytes);
+  FileReplacement(const FileReplacement&) = delete;
+  FileReplacement& operator=(const FileReplacement&) = delete;
+
+  /// Leaves the file as it was, unless finish() came to its end.
+  ~FileReplacement();
+
+  /// Where the new content is until then.
+  const fs::path& path() const { return path_; }
+
+  /// Puts the new content in the file's place. While another program keeps the file from being
+  /// replaced, it is tried again, up to the limit. Throws Refused.
+  void finish(std::chrono::milliseconds limit);
+
+ private:
+  fs::path file_;
+  fs::path path_;
+  bool isDone_ = false;
+};
+
+}  // namespace tool
