@@ -84,6 +84,8 @@ void changeStyle(KoStyleStyle* style, const StyleEdits& edits, std::chrono::mill
   if (after.bytes != before) {
     FileReplacement replacement(lock, file, after.bytes);
     requireContent(path, readBytes(replacement.path()), after.content, requested.change);
+    if (readBytes(file) != before)
+      throw Refused(fmt::format("{}: another program has changed the file meanwhile", shownPath(path)));
     replacement.finish(limit);
   }
   try {

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "basics/failure.h"
-#include "basics/near_name.h"
+#include "checking/near_name.h"
 #include "writing/parameter_argument.h"
 #include "writing/value_argument.h"
 
@@ -33,10 +33,10 @@ bool contains(const std::vector<Element>& elements, const Element& element) {
   return std::find(elements.begin(), elements.end(), element) != elements.end();
 }
 
-Texts utf8Of(const std::vector<Text>& texts) {
-  Texts result;
-  for (const Text& text : texts) result.push_back(toUtf8(text));
-  return result;
+// The end of a message about a name that is not there.
+std::string meant(const std::string& name, const std::vector<Text>& known) {
+  const Text nearest = nearName(fromUtf8(name), {known.begin(), known.end()});
+  return nearest.empty() ? std::string() : fmt::format("; did you mean {}?", inQuotes(toUtf8(nearest)));
 }
 
 struct WorkingEffect {
@@ -50,10 +50,9 @@ struct WorkingEffect {
       if (parameter.name == name) return &parameter;
     return nullptr;
   }
-  Texts names() const {
-    Texts names;
-    for (const ParameterContent& parameter : content.parameters)
-      names.push_back(toUtf8(parameter.name));
+  std::vector<Text> names() const {
+    std::vector<Text> names;
+    for (const ParameterContent& parameter : content.parameters) names.push_back(parameter.name);
     return names;
   }
 };
@@ -104,8 +103,8 @@ class Request {
     for (const std::string& argument : edits_.deletedTexts[list]) {
       change.removed.push_back(content(argument));
       if (!take(texts, change.removed.back()))
-        throw Refused(fmt::format("{} {} is not there{}", option, inQuotes(argument),
-                                  meant(argument, utf8Of(texts))));
+        throw Refused(
+            fmt::format("{} {} is not there{}", option, inQuotes(argument), meant(argument, texts)));
     }
     for (const std::string& argument : edits_.texts[list]) {
       change.added.push_back(content(argument));
@@ -135,9 +134,9 @@ class Request {
     }
   }
 
-  Texts idsOf(std::size_t chain) const {
-    Texts ids;
-    for (const WorkingEffect& effect : effects_[chain]) ids.push_back(toUtf8(effect.content.id));
+  std::vector<Text> idsOf(std::size_t chain) const {
+    std::vector<Text> ids;
+    for (const WorkingEffect& effect : effects_[chain]) ids.push_back(effect.content.id);
     return ids;
   }
 
@@ -171,9 +170,11 @@ class Request {
       effects_[chain].push_back({{content(id), {}}, true, {}, {}});
       return effects_[chain].back();
     }
-    Texts ids = idsOf(0);
-    for (std::string& other : idsOf(1)) ids.push_back(std::move(other));
-    throw Refused(fmt::format("{}: the style has no such effect{}", argument, meant(id, ids)));
+    std::vector<Text> ids = idsOf(0);
+    for (Text& other : idsOf(1)) ids.push_back(std::move(other));
+    throw Refused(
+        fmt::format("{}: the style has no such effect{}{}", argument, meant(id, ids),
+                    edits_.add ? "; to add it, name its chain: audio:EFFECT.NAME=VALUE" : ""));
   }
 
   void deleteParameter(const std::string& argument) {
