@@ -202,11 +202,21 @@ TEST_F(SetFile, KeepsItsOwner) {
   EXPECT_EQ(status.st_gid, group);
 }
 
-// Without the privilege by which root writes everything.
+// Without the privileges by which root writes everything and gives files away.
 Outcome runUnprivileged(const Arguments& arguments) {
   return runToolInScript(
-      geteuid() == 0 ? "setpriv --bounding-set=-dac_override \"$0\" \"$@\"" : "\"$0\" \"$@\"",
+      geteuid() == 0 ? "setpriv --bounding-set=-dac_override,-chown \"$0\" \"$@\"" : "\"$0\" \"$@\"",
       arguments);
+}
+
+TEST_F(SetFile, RefusesAFileWhoseOwnerCannotBeKept) {
+  if (std::system("command -v setpriv > /dev/null") != 0) GTEST_SKIP() << "setpriv is missing";
+  if (chown(file_.c_str(), 1234, 5678) != 0) GTEST_SKIP() << "only root gives files away";
+  ASSERT_EQ(chmod(file_.c_str(), 0666), 0);
+  expectFailure(runUnprivileged(rename("X")), 1,
+                "its owner and group cannot be kept: Operation not permitted");
+  expectRenamed("N");
+  EXPECT_THAT(entryNames(user_), ElementsAre("mine.kostyle"));
 }
 
 TEST_F(SetFile, RefusesAReadOnlyFile) {

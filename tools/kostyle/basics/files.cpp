@@ -13,7 +13,7 @@ namespace tool {
 namespace {
 
 struct Closer {
-  void operator()(std::FILE* file) const noexcept { std::fclose(file); }
+  void operator()(std::FILE* file) const noexcept { static_cast<void>(std::fclose(file)); }
 };
 using File = std::unique_ptr<std::FILE, Closer>;
 
@@ -48,7 +48,7 @@ void writeBytes(const fs::path& path, std::string_view bytes, const fs::path& me
   File file = openFile(path, "wb");
   if (!file) fail(meant, "a copy to be read cannot be made");
   const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-  if (!isWritten || std::fflush(file.get()) != 0) fail(meant, "a copy to be read cannot be written");
+  if (!isWritten || std::fclose(file.release()) != 0) fail(meant, "a copy to be read cannot be written");
 }
 
 }  // namespace tool
