@@ -63,6 +63,11 @@ TEST_F(SetText, LeavesANumberThatIsTheSame) {
       authored);
 }
 
+TEST_F(SetText, TellsTheZerosApart) {
+  const std::string before = replaced(authored, "0.40", "0.0");
+  EXPECT_EQ(changed(before, {"--param", "EQ.gain=-0.0"}), replaced(before, "0.0,", "-0.0,"));
+}
+
 TEST_F(SetText, KeepsTheTypeOfAParameter) {
   EXPECT_EQ(changed(authored, {"--param", "EQ.gain=1"}), replaced(authored, "0.40", "1.0"));
   EXPECT_EQ(changed(authored, {"--param", "EQ.mode=7"}), replaced(authored, "\"warm\"", "\"7\""));
@@ -86,6 +91,7 @@ TEST_F(SetText, WritesTheShortestFloat) {
   gain("-0.000001", "-1e-06");
   gain("3.4028235e38", "3.4028235e+38");
   gain("1e-45", "1e-45");
+  gain("-0", "-0.0");
 }
 
 TEST_F(SetText, ChangesTheName) {

@@ -48,7 +48,8 @@ void writeBytes(const fs::path& path, std::string_view bytes, const fs::path& me
   File file = openFile(path, "wb");
   if (!file) fail(meant, "a copy to be read cannot be made");
   const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-  if (!isWritten || std::fclose(file.release()) != 0) fail(meant, "a copy to be read cannot be written");
+  if (!isWritten || std::fclose(file.release()) != 0)
+    fail(meant, "a copy to be read cannot be written");
 }
 
 }  // namespace tool

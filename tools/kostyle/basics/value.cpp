@@ -2,7 +2,15 @@
 
 #include <fmt/format.h>
 
+#include <cmath>
+
 namespace tool {
+
+bool areSame(const Value& a, const Value& b) {
+  const auto* const number = std::get_if<float>(&a);
+  const auto* const other = std::get_if<float>(&b);
+  return a == b && (!number || std::signbit(*number) == std::signbit(*other));
+}
 
 const char* typeText(const Value& value) {
   constexpr const char* types[] = {"int", "float", "text"};

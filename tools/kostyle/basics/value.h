@@ -10,6 +10,9 @@ namespace tool {
 
 using Value = std::variant<int, float, Text>;
 
+/// The same type and value; 0.0 and -0.0 are two.
+bool areSame(const Value& a, const Value& b);
+
 /// "int", "float" or "text".
 const char* typeText(const Value& value);
 

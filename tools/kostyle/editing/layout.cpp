@@ -138,7 +138,7 @@ std::string Layout::newGap(const JsonNode& container, const JsonNode& behind) co
 
 std::string Layout::colon(const JsonNode& object) const {
   for (const JsonNode& member : object) {
-    const std::string space = between(member.keySpan.end, member.span.begin);
+    std::string space = between(member.keySpan.end, member.span.begin);
     if (!hasLineBreak(space)) return space;
   }
   return colon_;

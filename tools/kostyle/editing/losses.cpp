@@ -23,10 +23,10 @@ class Comparison {
     if (encoding != written_.source().encodingName())
       losses_.push_back(
           fmt::format("the encoding {} becomes {}", encoding, written_.source().encodingName()));
-    if (source.begin() > 0) losses_.push_back("the byte-order mark is lost");
+    if (source.begin() > 0) losses_.emplace_back("the byte-order mark is lost");
     compareObjects(whole_.root(), written_.root());
     if (whole_.parsedEnd() < source.end())
-      losses_.push_back("what stands behind the end of the document is lost");
+      losses_.emplace_back("what stands behind the end of the document is lost");
     return std::move(losses_);
   }
 

@@ -20,6 +20,19 @@ std::vector<Element> sorted(std::vector<Element> elements) {
   return elements;
 }
 
+// Of two lists, whose order means nothing.
+template <typename Element, typename Show>
+std::string listDifference(const std::vector<Element>& expected, const std::vector<Element>& found,
+                           Show show) {
+  const std::vector<Element> wanted = sorted(expected);
+  const std::vector<Element> given = sorted(found);
+  const auto [want, give] = std::mismatch(wanted.begin(), wanted.end(), given.begin(), given.end());
+  if (want == wanted.end() && give == given.end()) return {};
+  if (want == wanted.end() || (give != given.end() && *give < *want))
+    return fmt::format("{} is there", show(*give));
+  return fmt::format("{} is not there", show(*want));
+}
+
 std::string parameterDifference(const EffectContent& expected, const EffectContent& found) {
   const auto byName = [](std::vector<ParameterContent> parameters) {
     std::stable_sort(parameters.begin(), parameters.end(),
@@ -29,7 +42,7 @@ std::string parameterDifference(const EffectContent& expected, const EffectConte
   const auto wanted = byName(expected.parameters);
   const auto given = byName(found.parameters);
   const auto same = [](const ParameterContent& a, const ParameterContent& b) {
-    return a.name == b.name && a.value == b.value;
+    return a.name == b.name && areSame(a.value, b.value);
   };
   const auto [want, give] =
       std::mismatch(wanted.begin(), wanted.end(), given.begin(), given.end(), same);
@@ -63,9 +76,12 @@ std::string difference(const StyleContent& expected, const StyleContent& found) 
                     textDifference("name", expected.name, found.name),
                     textDifference("vendor text", expected.vendor, found.vendor)})
     if (!text.empty()) return text;
-  if (sorted(expected.languages) != sorted(found.languages)) return "the languages differ";
+  const auto showLanguage = [](int language) { return fmt::format("the language {}", language); };
+  if (auto text = listDifference(expected.languages, found.languages, showLanguage); !text.empty())
+    return text;
   for (std::size_t i = 0; i < expected.texts.size(); ++i)
-    if (sorted(expected.texts[i]) != sorted(found.texts[i])) return "the attributes differ";
+    if (auto text = listDifference(expected.texts[i], found.texts[i], shown); !text.empty())
+      return text;
   for (std::size_t i = 0; i < expected.chains.size(); ++i)
     if (auto text = chainDifference(expected.chains[i], found.chains[i]); !text.empty()) return text;
   return {};

@@ -205,7 +205,7 @@ class Request {
                         : present ? valueLike(present->value, assignment.value)
                                   : valueByForm(assignment.value);
     if (present) {
-      if (present->value == value) return;
+      if (areSame(present->value, value)) return;
       present->value = value;
       effect.change.replaced.push_back({name, value});
       return;
