@@ -23,7 +23,7 @@ using tool::Finding;
 using tool::Severity;
 using tool::Stage;
 
-constexpr int documentsPerTest = 6000;
+constexpr int documentsPerTest = 4000;
 
 bool isLoss(const Finding& finding) {
   return finding.rule->stage == Stage::reading && finding.rule->severity != Severity::note;

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "checking/style_document.h"
@@ -50,7 +51,9 @@ class OneChange {
     Value& container = *random_.of(containers);
     const std::size_t size = container.elements.size();
     const std::size_t at = random_.below(size + 1);
-    if (at == size) {
+    if (size > 1 && random_.oneIn(4)) {
+      exchange(container, random_.below(size), random_.below(size));
+    } else if (at == size) {
       insert(container, size, key(), other());
     } else if (random_.oneIn(3)) {
       container.elements[at] = other();
@@ -67,6 +70,11 @@ class OneChange {
   static void collect(Value& value, std::vector<Value*>& containers) {
     if (value.kind == Value::array || value.kind == Value::object) containers.push_back(&value);
     for (Value& element : value.elements) collect(element, containers);
+  }
+
+  static void exchange(Value& container, std::size_t a, std::size_t b) {
+    std::swap(container.elements[a], container.elements[b]);
+    if (container.kind == Value::object) std::swap(container.keys[a], container.keys[b]);
   }
 
   static void insert(Value& container, std::size_t at, const Text& key, Value value) {

@@ -23,7 +23,7 @@ inline std::string written(const ParameterValue& value) {
   if (value.type == KOSTYLE_PARAMETER_INT) return std::to_string(value.integer);
   if (value.type == KOSTYLE_PARAMETER_STRING) return written(value.string);
   char number[64];
-  std::snprintf(number, sizeof number, "%.9e", static_cast<double>(value.real));
+  std::snprintf(number, sizeof number, "%.17e", static_cast<double>(value.real));
   return std::isfinite(value.real) ? number : "0.5";
 }
 

@@ -64,7 +64,7 @@ const Rule floatPrecision = {"float-precision", note, writing, "a float paramete
 const Rule encodingChanged = {"encoding-changed", note, writing,
                               "a style is written as UTF-8 without a byte-order mark"};
 const Rule memberOrder = {"member-order", note, writing,
-                          "the order is \"id\", \"name\", \"filter\", \"audioEffect\", \"midiEffect\""};
+                          "the members of root and filter have their own order"};
 const Rule parameterOrder = {"parameter-order", note, writing, "parameters are sorted by name"};
 const Rule valueOrder = {"value-order", note, writing, "the values of a list are sorted"};
 

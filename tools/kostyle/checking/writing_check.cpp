@@ -19,7 +19,11 @@ namespace {
 
 namespace key = Tesk::KoStyle::key;
 
+using Tesk::KoStyle::Attribute;
 using Tesk::KoStyle::EffectKind;
+
+// The parser may miss a number by the last bit of its double precision.
+bool isNear(double a, double b) { return std::abs(a - b) <= 1e-15 * std::abs(b); }
 
 // The parts that a style takes, by the part that they stand in.
 class WritingCheck {
@@ -35,7 +39,8 @@ class WritingCheck {
     checkSurrogates(part);
     switch (part.kind) {
       case PartKind::root:
-        checkOrder(part, rule::memberOrder, [this](const Part& member) { return rootPlace(member); });
+      case PartKind::filter:
+        checkOrder(part, rule::memberOrder, [this](const Part& member) { return memberPlace(member); });
         break;
       case PartKind::vendor:
         if (!document_.text(*part.node).empty())
@@ -72,7 +77,10 @@ class WritingCheck {
   // Once for the file, at the first part that stands behind one that comes after it.
   template <class KeyOf>
   void checkOrder(const Part& parent, const Rule& rule, KeyOf keyOf) {
-    const std::vector<Part>& parts = children_[parent.node];
+    std::vector<Part> parts;
+    for (const Part& part : children_[parent.node]) {
+      if (isWritten(part)) parts.push_back(part);
+    }
     const auto outOfOrder = [&](const Part& a, const Part& b) { return keyOf(b) < keyOf(a); };
     const auto found = std::adjacent_find(parts.begin(), parts.end(), outOfOrder);
     if (found == parts.end() || !reordered_.insert(&rule).second) return;
@@ -81,12 +89,28 @@ class WritingCheck {
         "the order changes");
   }
 
-  int rootPlace(const Part& member) const {
-    const TextView order[] = {key::id, key::name, key::filter, key::chain(EffectKind::audio),
-                              key::chain(EffectKind::midi)};
-    const auto* const found =
-        std::find(std::begin(order), std::end(order), document_.key(*member.node));
-    return static_cast<int>(found - std::begin(order));
+  // What holds nothing is not.
+  bool isWritten(const Part& part) {
+    const std::vector<Part>& children = children_[part.node];
+    const auto isFull = [this](const Part& list) { return !children_[list.node].empty(); };
+    if (part.kind == PartKind::filter) return std::any_of(children.begin(), children.end(), isFull);
+    const bool holdsOthers = part.kind == PartKind::chain || part.kind == PartKind::languages ||
+                             part.kind == PartKind::texts;
+    return !holdsOthers || !children.empty();
+  }
+
+  // Among the members of root and filter, as they are written.
+  std::size_t memberPlace(const Part& member) const {
+    std::vector<TextView> order{key::id,
+                                key::name,
+                                key::filter,
+                                key::chain(EffectKind::audio),
+                                key::chain(EffectKind::midi),
+                                key::languages};
+    for (const Attribute attribute : Tesk::KoStyle::textAttributes)
+      order.push_back(key::list(attribute));
+    const auto found = std::find(order.begin(), order.end(), document_.key(*member.node));
+    return static_cast<std::size_t>(found - order.begin());
   }
 
   void checkEffect(const Part& effect) {
@@ -115,9 +139,9 @@ class WritingCheck {
     const double number = parameter.node->number;
     const auto single = static_cast<float>(number);
     if (parameter.node->kind != JsonKind::real || !std::isfinite(single) || single == 0) return;
-    if (static_cast<double>(single) == number) return;
+    if (isNear(number, static_cast<double>(single))) return;
     const std::string shortest = fmt::format("{}", single);
-    if (std::strtod(shortest.c_str(), nullptr) == number) return;
+    if (isNear(number, std::strtod(shortest.c_str(), nullptr))) return;
     reporter_.add(rule::floatPrecision, *parameter.node, false,
                   partName(document_, parameter) + " is " + described(document_, *parameter.node),
                   "it becomes " + shortest);
