@@ -44,12 +44,12 @@ std::string readBytes(const fs::path& path) {
   return bytes;
 }
 
-void writeBytes(const fs::path& path, std::string_view bytes, const fs::path& meant) {
-  File file = openFile(path, "wb");
-  if (!file) fail(meant, "a copy to be read cannot be made");
+void writeCopy(const fs::path& copy, std::string_view bytes, const fs::path& original) {
+  File file = openFile(copy, "wb");
+  if (!file) fail(original, "a copy to be read cannot be made");
   const bool isWritten = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
   if (!isWritten || std::fclose(file.release()) != 0)
-    fail(meant, "a copy to be read cannot be written");
+    fail(original, "a copy to be read cannot be written");
 }
 
 }  // namespace tool

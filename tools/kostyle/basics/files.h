@@ -11,8 +11,8 @@ namespace tool {
 /// Throws Refused with the system's reason.
 std::string readBytes(const fs::path& path);
 
-/// Makes the file or empties it first. Throws Refused with the system's reason; the message names
-/// `meant`.
-void writeBytes(const fs::path& path, std::string_view bytes, const fs::path& meant);
+/// Makes a copy for the library to read. Throws Refused with the system's reason; the message names the
+/// original.
+void writeCopy(const fs::path& copy, std::string_view bytes, const fs::path& original);
 
 }  // namespace tool

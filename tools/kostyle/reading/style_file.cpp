@@ -24,7 +24,7 @@ StyleFile::StyleFile(const fs::path& path, const TemporaryDirectory& directory) 
 
 StyleFile::StyleFile(const fs::path& path, std::string_view bytes,
                      const TemporaryDirectory& directory) {
-  writeBytes(directory.path() / copyName, bytes, path);
+  writeCopy(directory.path() / copyName, bytes, path);
   read(path, directory.path());
 }
 

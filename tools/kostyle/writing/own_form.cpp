@@ -15,8 +15,8 @@ namespace tool {
 std::string ownForm(const fs::path& path, const std::string& bytes, const StyleContent& after,
                     bool pretty) {
   const TemporaryDirectory directory;
-  const fs::path copy = directory.path() / "style.kostyle";
-  writeBytes(copy, bytes, path);
+  const fs::path rewritten = directory.path() / "style.kostyle";
+  writeCopy(rewritten, bytes, path);
   StyleDirectories directories;
   directories.user = directory.path();
   const Manager manager(directories);
@@ -28,7 +28,7 @@ std::string ownForm(const fs::path& path, const std::string& bytes, const StyleC
   MutableStyle_overwrite(style.handle(), after.id.c_str(), pretty, &error);
   if (error != KOSTYLE_OK)
     throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
-  return readBytes(copy);
+  return readBytes(rewritten);
 }
 
 StyleContent readBackOf(StyleContent content) {

@@ -9,6 +9,7 @@
 #include "basics/failure.h"
 #include "basics/output.h"
 #include "basics/text.h"
+#include "reading/attributes.h"
 #include "reading/style_file.h"
 
 namespace tool {

@@ -1,7 +1,7 @@
 // What replacing a file asks of the operating system. What it refuses throws Refused, with its reason.
 #pragma once
 
-#include <cstdint>
+#include <memory>
 #include <string_view>
 #include <system_error>
 
@@ -37,13 +37,13 @@ class HeldFile {
   /// Deletes the file, unless it holds something and so is none of ours.
   ~HeldFile();
 
-  bool isHeld() const { return handle_ != none; }
+  bool isHeld() const { return open_ != nullptr; }
 
  private:
-  static constexpr std::intptr_t none = -1;
+  struct Open;
 
   fs::path path_;
-  std::intptr_t handle_;
+  std::unique_ptr<Open> open_;
 };
 
 }  // namespace tool

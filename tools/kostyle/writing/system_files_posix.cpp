@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "basics/failure.h"
@@ -139,32 +141,31 @@ std::error_code moveOver(const fs::path& from, const fs::path& to) {
 
 bool isInUse(std::error_code) { return false; }
 
-HeldFile::HeldFile(const fs::path& path) : path_(path), handle_(none) {
+struct HeldFile::Open {
+  explicit Open(int number) : file(number) {}
+  Descriptor file;
+};
+
+HeldFile::HeldFile(const fs::path& path) : path_(path) {
   for (;;) {
-    const int number = openForHolding(path_);
+    auto opened = std::make_unique<Open>(openForHolding(path_));
+    const int number = opened->file.get();
     if (number < 0) fail(path_, "cannot be opened");
-    if (flock(number, LOCK_EX | LOCK_NB) == 0) {
-      if (isAt(number, path_)) {
-        handle_ = number;
-        return;
-      }
-      close(number);
-      continue;
+    if (flock(number, LOCK_EX | LOCK_NB) != 0) {
+      if (errno != EWOULDBLOCK && errno != EINTR) fail(path_, "cannot be locked");
+      return;
     }
-    const int error = errno;
-    close(number);
-    if (error != EWOULDBLOCK && error != EINTR) fail(path_, "cannot be locked", error);
+    if (!isAt(number, path_)) continue;
+    open_ = std::move(opened);
     return;
   }
 }
 
 HeldFile::~HeldFile() {
-  if (!isHeld()) return;
-  const int number = static_cast<int>(handle_);
   struct stat status {};
-  if (fstat(number, &status) == 0 && S_ISREG(status.st_mode) && status.st_size == 0)
+  if (isHeld() && fstat(open_->file.get(), &status) == 0 && S_ISREG(status.st_mode) &&
+      status.st_size == 0)
     unlink(path_.c_str());
-  close(number);
 }
 
 }  // namespace tool

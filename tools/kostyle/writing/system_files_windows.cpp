@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -132,26 +133,26 @@ bool isInUse(std::error_code error) {
          error.value() == ERROR_LOCK_VIOLATION || error.value() == ERROR_USER_MAPPED_FILE;
 }
 
-HeldFile::HeldFile(const fs::path& path) : path_(path), handle_(none) {
-  Handle file(path, GENERIC_READ | DELETE, 0, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL);
-  if (file.isOpen()) {
-    handle_ = reinterpret_cast<std::intptr_t>(file.release());
-    return;
-  }
+struct HeldFile::Open {
+  explicit Open(const fs::path& path)
+      : file(path, GENERIC_READ | DELETE, 0, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL) {}
+  Handle file;
+};
+
+HeldFile::HeldFile(const fs::path& path) : path_(path), open_(std::make_unique<Open>(path)) {
+  if (open_->file.isOpen()) return;
   // The second while the one before is on its way out of the folder.
   const DWORD error = GetLastError();
+  open_.reset();
   if (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED)
     fail(path_, "cannot be opened", error);
 }
 
 HeldFile::~HeldFile() {
-  if (!isHeld()) return;
-  const auto file = reinterpret_cast<HANDLE>(handle_);
   LARGE_INTEGER size{};
   FILE_DISPOSITION_INFO deleted{TRUE};
-  if (GetFileSizeEx(file, &size) && size.QuadPart == 0)
-    SetFileInformationByHandle(file, FileDispositionInfo, &deleted, sizeof deleted);
-  CloseHandle(file);
+  if (isHeld() && GetFileSizeEx(open_->file.get(), &size) && size.QuadPart == 0)
+    SetFileInformationByHandle(open_->file.get(), FileDispositionInfo, &deleted, sizeof deleted);
 }
 
 }  // namespace tool
