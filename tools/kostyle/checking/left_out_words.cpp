@@ -55,7 +55,7 @@ const char* typeOf(PartKind kind) {
     case PartKind::effect:
       return "an effect is an object";
     case PartKind::parameters:
-      return "\"parameter\" is an object whose members are parameters";
+      return R"("parameter" is an object whose members are parameters)";
     case PartKind::parameter:
       return "a parameter is a number or a string";
     case PartKind::identity:
@@ -149,7 +149,7 @@ Finding& addLeftOut(Reporter& reporter, const Part& part, LeftOut why) {
       return addRepeated(reporter, part);
     case LeftOut::noParameters:
       return reporter.add(rule::effectWithoutParameter, *part.node, true,
-                          partName(reporter.document(), part) + " has no member \"parameter\"",
+                          partName(reporter.document(), part) + R"( has no member "parameter")",
                           outcomeOf(part.kind));
     case LeftOut::emptyKey:
       break;

@@ -157,29 +157,19 @@ void Walk::addRefusal(const ReadingObserver::Refusal& refusal) {
   constexpr const char* outcome = "the file is refused";
   const JsonNode& root = document_.root();
   const TextView key = TextView(refusal.jsonPath).substr(1);
-  const JsonNode* const member = refusal.value ? document_.member(root, key) : nullptr;
+  const JsonNode* const member = document_.member(root, key);
   const std::string name = textInQuotes(key);
-  switch (refusal.error) {
-    case KOSTYLE_ERROR_MEMBER_MISSING:
-      reporter_
-          .add(rule::memberMissing, reporter_.startOf(root), "the member " + name + " is missing",
-               outcome)
-          .path = "/";
-      break;
-    case KOSTYLE_ERROR_EMPTY_STRING:
-      reporter_.add(rule::memberEmpty, *member, false, name + " is empty", outcome);
-      break;
-    case KOSTYLE_ERROR_NO_EFFECT:
-      reporter_.add(rule::noEffect, root, false, "no effect is left in either chain", outcome);
-      break;
-    default:
-      if (member) {
-        reporter_.add(rule::memberType, *member, false, name + " is " + described(document_, *member),
-                      outcome);
-      } else {
-        reporter_.add(rule::rootType, root, false, "the root is " + described(document_, root),
-                      outcome);
-      }
+  if (refusal.error == KOSTYLE_ERROR_NO_EFFECT) {
+    reporter_.add(rule::noEffect, root, false, "no effect is left in either chain", outcome);
+  } else if (key.empty()) {
+    reporter_.add(rule::rootType, root, false, "the root is " + described(document_, root), outcome);
+  } else if (!member) {
+    reporter_.add(rule::memberMissing, root, false, "the member " + name + " is missing", outcome);
+  } else if (refusal.error == KOSTYLE_ERROR_EMPTY_STRING) {
+    reporter_.add(rule::memberEmpty, *member, false, name + " is empty", outcome);
+  } else {
+    reporter_.add(rule::memberType, *member, false, name + " is " + described(document_, *member),
+                  outcome);
   }
 }
 

@@ -16,9 +16,9 @@ const Rule unreadableFile = {"unreadable-file", error, reading,
 const Rule jsonSyntax = {"json-syntax", error, reading, "a style file is one JSON document"};
 const Rule rootType = {"root-type", error, reading, "the root of a style is an object"};
 const Rule memberMissing = {"member-missing", error, reading,
-                            "a style has the members \"id\" and \"name\""};
-const Rule memberType = {"member-type", error, reading, "\"id\" and \"name\" are strings"};
-const Rule memberEmpty = {"member-empty", error, reading, "\"id\" and \"name\" are not empty"};
+                            R"(a style has the members "id" and "name")"};
+const Rule memberType = {"member-type", error, reading, R"("id" and "name" are strings)"};
+const Rule memberEmpty = {"member-empty", error, reading, R"("id" and "name" are not empty)"};
 const Rule noEffect = {"no-effect", error, reading,
                        "a style has at least one effect that can be taken"};
 const Rule repeatedIdentifier = {
@@ -48,15 +48,15 @@ const Rule integerRange = {"integer-range", warning, reading,
                            "an integer parameter lies between -2147483648 and 2147483647"};
 const Rule floatRange = {"float-range", warning, reading, "a float parameter has 32 bits"};
 const Rule effectWithoutParameter = {"effect-without-parameter", warning, reading,
-                                     "an effect has the member \"parameter\""};
+                                     R"(an effect has the member "parameter")"};
 const Rule midiScript = {"midi-script", warning, reading, "no style keeps the script of a MIDI effect"};
 const Rule textCut = {"text-cut", warning, reading, "an application sees a text end at U+0000"};
 const Rule behindEnd = {"behind-end", warning, reading, "a document ends at U+0000"};
 const Rule parameterRenamed = {"parameter-renamed", note, reading,
-                               "the parameter \"Tarn\" is read as \"Tarn630\""};
+                               R"(the parameter "Tarn" is read as "Tarn630")"};
 
 const Rule effectLost = {"effect-lost", warning, writing,
-                         "an effect without parameters is written without \"parameter\""};
+                         R"(an effect without parameters is written without "parameter")"};
 const Rule loneSurrogate = {"lone-surrogate", warning, writing,
                             "half of a surrogate pair cannot be written"};
 const Rule vendorLost = {"vendor-lost", note, writing, "the vendor is not written"};
