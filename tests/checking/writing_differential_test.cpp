@@ -122,7 +122,7 @@ TEST(WritingDifferential, FindsNothingExactlyWhenTheDocumentStaysTheSame) {
   const test::FileReader reader;
   int same = 0;
   int other = 0;
-  constexpr int documents = 4000;
+  constexpr int documents = 1500;
   for (std::uint64_t seed = 6000000; seed < 6000000 + documents && !HasFailure(); ++seed) {
     Random random(seed);
     DocumentGenerator generator(random);
