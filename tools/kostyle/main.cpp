@@ -20,6 +20,7 @@ constexpr const char* examples = R"(Examples:
   kostyle show morning-light --system styles/system
   kostyle new --user styles/user --name "Night drive" --audio-effect Filter --param Filter.cutoff=0.4
   kostyle check styles/system styles/user
+  kostyle catalog styles/system styles/user -o styles.html
 
 "kostyle COMMAND --help" tells more. Exit code: 0 success, 1 refused, 2 wrong use.)";
 
@@ -37,6 +38,7 @@ int run(std::vector<std::string> arguments) {
   tool::addNewCommand(app, chosen);
   tool::addSetCommand(app, chosen);
   tool::addRemoveCommand(app, chosen);
+  tool::addCatalogCommand(app, chosen);
   try {
     std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the back
     app.parse(std::move(arguments));
@@ -47,7 +49,7 @@ int run(std::vector<std::string> arguments) {
   } catch (const CLI::ParseError& error) {
     throw tool::WrongUse(error.what());
   }
-  if (!chosen) throw tool::WrongUse("a command is required: check, list, show, new, set or remove");
+  if (!chosen) throw tool::WrongUse("a command is required: check, list, show, new, set, remove or catalog");
   const int exitCode = chosen();
   tool::flushOutput();
   return exitCode;

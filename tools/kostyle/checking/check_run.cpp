@@ -7,7 +7,6 @@
 #include <thread>
 
 #include "checking/file_check.h"
-#include "checking/inputs.h"
 #include "checking/repeated_identifiers.h"
 
 namespace tool {
@@ -44,8 +43,7 @@ std::vector<FileReport> checkOnThreads(const std::vector<Input>& inputs, const C
 
 }  // namespace
 
-std::vector<FileReport> checkAll(const std::vector<std::string>& paths, const CheckOptions& options) {
-  const std::vector<Input> inputs = inputsOf(paths);
+std::vector<FileReport> checkAll(const std::vector<Input>& inputs, const CheckOptions& options) {
   std::vector<FileReport> reports = checkOnThreads(inputs, options);
   findRepeatedIdentifiers(inputs, reports);
   return reports;

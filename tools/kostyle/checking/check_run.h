@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "checking/finding.h"
+#include "checking/inputs.h"
 
 namespace tool {
 
@@ -14,9 +15,9 @@ struct CheckOptions {
   unsigned jobs = 1;        // files that are checked at the same time
 };
 
-/// What was found in the files of the named paths. The order depends on nothing but the paths and what
-/// is in the files.
-std::vector<FileReport> checkAll(const std::vector<std::string>& paths, const CheckOptions& options);
+/// What was found in the files, each report at the place of its input. The order of the findings
+/// depends on nothing but the inputs and what is in the files.
+std::vector<FileReport> checkAll(const std::vector<Input>& inputs, const CheckOptions& options);
 
 /// Takes the findings out that are less than `least`.
 void dropBelow(Severity least, std::vector<FileReport>& reports);

@@ -82,7 +82,7 @@ int check(const CheckCommandOptions& options) {
   CheckOptions checkOptions;
   checkOptions.maxSize = std::min(options.maxSize, SourceText::maxSize);
   checkOptions.jobs = options.jobs;
-  auto reports = checkAll(pathsOf(options), checkOptions);
+  auto reports = checkAll(inputsOf(pathsOf(options)), checkOptions);
   const Counts counts = countsOf(reports);
   dropBelow(severityOf(options.severity), reports);
   fmt::print("{}", formatted(reports, options.format));

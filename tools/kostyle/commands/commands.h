@@ -12,6 +12,7 @@ namespace tool {
 
 using Command = std::function<int()>;
 
+void addCatalogCommand(CLI::App& app, Command& chosen);
 void addCheckCommand(CLI::App& app, Command& chosen);
 void addListCommand(CLI::App& app, Command& chosen);
 void addShowCommand(CLI::App& app, Command& chosen);

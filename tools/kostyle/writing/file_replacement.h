@@ -9,8 +9,9 @@
 
 namespace tool {
 
-/// The file keeps mode and owner. A process that is killed before the end may leave the new content
-/// behind as `kostyle.new`; the next replacement in the folder takes it away.
+/// A file that is there keeps mode and owner; one that is missing is made. A process that is killed
+/// before the end may leave the new content behind as `kostyle.new`; the next replacement in the folder
+/// takes it away.
 class FileReplacement {
  public:
   /// Writes the new content. `file` is no link, and its folder is locked. Throws Refused and leaves

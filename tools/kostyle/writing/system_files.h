@@ -16,7 +16,7 @@ fs::path throughLinks(const fs::path& path);
 void requireWriteAccess(const fs::path& file);
 
 /// Writes a new file as far as the device. It gets the mode, the owner and whatever else the system
-/// keeps about `like`. Leaves nothing when it throws.
+/// keeps about `like`, when there is such a file. Leaves nothing when it throws.
 void writeNewFile(const fs::path& path, std::string_view bytes, const fs::path& like);
 
 /// Gives a file the name of another, whose place it takes at once.

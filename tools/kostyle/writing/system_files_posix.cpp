@@ -21,6 +21,9 @@ namespace {
 // A link or a pipe that took the file's place is not followed and keeps nobody waiting.
 constexpr int quietly = O_CLOEXEC | O_NOCTTY | O_NOFOLLOW | O_NONBLOCK;
 
+// Less what the user keeps from new files.
+constexpr mode_t forAll = 0666;
+
 [[noreturn]] void fail(const fs::path& path, const char* what, int error = errno) {
   throw Refused(
       fmt::format("{}: {}: {}", shownPath(path), what, std::generic_category().message(error)));
@@ -88,7 +91,6 @@ void makeLike(int file, const fs::path& like) {
 
 // Opens the file at a path for locking; it is made when it is missing.
 int openForHolding(const fs::path& path) {
-  constexpr mode_t forAll = 0666;
   for (;;) {
     int number = open(path.c_str(), O_RDONLY | quietly);
     if (number >= 0 || errno != ENOENT) return number;
@@ -121,11 +123,13 @@ void requireWriteAccess(const fs::path& file) {
 
 void writeNewFile(const fs::path& path, std::string_view bytes, const fs::path& like) {
   constexpr mode_t mineAlone = 0600;
-  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | quietly, mineAlone));
+  const bool isReplacing = faccessat(AT_FDCWD, like.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+  Descriptor file(
+      open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | quietly, isReplacing ? mineAlone : forAll));
   if (file.get() < 0) fail(like, "no file can be made beside it");
   try {
     if (!writeAll(file.get(), bytes)) fail(like, "its new content cannot be written");
-    makeLike(file.get(), like);
+    if (isReplacing) makeLike(file.get(), like);
     if (fsync(file.get()) != 0 || !file.close()) fail(like, "its new content cannot be written");
   } catch (...) {
     unlink(path.c_str());

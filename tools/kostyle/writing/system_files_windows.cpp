@@ -112,6 +112,7 @@ void writeNewFile(const fs::path& path, std::string_view bytes, const fs::path& 
     if (!writeAll(file.get(), bytes) || !FlushFileBuffers(file.get()))
       fail(like, "its new content cannot be written");
     file.close();
+    if (GetFileAttributesW(like.c_str()) == INVALID_FILE_ATTRIBUTES) return;
     copyAccessList(like, path);
     copyAttributes(like, path);
   } catch (...) {

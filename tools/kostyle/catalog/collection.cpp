@@ -1,0 +1,77 @@
+#include "catalog/collection.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <map>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "basics/failure.h"
+
+namespace tool {
+namespace {
+
+void requireDifferentDirectories(const std::vector<std::string>& directories) {
+  for (auto name = directories.begin(); name != directories.end(); ++name) {
+    // "-" is the standard input elsewhere.
+    if (*name == "-" || !isDirectory(pathOf(*name)))
+      throw WrongUse(fmt::format("{}: no such directory", *name));
+    const auto isSame = [&](const std::string& other) {
+      std::error_code ignored;
+      return fs::equivalent(pathOf(*name), pathOf(other), ignored);
+    };
+    if (std::any_of(directories.begin(), name, isSame))
+      throw WrongUse(fmt::format("{}: the directory is named twice", *name));
+  }
+}
+
+// The library reads them one after the other.
+StyleDirectories asOneSet(const std::vector<std::string>& directories) {
+  requireDifferentDirectories(directories);
+  StyleDirectories set;
+  set.system = pathOf(directories.front());
+  for (auto name = directories.begin() + 1; name != directories.end(); ++name)
+    set.systemExtra.push_back(pathOf(*name));
+  return set;
+}
+
+std::map<Text, KoStyleStyle*> stylesByPath(const Manager& manager) {
+  std::map<Text, KoStyleStyle*> styles;
+  for (KoStyleStyle* style : manager.styles()) styles.emplace(Style_path(style), style);
+  return styles;
+}
+
+}  // namespace
+
+Collection::Collection(const std::vector<std::string>& directories)
+    : directories_(directories), manager_(asOneSet(directories)) {
+  std::vector<Input> inputs;
+  std::vector<std::size_t> places;  // of the directories of the inputs
+  for (std::size_t i = 0; i < directories_.size(); ++i) {
+    const std::size_t before = inputs.size();
+    for (Input& input : inputsOf({directories_[i]})) {
+      input.order += before;
+      inputs.push_back(std::move(input));
+      places.push_back(i);
+    }
+  }
+  CheckOptions options;
+  options.maxSize = SourceText::maxSize;
+  options.jobs = std::max(1U, std::thread::hardware_concurrency());
+  std::vector<FileReport> reports = checkAll(inputs, options);
+  const auto styles = stylesByPath(manager_);
+  for (std::size_t i = 0; i < inputs.size(); ++i) {
+    const auto style = styles.find(inputs[i].path);
+    files_.push_back(
+        {std::move(reports[i]), places[i], style == styles.end() ? nullptr : style->second});
+  }
+}
+
+std::size_t Collection::refused() const {
+  const auto isRefused = [](const CollectedFile& file) { return !file.style; };
+  return static_cast<std::size_t>(std::count_if(files_.begin(), files_.end(), isRefused));
+}
+
+}  // namespace tool
