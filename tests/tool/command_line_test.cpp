@@ -15,7 +15,7 @@ TEST(CommandLine, HelpShowsEveryCommandWithExamples) {
   const Outcome outcome = runTool({"--help"});
   expectSuccess(outcome);
   EXPECT_THAT(outcome.out, HasSubstr("Examples:\n  kostyle list "));
-  for (const std::string command : {"check", "list", "show", "new", "set", "remove"}) {
+  for (const std::string command : {"check", "list", "show", "new", "set", "remove", "catalog"}) {
     EXPECT_THAT(outcome.out, HasSubstr("\n  " + command + " "));
     const Outcome help = runTool({command, "--help"});
     expectSuccess(help);

@@ -17,6 +17,20 @@ namespace {
 // A file with more shows what is wrong with it by the first of them.
 constexpr std::size_t mostFindings = 100;
 
+// Takes so many columns of a terminal off the text.
+std::string_view takeColumns(std::string_view& text, std::size_t columns) {
+  std::string_view rest = text;
+  while (!rest.empty()) {
+    std::string_view next = rest;
+    takeCodePoint(next);
+    if (widthOf(text.substr(0, text.size() - next.size())) > columns) break;
+    rest = next;
+  }
+  const std::string_view taken = text.substr(0, text.size() - rest.size());
+  text = rest;
+  return taken;
+}
+
 // Writes the parts of the page's data.
 class PageDataWriter {
  public:
@@ -123,10 +137,15 @@ class PageDataWriter {
     member("column", place.begin.column);
   }
 
+  // What stands before the mark, in it and behind.
   void excerpt(const Excerpt& excerpt) {
-    member("excerpt", excerpt.line);
-    member("caret", excerpt.caret);
-    member("width", excerpt.width);
+    std::string_view rest = excerpt.line;
+    writer_.Key("excerpt");
+    writer_.StartArray();
+    text(takeColumns(rest, excerpt.caret));
+    text(takeColumns(rest, excerpt.width));
+    text(rest);
+    writer_.EndArray();
   }
 
   void related(const Related& related) {

@@ -38,6 +38,7 @@ function tags(texts, className) {
   return texts.map((text) => foreign("li", text, className));
 }
 
+// Nothing when the style has no attributes.
 function attributeList(style) {
   const rows = [];
   const addTags = (title, ...lists) => {
@@ -48,7 +49,7 @@ function attributeList(style) {
   addTags("Genres", [style.genres, "tag"], [style.subGenres, "tag sub"]);
   addTags("Singers", [style.singerGroups, "tag"]);
   addTags("Languages", [style.languages.map(String), "tag"]);
-  return element("dl", {class: "attributes"}, ...rows);
+  return rows.length ? [element("dl", {class: "attributes"}, ...rows)] : [];
 }
 
 // An effect is its identifier, then name, type and value of each parameter.
@@ -109,8 +110,10 @@ function detailsPanel(style) {
 }
 
 function warningMark(style) {
-  const count = countOf(style.findings, "warning") + (style.more ?? 0);
-  return count ? [element("span", {class: "badge warning"}, counted(count, "warning"))] : [];
+  const count = countOf(style.findings, "warning");
+  if (!count) return [];
+  const text = style.more ? `${count}+ warnings` : counted(count, "warning");
+  return [element("span", {class: "badge warning"}, text)];
 }
 
 function styleCard(style, number) {
@@ -119,7 +122,7 @@ function styleCard(style, number) {
   const head = element("header", {}, heading, ...warningMark(style));
   const article = element("article", {"aria-labelledby": heading.id}, edge(style.colors), head);
   if (style.vendor) article.append(foreign("p", style.vendor, "vendor"));
-  article.append(attributeList(style));
+  article.append(...attributeList(style));
   if (style.audioEffects.length) article.append(chainElement("Audio", style.audioEffects, "audio"));
   if (style.midiEffects.length) article.append(chainElement("MIDI", style.midiEffects, "midi"));
   const button = element("button", {type: "button", class: "quiet details-button"}, "Details",

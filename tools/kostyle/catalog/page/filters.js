@@ -29,15 +29,15 @@ class Filters {
   #chosen = [];
   #order;
 
-  constructor(form, changed) {
+  constructor(form, orderForm, changed) {
     for (const facet of facets) {
       const options = facetOptions(facet);
       if (options.length < 3) continue;  // one value tells nothing apart
       this.#chosen.push([select(form, facet.label, options), facet.of]);
     }
-    this.#order = select(form, "Order", Object.keys(orders).map((name) => [name, name]));
+    this.#order = select(orderForm, "Order", Object.keys(orders).map((name) => [name, name]));
     form.addEventListener("change", changed);
-    form.addEventListener("submit", (event) => event.preventDefault());
+    orderForm.addEventListener("change", changed);
   }
 
   get active() {

@@ -10,13 +10,10 @@ function placeText({line, column}) {
   return line === undefined ? "" : `line ${line}, column ${column}`;
 }
 
-function excerptElement({line, excerpt, caret, width}) {
-  const number = `${line}`.padStart(5);
-  const mark = " ".repeat(caret) + "^" + "~".repeat(Math.max(0, width - 1));
-  const figure = element("pre", {class: "excerpt", tabindex: "0", role: "region", "aria-label": `Line ${line}`},
-    `${number} | ${excerpt}\n`);
-  figure.append(element("span", {class: "mark", "aria-hidden": "true"}, `${" ".repeat(5)} | ${mark}`));
-  return figure;
+// An empty mark is a place behind the line.
+function excerptElement({line, excerpt: [before, marked, after]}) {
+  return element("pre", {class: "excerpt", dir: "ltr"}, element("span", {class: "muted"}, `${line}  `),
+    before, element("mark", {}, marked || "\u00a0"), after);
 }
 
 function relatedElement({file, text, ...place}) {

@@ -6,7 +6,7 @@ const views = {
   styles: {section: byId("styles-view"), form: byId("filters"), link: byId("styles-link")},
   problems: {section: byId("problems-view"), form: byId("problem-filters"), link: byId("problems-link")},
 };
-const filters = new Filters(views.styles.form, update);
+const filters = new Filters(views.styles.form, byId("order"), update);
 const problemFilter = new ProblemFilter(views.problems.form, update);
 const cards = new GrowingList(views.styles.section, styleCard);
 const files = new GrowingList(views.problems.section, problemElement);
@@ -22,7 +22,7 @@ function update() {
   const words = folded(query.value).split(/\s+/).filter(Boolean);
   const isStyles = view === "styles";
   const found = isStyles ? filters.stylesFor(words) : problemFilter.problemsFor(words);
-  const all = isStyles ? styles.length : problems.length;
+  const all = isStyles ? styles.length : problemFilter.problemsFor([]).length;
   (isStyles ? cards : files).show(found);
   views.problems.section.dataset.least = problemFilter.least;
   const noun = isStyles ? ["style", "styles"] : ["file with problems", "files with problems"];
@@ -49,6 +49,7 @@ function showView(name) {
     if (other === name) link.setAttribute("aria-current", "page");
     else link.removeAttribute("aria-current");
   }
+  byId("order").hidden = byId("filters-button").hidden = name !== "styles";
   update();
   scrollTo(0, 0);
 }
@@ -91,7 +92,7 @@ function start() {
   views.problems.link.querySelector(".count").textContent =
     problems.filter(({worst}) => worst !== "note").length.toLocaleString("en");
   query.addEventListener("input", update);
-  byId("search").addEventListener("submit", (event) => event.preventDefault());
+  addEventListener("submit", (event) => event.preventDefault());
   byId("clear").addEventListener("click", () => {
     clearAll();
     query.focus();

@@ -19,7 +19,6 @@ class ProblemFilter {
     const choices = [["warning", "Errors and warnings"], ["note", "Errors, warnings and notes"], ["error", "Errors only"]];
     this.#control = select(form, "Show", choices);
     form.addEventListener("change", changed);
-    form.addEventListener("submit", (event) => event.preventDefault());
   }
 
   get least() {
