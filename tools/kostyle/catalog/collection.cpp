@@ -13,15 +13,19 @@
 namespace tool {
 namespace {
 
+// The second is not known of directories everywhere.
+bool areSameDirectory(const std::string& one, const std::string& other) {
+  std::error_code ignored;
+  return libraryPath(pathOf(one)) == libraryPath(pathOf(other)) ||
+         fs::equivalent(pathOf(one), pathOf(other), ignored);
+}
+
 void requireDifferentDirectories(const std::vector<std::string>& directories) {
   for (auto name = directories.begin(); name != directories.end(); ++name) {
     // "-" is the standard input elsewhere.
     if (*name == "-" || !isDirectory(pathOf(*name)))
       throw WrongUse(fmt::format("{}: no such directory", *name));
-    const auto isSame = [&](const std::string& other) {
-      std::error_code ignored;
-      return fs::equivalent(pathOf(*name), pathOf(other), ignored);
-    };
+    const auto isSame = [&](const std::string& other) { return areSameDirectory(*name, other); };
     if (std::any_of(directories.begin(), name, isSame))
       throw WrongUse(fmt::format("{}: the directory is named twice", *name));
   }

@@ -61,8 +61,8 @@ function parameterTable([id, ...texts]) {
       element("td", {class: "muted"}, type)));
     body.lastChild.firstChild.setAttribute("scope", "row");
   }
-  const head = element("tr", {}, ...["Parameter", "Value", "Type"].map((title) => element("th", {scope: "col"}, title)));
-  const table = element("table", {}, foreign("caption", id), element("thead", {class: "visually-hidden"}, head), body);
+  const head = element("tr", {}, ...["Parameter", "Value", "Type"].map((title) => element("th", {scope: "col"}, hidden(title))));
+  const table = element("table", {}, foreign("caption", id), element("thead", {}, head), body);
   const panel = element("div", {class: "parameters"}, table);
   if (!texts.length) panel.append(element("p", {class: "muted"}, "No parameters"));
   return panel;
@@ -71,7 +71,7 @@ function parameterTable([id, ...texts]) {
 function effectButton(effect, place) {
   const count = (effect.length - 1) / 3;
   const button = element("button", {type: "button", class: "effect"}, foreign("span", effect[0]),
-    hidden(`, ${counted(count, "parameter")}`));
+    hidden(` (${counted(count, "parameter")})`));
   const toggle = disclosure(button, () => {
     const panel = parameterTable(effect);
     place.append(panel);

@@ -1,5 +1,8 @@
 // A list that grows as far as it is looked at, so that the page is as quick with thousands of items as with ten.
 
+const first = 12;  // about as many as a window shows
+const further = 24;
+
 class GrowingList {
   #list;
   #button;
@@ -7,6 +10,7 @@ class GrowingList {
   #made = new Map();
   #items = [];
   #count = 0;
+  #nearEnd;
 
   // `make` makes the element of an item; it is kept, with all that was opened in it.
   constructor(section, make) {
@@ -15,24 +19,19 @@ class GrowingList {
     this.#make = make;
     this.#button.addEventListener("click", () => {
       const last = this.#list.lastElementChild;
-      this.#grow(48);
+      this.#grow(further);
       last.nextElementSibling.querySelector("button")?.focus();
     });
-    const nearEnd = new IntersectionObserver(([entry]) => {
-      if (entry.isIntersecting) this.#grow(48);
-    }, {rootMargin: "1500px"});
-    nearEnd.observe(this.#button);
-    this.watchAgain = () => {
-      nearEnd.unobserve(this.#button);
-      nearEnd.observe(this.#button);
-    };
+    this.#nearEnd = new IntersectionObserver((entries) => {
+      if (entries.at(-1).isIntersecting) this.#grow(further);
+    }, {rootMargin: "1000px"});
   }
 
   show(items) {
     this.#items = items;
     this.#count = 0;
     this.#list.replaceChildren();
-    this.#grow(24);
+    this.#grow(first);
   }
 
   #grow(by) {
@@ -40,8 +39,9 @@ class GrowingList {
     this.#count += next.length;
     this.#list.append(...next.map((item) => this.#element(item)));
     this.#button.hidden = this.#count === this.#items.length;
-    // What is in view already is not told again.
-    if (!this.#button.hidden) this.watchAgain();
+    // What stays in view is not told again by itself.
+    this.#nearEnd.disconnect();
+    if (!this.#button.hidden) this.#nearEnd.observe(this.#button);
   }
 
   #element(item) {

@@ -57,7 +57,8 @@ function showView(name) {
 // Other fragments, such as that of the skip link, leave the view as it is.
 function followFragment() {
   const name = location.hash.slice(1);
-  if (name in views || !view) showView(name in views ? name : "styles");
+  if (Object.hasOwn(views, name)) showView(name);
+  else if (!name || !view) showView("styles");
 }
 
 // Shuts what is open in a card, the inner before the outer; false when nothing is.
