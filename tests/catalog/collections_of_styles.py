@@ -71,13 +71,15 @@ def many(count):
 
 SCRIPT = "<script>window.reached = true; alert('reached')</script>"
 HOSTILE_TEXTS = [
-    SCRIPT, f"</script>{SCRIPT}", f"<!--<script>{SCRIPT}", f"-->{SCRIPT}", f"]]>{SCRIPT}", f"\"'>{SCRIPT}", f"</title>{SCRIPT}",
+    SCRIPT, f"</script>{SCRIPT}", f"<!--<script>{SCRIPT}", f"-->{SCRIPT}", f"]]>{SCRIPT}", f"\"'>{SCRIPT}",
+    f"</title>{SCRIPT}",
     "<img src=x onerror='window.reached = true'>", "<svg onload='window.reached = true'>",
     "<iframe src='https://example.org'></iframe>", "<link rel=stylesheet href='https://example.org/a.css'>",
     "<base href='https://example.org/'>", "<meta http-equiv=refresh content='0;https://example.org'>",
     "javascript:window.reached=true", "url(https://example.org/a.png)", "red;background:url(https://example.org/b.png)",
     "{{constructor.constructor('window.reached=true')()}}", "${window.reached=true}", "__proto__", "constructor",
-    "&lt;b&gt;&amp;", "a\u2028b\u2029c", "\u202egnp.exe", "\u2067\u2066\u200f", "\x07\x1b[31mred\x7f", "\x00cut", "𝄞\ufffe",
+    "&lt;b&gt;&amp;", "a\u2028b\u2029c", "\u202egnp.exe", "\u2067\u2066\u200f", "\x07\x1b[31mred\x7f", "\x00cut",
+    "𝄞\ufffe",
     "\\u003cscript\\u003e", "A" * 5000,
 ]
 

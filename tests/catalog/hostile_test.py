@@ -43,7 +43,8 @@ class Hostile(PageCase):
 
     def test_no_text_became_an_element(self):
         self.open_all()
-        made = self.driver.execute_script("return [...new Set([...document.querySelectorAll('*')].map(e => e.localName))]")
+        made = self.driver.execute_script(
+            "return [...new Set([...document.querySelectorAll('*')].map(({localName}) => localName))]")
         self.assertEqual(set(made) & {"img", "svg", "iframe", "link", "base", "b", "object", "embed"}, set())
         self.assertEqual(len(self.driver.find_elements(By.CSS_SELECTOR, "script")), 2)
         self.assertEqual(len(self.driver.find_elements(By.CSS_SELECTOR, "head > meta")), 6)

@@ -38,7 +38,8 @@ class Looking(Small):
         card = self.card("Harbour at night")
         chorus, reverb = self.button(card, "Chorus"), self.button(card, "Reverb")
         chorus.click()
-        self.assertEqual(self.texts("caption, tbody tr"), ["Chorus", "depth\t0.4\tfloat", "mode\twide\ttext", "voices\t3\tint"])
+        self.assertEqual(self.texts("caption, tbody tr"), [
+            "Chorus", "depth\t0.4\tfloat", "mode\twide\ttext", "voices\t3\tint"])
         self.assertEqual(chorus.get_attribute("aria-expanded"), "true")
         reverb.click()
         self.assertEqual(self.texts("caption, tbody tr"), ["Reverb", "mix\t0.25\tfloat", "size\thall\ttext"])

@@ -49,7 +49,8 @@ int run(std::vector<std::string> arguments) {
   } catch (const CLI::ParseError& error) {
     throw tool::WrongUse(error.what());
   }
-  if (!chosen) throw tool::WrongUse("a command is required: check, list, show, new, set, remove or catalog");
+  if (!chosen)
+    throw tool::WrongUse("a command is required: check, list, show, new, set, remove or catalog");
   const int exitCode = chosen();
   tool::flushOutput();
   return exitCode;

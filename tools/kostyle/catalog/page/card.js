@@ -61,7 +61,8 @@ function parameterTable([id, ...texts]) {
       element("td", {class: "muted"}, type)));
     body.lastChild.firstChild.setAttribute("scope", "row");
   }
-  const head = element("tr", {}, ...["Parameter", "Value", "Type"].map((title) => element("th", {scope: "col"}, hidden(title))));
+  const titles = ["Parameter", "Value", "Type"].map((title) => element("th", {scope: "col"}, hidden(title)));
+  const head = element("tr", {}, ...titles);
   const table = element("table", {}, foreign("caption", id), element("thead", {}, head), body);
   const panel = element("div", {class: "parameters"}, table);
   if (!texts.length) panel.append(element("p", {class: "muted"}, "No parameters"));

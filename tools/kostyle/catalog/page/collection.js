@@ -46,7 +46,8 @@ const namelessLast = (a, b) => (a.name === "") - (b.name === "") || collator.com
 const orders = {
   "Name": namelessLast,
   "Name, backwards": (a, b) => namelessLast(b, a),
-  "Vendor": (a, b) => (a.vendor === "") - (b.vendor === "") || collator.compare(a.vendor, b.vendor) || namelessLast(a, b),
+  "Vendor": (a, b) =>
+    (a.vendor === "") - (b.vendor === "") || collator.compare(a.vendor, b.vendor) || namelessLast(a, b),
   "Most effects": (a, b) => b.size - a.size || namelessLast(a, b),
   "Fewest effects": (a, b) => a.size - b.size || namelessLast(a, b),
   "File": (a, b) => collator.compare(a.file, b.file),

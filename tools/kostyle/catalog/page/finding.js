@@ -37,6 +37,7 @@ function findingElement(finding) {
 
 function findingList(findings, more) {
   const list = element("ul", {class: "findings"}, ...findings.map(findingElement));
-  if (more) list.append(element("li", {class: "muted"}, `And ${more.toLocaleString("en")} more: "kostyle check" tells all.`));
+  if (more)
+    list.append(element("li", {class: "muted"}, `And ${more.toLocaleString("en")} more: "kostyle check" tells all.`));
   return list;
 }

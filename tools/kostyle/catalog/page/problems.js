@@ -6,7 +6,8 @@ function problemElement({file, findings, more, isRefused, name}) {
   const article = element("article", {}, head);
   if (name) article.append(foreign("p", name, "vendor"));
   if (isRefused && !countOf(findings, "error"))
-    article.append(element("p", {}, "The library did not take the file. It may have changed meanwhile: make the page again."));
+    article.append(element("p", {},
+      "The library did not take the file. It may have changed meanwhile: make the page again."));
   article.append(findingList(findings, more));
   return element("li", {class: "file"}, article);
 }
@@ -16,7 +17,8 @@ class ProblemFilter {
   #control;
 
   constructor(form, changed) {
-    const choices = [["warning", "Errors and warnings"], ["note", "Errors, warnings and notes"], ["error", "Errors only"]];
+    const choices = [["warning", "Errors and warnings"], ["note", "Errors, warnings and notes"],
+      ["error", "Errors only"]];
     this.#control = select(form, "Show", choices);
     form.addEventListener("change", changed);
   }
