@@ -1,4 +1,7 @@
 """The page as it is used: looked at, searched, filtered, with a mouse and with keys."""
+import json
+import re
+
 from selenium.webdriver.common.by import By
 from selenium.webdriver.common.keys import Keys
 
@@ -215,6 +218,16 @@ class Problems(Small):
         self.driver.back()
         self.until(lambda: self.status() == "4 styles")
         self.assertEqual(self.one("[aria-current=page]").get_attribute("id"), "styles-link")
+
+    def test_a_file_that_changed_meanwhile_is_refused_without_a_finding(self):
+        start, data, end = re.split(r'(?<=id="data">)(.*?)(?=</script>)', self.page.path.read_text(), maxsplit=1)
+        data = json.loads(data)
+        next(file for file in data["files"] if file["file"].endswith("broken.kostyle"))["findings"].clear()
+        page = self.page.path.with_name("changed.html")
+        page.write_text(start + json.dumps(data) + end)
+        self.driver.get(page.as_uri())
+        self.view("problems")
+        self.assertIn("It may have changed meanwhile", self.all(".file")[0].text)
 
     def test_a_page_without_problems_says_so(self):
         page = collections.Page({"a.kostyle": collections.style(1)})
