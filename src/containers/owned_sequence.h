@@ -13,11 +13,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
-#include <memory>
+#include <new>
 #include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "containers/memory_pool.h"
 #include "containers/node_order.h"
 #include "containers/slot_map.h"
 #include "containers/text_order.h"
@@ -49,6 +50,8 @@ class OwnedSequence {
 
   // The orders and the keys go by the elements' slots.
   struct Body {
+    explicit Body(MemoryPool* pool) noexcept : elements(pool) {}
+
     /// Makes room for all elements that there is room for.
     void reserve() {
       order.reserve(elements.capacity());
@@ -140,14 +143,18 @@ class OwnedSequence {
   };
 
   OwnedSequence() = default;
+  /// A sequence whose elements, of which most are few, lie in a pool.
+  explicit OwnedSequence(MemoryPool* pool) noexcept : memory_(pool) {}
   OwnedSequence(const OwnedSequence&) = delete;
   OwnedSequence& operator=(const OwnedSequence&) = delete;
   ~OwnedSequence() { clear(); }
 
+  MemoryPool* pool() const noexcept { return memory_.pool(); }
+
   std::size_t size() const noexcept { return body_ ? body_->order.size() : 0; }
   bool empty() const noexcept { return size() == 0; }
-  Iterator begin() const noexcept { return {body_.get(), slotAt(0)}; }
-  Iterator end() const noexcept { return {body_.get(), noSlot}; }
+  Iterator begin() const noexcept { return {body_, slotAt(0)}; }
+  Iterator end() const noexcept { return {body_, noSlot}; }
 
   /// The element at a position; null at or past the end.
   Element* at(std::size_t position) const noexcept { return elementIn(slotAt(position)); }
@@ -193,7 +200,7 @@ class OwnedSequence {
   /// Makes an element of one of the classes.
   template <class Class = Element, class... Arguments>
   NodeHandle makeNode(Arguments&&... arguments) {
-    if (!body_) body_ = std::make_unique<Body>();
+    if (!body_) body_ = new (memory_.allocate(1)) Body(pool());
     auto& elements = body_->elements;
     NodeHandle made(*body_, elements.template emplace<Class>(std::forward<Arguments>(arguments)...));
     body_->reserve();
@@ -232,7 +239,7 @@ class OwnedSequence {
   bool destroy(const Interface* element) noexcept {
     if (!contains(element)) return false;
     extract(element);
-    if (body_->elements.empty()) body_.reset();
+    if (body_->elements.empty()) freeBody();
     return true;
   }
 
@@ -251,10 +258,15 @@ class OwnedSequence {
     if (!body_) return;
     for (SlotNumber slot = slotAt(0); slot != noSlot; slot = body_->order.next(slot))
       body_->elements.erase(slot);
-    body_.reset();
+    freeBody();
   }
 
  private:
+  void freeBody() noexcept {
+    body_->~Body();
+    memory_.deallocate(std::exchange(body_, nullptr), 1);
+  }
+
   static SlotNumber release(NodeHandle& handle) noexcept {
     handle.home_ = nullptr;
     return handle.slot_;
@@ -276,7 +288,8 @@ class OwnedSequence {
     return found ? slot : noSlot;
   }
 
-  std::unique_ptr<Body> body_;
+  PoolAllocator<Body> memory_{nullptr};
+  Body* body_ = nullptr;
 };
 
 }  // namespace Tesk::KoStyle

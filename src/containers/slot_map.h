@@ -3,18 +3,19 @@
 //
 // Slots lie in slabs, of which each holds about half as many as those before it together. So elements
 // lie close to each other, few slabs hold many of them, and the slot of an address is found by
-// arithmetic: the address is compared and never followed. Slabs stay until the map goes.
+// arithmetic: the address is compared and never followed. Slabs stay until the map goes. All memory is
+// a pool's, or the system's where there is no pool.
 #pragma once
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <new>
 #include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "containers/memory_pool.h"
 #include "platform/poison.h"
 
 namespace Tesk::KoStyle {
@@ -26,13 +27,17 @@ inline constexpr SlotNumber noSlot = UINT32_MAX;
 template <class Element, class... Classes>
 class SlotMap {
  public:
-  SlotMap() = default;
+  explicit SlotMap(MemoryPool* pool = nullptr) noexcept
+      : slabs_(Memory(pool)), entries_(Memory(pool)) {}
   SlotMap(const SlotMap&) = delete;
   SlotMap& operator=(const SlotMap&) = delete;
 
   /// Elements must be gone by then.
   ~SlotMap() {
-    for (const Slab& slab : slabs_) platform::unpoison(slab.memory.get(), slab.size * sizeof(Storage));
+    for (const Slab& slab : slabs_) {
+      platform::unpoison(slab.memory, slab.size * sizeof(Storage));
+      memory().deallocate(slab.memory, slab.size);
+    }
   }
 
   /// Slots have numbers less than this.
@@ -78,8 +83,8 @@ class SlotMap {
   /// The slot in whose memory an address lies, filled or empty; noSlot when there is none.
   SlotNumber slotAt(const void* address) const noexcept {
     for (auto slab = slabs_.rbegin(); slab != slabs_.rend(); ++slab) {
-      const auto offset = reinterpret_cast<std::uintptr_t>(address) -
-                          reinterpret_cast<std::uintptr_t>(slab->memory.get());
+      const auto offset =
+          reinterpret_cast<std::uintptr_t>(address) - reinterpret_cast<std::uintptr_t>(slab->memory);
       const std::uintptr_t place = offset / sizeof(Storage);
       if (place < slab->size) return slab->first + static_cast<SlotNumber>(place);
     }
@@ -91,8 +96,10 @@ class SlotMap {
     unsigned char bytes[std::max({sizeof(Element), sizeof(Classes)...})];
   };
 
+  using Memory = PoolAllocator<Storage>;
+
   struct Slab {
-    std::unique_ptr<Storage[]> memory;
+    Storage* memory;
     SlotNumber first;
     SlotNumber size;
   };
@@ -112,12 +119,12 @@ class SlotMap {
     const std::size_t first = entries_.size();
     const std::size_t size = sizeOfNext(first);
     if (size > noSlot - first) throw std::bad_alloc();
-    std::unique_ptr<Storage[]> memory(new Storage[size]);
     slabs_.reserve(slabs_.size() + 1);
+    entries_.reserve(first + size);
+    Storage* const slab = memory().allocate(size);
+    platform::poison(slab, size * sizeof(Storage));
+    slabs_.push_back({slab, static_cast<SlotNumber>(first), static_cast<SlotNumber>(size)});
     entries_.resize(first + size);
-    platform::poison(memory.get(), size * sizeof(Storage));
-    slabs_.push_back(
-        {std::move(memory), static_cast<SlotNumber>(first), static_cast<SlotNumber>(size)});
     for (std::size_t slot = first; slot < first + size; ++slot)
       entries_[slot].nextEmpty = static_cast<SlotNumber>(slot + 1);
     entries_.back().nextEmpty = noSlot;
@@ -127,11 +134,13 @@ class SlotMap {
   Storage* storageOf(SlotNumber slot) const noexcept {
     auto slab = slabs_.rbegin();
     while (slot < slab->first) ++slab;
-    return slab->memory.get() + (slot - slab->first);
+    return slab->memory + (slot - slab->first);
   }
 
-  std::vector<Slab> slabs_;
-  std::vector<Entry> entries_;
+  Memory memory() const noexcept { return slabs_.get_allocator(); }
+
+  std::vector<Slab, PoolAllocator<Slab>> slabs_;
+  std::vector<Entry, PoolAllocator<Entry>> entries_;
   SlotNumber firstEmpty_ = noSlot;
   SlotNumber filled_ = 0;
 };

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 
+#include "containers/memory_pool.h"
 #include "model/language_set.h"
 #include "platform/text.h"
 
@@ -29,6 +30,11 @@ inline bool isStyleName(TextView name) noexcept {
 /// `List` holds texts in ascending order without duplicates.
 template <class List>
 struct Attributes {
+  Attributes() = default;
+  /// Lists with memory of a pool.
+  explicit Attributes(MemoryPool* pool) noexcept
+      : lists{List(pool), List(pool), List(pool), List(pool), List(pool)} {}
+
   LanguageSet languages;
   std::array<List, textAttributes.size()> lists;
 

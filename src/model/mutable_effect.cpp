@@ -6,6 +6,9 @@
 
 namespace Tesk::KoStyle {
 
+MutableEffect::MutableEffect(MutableStyle& parent, EffectKind kind, const Char* id)
+    : parent_(parent), id_(&parent.pool(), id), parameters_(&parent.pool()), kind_(kind) {}
+
 void MutableEffect::destroy() { chain().destroy(this); }
 
 IMutableStyle* MutableEffect::parent() const { return &parent_; }

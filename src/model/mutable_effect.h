@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "containers/owned_sequence.h"
+#include "containers/pooled_text.h"
 #include "interfaces/interfaces.h"
 #include "model/effect_kind.h"
 #include "model/parameter_list.h"
@@ -29,7 +30,7 @@ class MutableEffect : public virtual IMutableEffect {
   virtual ~MutableEffect() = default;
 
   std::uint32_t type() const final { return static_cast<std::uint32_t>(kind_); }
-  const Char* id() const final { return id_.c_str(); }
+  const Char* id() const final { return id_.data(); }
   std::size_t numParameter() const final { return parameters_.size(); }
   bool hasParameter(IParameterBase* parameter) const final { return parameters_.contains(parameter); }
   void destroy() final;
@@ -38,19 +39,18 @@ class MutableEffect : public virtual IMutableEffect {
   bool move(const std::size_t& index) final;
   IMutableParameter* addParameter(const Char* name) final;
 
-  const Text& wholeId() const noexcept { return id_; }
+  TextView wholeId() const noexcept { return id_; }
   ParameterList& parameters() noexcept { return parameters_; }
   const ParameterList& parameters() const noexcept { return parameters_; }
 
  protected:
-  MutableEffect(MutableStyle& parent, EffectKind kind, const Char* id)
-      : parent_(parent), id_(id), kind_(kind) {}
+  MutableEffect(MutableStyle& parent, EffectKind kind, const Char* id);
 
   MutableChain& chain() const noexcept;
 
  private:
   MutableStyle& parent_;
-  const Text id_;
+  const PooledText id_;
   ParameterList parameters_;
   const EffectKind kind_;
 };

@@ -19,10 +19,11 @@ bool MutableParameter::setName(const Char* name) {
 }
 
 void MutableParameter::setValueString(const Char* value) {
-  assign(ParameterValue::of(TextView()), value ? Text(value) : Text());
+  assign(ParameterValue::of(TextView()),
+         PooledText(parent_.parameters().pool(), value ? TextView(value) : TextView()));
 }
 
-void MutableParameter::assign(const ParameterValue& value, Text text) noexcept {
+void MutableParameter::assign(const ParameterValue& value, PooledText text) noexcept {
   type_ = value.type;
   valueInt_ = value.integer;
   valueFloat_ = value.real;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "containers/pooled_text.h"
 #include "interfaces/interfaces.h"
 #include "model/parameter_value.h"
 
@@ -13,14 +14,14 @@ class MutableEffect;
 
 class MutableParameter final : public IMutableParameter {
  public:
-  MutableParameter(MutableEffect& parent, Text name) noexcept
+  MutableParameter(MutableEffect& parent, PooledText name) noexcept
       : parent_(parent), name_(std::move(name)) {}
 
   std::uint32_t type() const override { return static_cast<std::uint32_t>(type_); }
-  const Char* name() const override { return name_.c_str(); }
+  const Char* name() const override { return name_.data(); }
   std::int32_t valueInt() const override { return valueInt_; }
   float valueFloat() const override { return valueFloat_; }
-  const Char* valueString() const override { return valueString_.c_str(); }
+  const Char* valueString() const override { return valueString_.data(); }
 
   void destroy() override;
   IMutableEffect* parent() const override;
@@ -31,21 +32,21 @@ class MutableParameter final : public IMutableParameter {
   void setValueFloat(const float& value) override { assign(ParameterValue::of(value), {}); }
   void setValueString(const Char* value) override;
 
-  const Text& wholeName() const noexcept { return name_; }
+  TextView wholeName() const noexcept { return name_; }
   ParameterValue value() const noexcept { return {type_, valueInt_, valueFloat_, valueString_}; }
 
   /// Must not be called while the parameter is in a list.
-  void assignName(Text name) noexcept { name_ = std::move(name); }
+  void assignName(PooledText name) noexcept { name_ = std::move(name); }
 
  private:
-  void assign(const ParameterValue& value, Text text) noexcept;
+  void assign(const ParameterValue& value, PooledText text) noexcept;
 
   MutableEffect& parent_;
+  PooledText name_;
+  PooledText valueString_;
   ParameterType type_ = ParameterType::integer;
-  Text name_;
   std::int32_t valueInt_ = 0;
   float valueFloat_ = 0;
-  Text valueString_;
 };
 
 }  // namespace Tesk::KoStyle

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "containers/memory_pool.h"
 #include "containers/sorted_texts.h"
 #include "model/attributes.h"
 #include "model/mutable_effect.h"
@@ -12,10 +13,11 @@
 namespace Tesk::KoStyle {
 
 struct MutableContent {
+  MemoryPool pool;  // of the lists and chains
   Text name;
-  Attributes<SortedTexts> attributes;
-  MutableChain audioEffects;
-  MutableChain midiEffects;
+  Attributes<SortedTexts> attributes{&pool};
+  MutableChain audioEffects{&pool};
+  MutableChain midiEffects{&pool};
 };
 
 class MutableStyle final : public StyleWith<MutableContent>, public IMutableStyle {
@@ -46,6 +48,8 @@ class MutableStyle final : public StyleWith<MutableContent>, public IMutableStyl
   IMutableMidiEffect* insertMidiEffect(const std::size_t& index, const Char* id) override;
   IUserStyle* save(const bool& pretty, std::uint32_t* error) override;
   IUserStyle* overwrite(const Char* targetID, const bool& pretty, std::uint32_t* error) override;
+
+  MemoryPool& pool() noexcept { return content().pool; }
 
   MutableChain& chain(EffectKind kind) noexcept {
     return kind == EffectKind::audio ? content().audioEffects : content().midiEffects;

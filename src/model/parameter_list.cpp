@@ -17,16 +17,17 @@ auto isNamedNotAfter(TextView name) {
 
 }  // namespace
 
-MutableParameter* ParameterList::append(MutableEffect& parent, Text name) {
+MutableParameter* ParameterList::append(MutableEffect& parent, TextView name) {
   if (containsName(name)) return nullptr;
-  auto node = parameters_.makeNode(parent, std::move(name));
+  auto node = parameters_.makeNode(parent, PooledText(pool(), name));
   sort();
   return &parameters_.insertByKey(std::move(node));
 }
 
-void ParameterList::rename(MutableParameter& parameter, Text name) {
+void ParameterList::rename(MutableParameter& parameter, TextView name) {
+  PooledText copy(pool(), name);
   renamed_.insert(&parameter);
-  parameters_.modifyKey(&parameter, [&] { parameter.assignName(std::move(name)); });
+  parameters_.modifyKey(&parameter, [&] { parameter.assignName(std::move(copy)); });
 }
 
 void ParameterList::destroy(MutableParameter& parameter) noexcept {

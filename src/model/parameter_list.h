@@ -15,6 +15,10 @@ namespace Tesk::KoStyle {
 
 class ParameterList {
  public:
+  explicit ParameterList(MemoryPool* pool = nullptr) noexcept : parameters_(pool) {}
+
+  /// Where its parameters have their texts.
+  MemoryPool* pool() const noexcept { return parameters_.pool(); }
   std::size_t size() const noexcept { return parameters_.size(); }
   auto begin() const noexcept { return parameters_.begin(); }
   auto end() const noexcept { return parameters_.end(); }
@@ -31,10 +35,10 @@ class ParameterList {
   bool containsName(TextView name) const noexcept { return parameters_.findKey(name) != nullptr; }
 
   /// Appends a new parameter of an effect and sorts. Null when the name is here already.
-  MutableParameter* append(MutableEffect& parent, Text name);
+  MutableParameter* append(MutableEffect& parent, TextView name);
 
   // The parameter must be in this list.
-  void rename(MutableParameter& parameter, Text name);
+  void rename(MutableParameter& parameter, TextView name);
   void destroy(MutableParameter& parameter) noexcept;
 
  private:

@@ -31,7 +31,7 @@ StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& targe
   builder.setName(style.wholeName());
   for (std::size_t i = 0; i < style.numLanguage(); ++i) builder.addLanguage(style.language(i));
   for (const Attribute attribute : textAttributes) {
-    for (const Text& text : style.attributes()[attribute]) builder.addText(attribute, text);
+    for (const TextView text : style.attributes()[attribute]) builder.addText(attribute, text);
   }
   const MutableChain& audio = style.audioEffects();
   const MutableChain& midi = style.midiEffects();

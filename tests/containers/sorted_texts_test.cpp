@@ -48,7 +48,7 @@ TEST(SortedTexts, StandByUnitWithFrontPartsFirst) {
       ElementsAre(KOSTYLE_TEXT("B"), KOSTYLE_TEXT("a"), withNulBehind, withNul, KOSTYLE_TEXT("ab"),
                   KOSTYLE_TEXT("abcd"), KOSTYLE_TEXT("abcdefg"), KOSTYLE_TEXT("abcdefgh"),
                   KOSTYLE_TEXT("abcdeg"), KOSTYLE_TEXT("b"), surrogate, privateUse));
-  EXPECT_EQ(*texts.at(1), KOSTYLE_TEXT("a"));
+  EXPECT_EQ(TextView(*texts.at(1)), KOSTYLE_TEXT("a"));
   EXPECT_EQ(texts.at(12), nullptr);
   EXPECT_EQ(texts.at(SIZE_MAX), nullptr);
 }
@@ -74,11 +74,11 @@ TEST(SortedTexts, EraseOnlyWhatIsHere) {
 TEST(SortedTexts, StayWhereTheyAreUntilTheyAreErased) {
   SortedTexts texts;
   texts.insert(KOSTYLE_TEXT("m"));
-  const Text* const kept = texts.at(0);
+  const PooledText* const kept = texts.at(0);
   for (Char unit = 'a'; unit <= 'z'; ++unit) texts.insert(TextView(&unit, 1));
   for (Char unit = 'a'; unit < 'm'; ++unit) EXPECT_TRUE(texts.erase(TextView(&unit, 1)));
   EXPECT_EQ(texts.at(0), kept);
-  EXPECT_EQ(*kept, KOSTYLE_TEXT("m"));
+  EXPECT_EQ(TextView(*kept), KOSTYLE_TEXT("m"));
 }
 
 TEST(SortedTexts, MayBeGivenBack) {

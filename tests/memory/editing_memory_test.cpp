@@ -12,6 +12,10 @@ namespace {
 
 constexpr const KoStyleChar* longText = KOSTYLE_TEXT("a text that is long enough to be allocated");
 
+std::basic_string<KoStyleChar> nameOf(int number) {
+  return {static_cast<KoStyleChar>('a' + number % 16), static_cast<KoStyleChar>('a' + number / 16)};
+}
+
 struct Edit {
   const char* name;
   std::function<bool(KoStyleStyle*)> apply;
@@ -23,13 +27,18 @@ KoStyleParameter* parameterOf(KoStyleStyle* style, std::size_t index) {
   return MutableEffect_parameter(MutableStyle_audioEffect(style, 0), index);
 }
 
+// A style takes memory in chunks. With so many fillings each place at which an edit asks for some comes
+// to be the one where a chunk ends.
+constexpr int fillings = 64;
+
 class EditingWithoutMemory : public testing::TestWithParam<Edit> {
  protected:
   // A style with something of everything, and parameters that are renamed but not sorted yet.
-  KoStyleStyle* makeStyle() const {
+  KoStyleStyle* makeStyle(int filling = 0) const {
     KoStyleStyle* const style = StyleManager_createMutableStyle(host.manager);
     MutableStyle_setName(style, KOSTYLE_TEXT("a name that is long enough to be allocated"));
     MutableStyle_addLanguage(style, 1);
+    for (int i = 0; i < filling; ++i) MutableStyle_addColor(style, nameOf(i).c_str());
     for (const KoStyleChar* each : {KOSTYLE_TEXT("m"), KOSTYLE_TEXT("z")}) {
       MutableStyle_addSingerGroup(style, each);
       MutableStyle_addGenre(style, each);
@@ -48,26 +57,35 @@ class EditingWithoutMemory : public testing::TestWithParam<Edit> {
     return style;
   }
 
+  // Lets each allocation of an edit fail in turn. Gives the number of failures.
+  long failEach(const Edit& edit, int filling) const {
+    KoStyleStyle* const expected = makeStyle(filling);
+    const test::StyleValue before = test::valueOf(expected);
+    EXPECT_TRUE(edit.apply(expected));
+    const test::StyleValue after = test::valueOf(expected);
+    EXPECT_NE(after, before);
+
+    KoStyleStyle* const style = makeStyle(filling);
+    bool applied = false;
+    const long failures = test::failEachAllocation([&] { applied = edit.apply(style); },
+                                                   [&](long n, bool thrown) {
+                                                     EXPECT_TRUE(thrown) << n;
+                                                     EXPECT_EQ(test::valueOf(style), before) << n;
+                                                   });
+    EXPECT_TRUE(applied);
+    EXPECT_EQ(test::valueOf(style), after);
+    MutableStyle_destroy(expected);
+    MutableStyle_destroy(style);
+    return failures;
+  }
+
   const test::Host host{};
 };
 
 TEST_P(EditingWithoutMemory, LeavesTheStyleAsItWas) {
-  KoStyleStyle* const expected = makeStyle();
-  const test::StyleValue before = test::valueOf(expected);
-  EXPECT_TRUE(GetParam().apply(expected));
-  const test::StyleValue after = test::valueOf(expected);
-  ASSERT_NE(after, before);
-
-  KoStyleStyle* const style = makeStyle();
-  bool applied = false;
-  const long failures = test::failEachAllocation([&] { applied = GetParam().apply(style); },
-                                                 [&](long n, bool thrown) {
-                                                   EXPECT_TRUE(thrown) << n;
-                                                   EXPECT_EQ(test::valueOf(style), before) << n;
-                                                 });
+  long failures = 0;
+  for (int filling = 0; filling < fillings; ++filling) failures += failEach(GetParam(), filling);
   EXPECT_GT(failures, 0);
-  EXPECT_TRUE(applied);
-  EXPECT_EQ(test::valueOf(style), after);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -141,25 +159,25 @@ TEST_F(EditingWithoutMemory, AddingAParameterSortsAllOrNothing) {
 
 // With the seventeenth element, what finds elements by place and by key changes its form.
 TEST_F(EditingWithoutMemory, AListThatGrowsLongStaysAsItWas) {
-  KoStyleStyle* const style = makeStyle();
-  KoStyleEffect* const effect = MutableStyle_midiEffect(style, 0);
-  const auto nameOf = [](int number) {
-    return std::basic_string<KoStyleChar>{static_cast<KoStyleChar>('a' + number % 16),
-                                          static_cast<KoStyleChar>('a' + number / 16)};
-  };
-  for (int i = 16; i > 0; --i) ASSERT_TRUE(MutableEffect_addParameter(effect, nameOf(i).c_str()));
-  const test::StyleValue before = test::valueOf(style);
-  const long failures = test::failEachAllocation(
-      [&] { MutableEffect_addParameter(effect, nameOf(0).c_str()); },
-      [&](long n, bool thrown) {
-        EXPECT_TRUE(thrown) << n;
-        EXPECT_EQ(test::valueOf(style), before) << n;
-        EXPECT_FALSE(MutableEffect_addParameter(effect, nameOf(7).c_str())) << n;
-      });
-  EXPECT_GT(failures, 4);
-  EXPECT_EQ(Effect_numParameter(effect), 17u);
-  for (int i = 0; i <= 16; ++i)
-    EXPECT_FALSE(MutableEffect_addParameter(effect, nameOf(i).c_str())) << i;
+  bool failed = true;
+  for (long n = 0; failed; ++n) {
+    KoStyleStyle* const style = makeStyle();
+    KoStyleEffect* const effect = MutableStyle_midiEffect(style, 0);
+    for (int i = 16; i > 0; --i) ASSERT_TRUE(MutableEffect_addParameter(effect, nameOf(i).c_str()));
+    const test::StyleValue before = test::valueOf(style);
+    const auto add = [&] { MutableEffect_addParameter(effect, nameOf(0).c_str()); };
+    EXPECT_EQ(test::runsOutOfMemory(n, failed, add), failed) << n;
+    if (failed) {
+      EXPECT_EQ(test::valueOf(style), before) << n;
+      EXPECT_FALSE(MutableEffect_addParameter(effect, nameOf(7).c_str())) << n;
+      add();
+    } else {
+      EXPECT_GT(n, 4);
+    }
+    EXPECT_EQ(Effect_numParameter(effect), 17u);
+    for (int i = 0; i <= 16; ++i)
+      EXPECT_FALSE(MutableEffect_addParameter(effect, nameOf(i).c_str())) << i;
+  }
 }
 
 // Edits that need no memory cannot fail for want of it.
