@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 
@@ -36,13 +37,15 @@ class FileOutput {
 
   /// Puts units up to one that needs more than a byte or an escape. Gives where it stands.
   const Char* putPlain(const Char* units, const Char* end) noexcept {
-    while (units != end && isPlain(*units)) {
-      if (size_ == sizeof block_) Flush();
-      const std::size_t room = std::min(static_cast<std::size_t>(end - units), sizeof block_ - size_);
-      char* to = block_ + size_;
-      const Char* const stop = units + room;
-      while (units != stop && isPlain(*units)) *to++ = static_cast<char>(*units++);
-      size_ = static_cast<std::size_t>(to - block_);
+    while (units != end) {
+      const bool roomForFour = end - units >= four && sizeof block_ - size_ >= four;
+      if (roomForFour && areFourPlain(units)) {
+        for (int i = 0; i < four; ++i) block_[size_++] = static_cast<char>(*units++);
+      } else if (isPlain(*units)) {
+        Put(static_cast<char>(*units++));
+      } else {
+        break;
+      }
     }
     return units;
   }
@@ -54,6 +57,21 @@ class FileOutput {
   static bool isPlain(Char unit) noexcept {
     return unit >= ' ' && unit < 0x80 && unit != '"' && unit != '\\';
   }
+
+  // The same of four units that are looked at as one number. A sum carries into the bit 0x80 of a unit
+  // when the unit is not less than what the other part lacks to 0x80.
+  static bool areFourPlain(const Char* units) noexcept {
+    constexpr std::uint64_t each = 0x0001000100010001;
+    std::uint64_t all = 0;
+    static_assert(sizeof all == four * sizeof *units);
+    std::memcpy(&all, units, sizeof all);
+    const auto differsFrom = [all](std::uint64_t unit) { return (all ^ (unit * each)) + 0x7F * each; };
+    const std::uint64_t fromSpace = all + (0x80 - ' ') * each;
+    const std::uint64_t plain = fromSpace & differsFrom('"') & differsFrom('\\');
+    return (all & 0xFF80 * each) == 0 && (plain & 0x80 * each) == 0x80 * each;
+  }
+
+  static constexpr int four = 4;
 
   std::FILE* const file_;
   std::size_t size_ = 0;
