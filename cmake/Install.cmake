@@ -30,7 +30,17 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/kostyle.pc DESTINATION ${pkgConfigFold
 if(KOSTYLE_BUILD_TOOLS)
   set_target_properties(kostyle PROPERTIES INSTALL_RPATH "$ORIGIN/${libraryFromTool}")
   install(TARGETS kostyle COMPONENT tool)
-  install(FILES docs/kostyle.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+  if(NOT WIN32)
+    set(told ${PROJECT_BINARY_DIR}/tools/kostyle/told)
+    install(FILES ${told}/kostyle.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+    # Where Debian's shells look.
+    foreach(place bash-completion/completions/kostyle zsh/vendor-completions/_kostyle
+            fish/vendor_completions.d/kostyle.fish)
+      get_filename_component(folder ${place} DIRECTORY)
+      get_filename_component(name ${place} NAME)
+      install(FILES ${told}/${name} DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/${folder} COMPONENT tool)
+    endforeach()
+  endif()
 endif()
 install(FILES schema/kostyle.schema.json DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/kostyle COMPONENT tool)
 

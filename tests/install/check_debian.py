@@ -49,6 +49,8 @@ def check_folder(packages, source, compiler, folder):
         run(["dpkg-deb", "-x", package, root])
     tree = root / "usr"
     require(tree, ["include/kostyle/kostyle.h", "share/man/man1/kostyle.1.gz", "share/kostyle/kostyle.schema.json",
+                   "share/bash-completion/completions/kostyle", "share/zsh/vendor-completions/_kostyle",
+                   "share/fish/vendor_completions.d/kostyle.fish",
                    "share/doc/libkostyle1/copyright", "share/doc/libkostyle-dev/docs/format.md",
                    "share/doc/python3-kostyle/README.md", "lib/python3/dist-packages/kostyle/py.typed"])
     hosts = Hosts(source, compiler, "", [], folder)

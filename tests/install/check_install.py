@@ -38,8 +38,11 @@ add_subdirectory("{source}/examples" examples)
 """
 
 INSTALLED = ["include/kostyle/kostyle.h", "include/kostyle/helpers.h", "include/kostyle/kostyle.hpp",
-             "include/kostyle/cpp/manager.hpp", "share/man/man1/kostyle.1", "share/kostyle/kostyle.schema.json",
+             "include/kostyle/cpp/manager.hpp", "share/kostyle/kostyle.schema.json",
              "share/doc/KoStyle/LICENSE", "share/doc/KoStyle/docs/guide/first-host.md"]
+# The tool tells these itself, where it can be run.
+TOLD = ["share/man/man1/kostyle.1", "share/bash-completion/completions/kostyle",
+        "share/zsh/vendor-completions/_kostyle", "share/fish/vendor_completions.d/kostyle.fish"]
 
 
 def installed(build, hosts):
@@ -49,7 +52,7 @@ def installed(build, hosts):
     moved = hosts.folder / "moved späce" / "tree"
     moved.parent.mkdir()
     first.rename(moved)
-    require(moved, INSTALLED)
+    require(moved, INSTALLED if hosts.toolchain else INSTALLED + TOLD)
     return moved
 
 

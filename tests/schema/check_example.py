@@ -18,15 +18,9 @@ with tempfile.TemporaryDirectory() as folder:
     file = pathlib.Path(folder) / "example.kostyle"
     file.write_text(example, encoding="utf-8")
     style = json.loads(subprocess.run([tool, "show", "--json", file], capture_output=True, check=True).stdout)
-document = json.loads(example)
-TYPES = {int: "int", float: "float", str: "text"}
-found = {key: style[key] for key in ["id", "name", "vendor", "audioEffects", "midiEffects", *document["filter"]]}
-expected = {key: document[key] for key in ["id", "name", "vendor"]}
-expected.update({key: sorted(values) for key, values in document["filter"].items()})
-for key in ["audioEffect", "midiEffect"]:
-    expected[key + "s"] = [
-        {"id": name, "parameters": [{"name": each, "type": TYPES[type(value)], "value": value}
-                                    for each, value in sorted(effect["parameter"].items())]}
-        for name, effect in document[key].items()]
-if found != expected:
-    sys.exit(f"expected {expected}, found {found}")
+# Lists are sorted when they are read; so are parameters, whose order means nothing.
+expected = json.loads(example)
+for values in expected["filter"].values():
+    values.sort()
+if style != expected:
+    sys.exit(f"expected {expected}, found {style}")

@@ -43,8 +43,7 @@ TEST(Examples, StandInEveryEncoding) {
 }
 
 TEST(Examples, InUtf16ShowTheirText) {
-  const auto style = parseJson(
-      runTool({"show", argument(exampleStyles() / "system" / "harbour_night.kostyle"), "--json"}).out);
+  const auto style = styleIn(exampleStyles() / "system" / "harbour_night.kostyle");
   EXPECT_STREQ(style["name"].GetString(), "港の夜");
   EXPECT_THAT(texts(style["genres"]), ElementsAre("歌謡曲", "演歌"));
 }

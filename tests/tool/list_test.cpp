@@ -18,10 +18,14 @@ TEST_F(List, AlignsColumnsByDisplay) {
   writeFile(user_ / "b.kostyle", document("p", "Plain"));
   const Outcome outcome = runTool({"list", "--system", argument(system_), "--user", argument(user_)});
   expectSuccess(outcome);
-  EXPECT_EQ(outcome.out,
-            "KIND    NAME    ID     LANGUAGES  SINGER GROUPS  GENRES  SUB-GENRES  COLORS  EFFECTS\n"
-            "system  港の夜  night  1, 4       Choir, Duo     演歌    Bálade      red     2\n"
-            "user    Plain   p                                                            1\n");
+  EXPECT_EQ(
+      outcome.out,
+      "KIND    NAME    ID     LANGUAGES  SINGER GROUPS  GENRES  SUB-GENRES  COLORS  EFFECTS  PATH\n"
+      "system  港の夜  night  1, 4       Choir, Duo     演歌    Bálade      red     2        " +
+          printed(system_ / "a.kostyle") +
+          "\n"
+          "user    Plain   p                                                            1        " +
+          printed(user_ / "b.kostyle") + "\n");
 }
 
 TEST_F(List, KeepsControlCharactersFromTheTerminal) {
@@ -40,12 +44,13 @@ TEST_F(List, SaysWhatWasRefusedAndWhy) {
   EXPECT_EQ(outcome.err, "");
   EXPECT_THAT(outcome.out, HasSubstr("\n\nRefused:\n"));
   const auto line = [&](const char* file, const std::string& reason) {
-    return HasSubstr('\n' + printed(user_ / file) + ": " + reason + '\n');
+    return HasSubstr('\n' + printed(user_ / file) + reason + '\n');
   };
   EXPECT_THAT(outcome.out,
-              line("comma.kostyle", "not valid JSON: an object member has no name, byte offset 11"));
-  EXPECT_THAT(outcome.out, line("nameless.kostyle", "required member is missing at /name"));
-  EXPECT_THAT(outcome.out, line("same.kostyle", "another style has the same identifier: s"));
+              line("comma.kostyle", ":1:11: not valid JSON: an object member has no name"));
+  EXPECT_THAT(outcome.out, line("nameless.kostyle", ": required member is missing at /name"));
+  EXPECT_THAT(outcome.out, line("same.kostyle", ": another style has the same identifier: s, in " +
+                                                    printed(system_ / "good.kostyle")));
 }
 
 TEST_F(List, PrintsEverythingAsJson) {
@@ -93,6 +98,8 @@ TEST_F(List, PrintsRefusalsAsJson) {
   EXPECT_EQ(refused["parseError"]["code"].GetInt(), 3);
   EXPECT_STREQ(refused["parseError"]["text"].GetString(), "not a value");
   EXPECT_EQ(refused["parseError"]["offset"].GetInt(), 6);
+  EXPECT_EQ(refused["parseError"]["line"].GetInt(), 1);
+  EXPECT_EQ(refused["parseError"]["column"].GetInt(), 4);
 
   writeFile(user_ / "bad.kostyle", R"({"id":7})");
   const auto wrongType = parseJson(
@@ -145,7 +152,7 @@ TEST_F(List, AcceptsAnEmptyDirectory) {
 TEST_F(List, RefusesWrongUse) {
   const std::string system = argument(system_);
   const std::string missing = argument(directory_ / "missing");
-  expectFailure(runTool({"list"}), 2, "--system is required");
+  expectFailure(runTool({"list"}), 2, "--system or --user is required");
   expectFailure(runTool({"list", "--system"}), 2, "--system");
   expectFailure(runTool({"list", "--system", system, "--frob"}), 2, "--frob");
   expectFailure(runTool({"list", "--system", system, "more"}), 2, "more");
@@ -159,6 +166,15 @@ TEST_F(List, RefusesWrongUse) {
       "no such directory");
   expectFailure(runTool({"list", "--system", system, "--user-extra", argument(user_)}), 2, "--user");
   EXPECT_FALSE(fs::exists(directory_ / "missing"));
+  writeFile(directory_ / "file", "");
+  expectFailure(runTool({"list", "--user", argument(directory_ / "file")}), 2, "file: not a directory");
+}
+
+TEST_F(List, TakesAUserDirectoryAlone) {
+  writeFile(user_ / "a.kostyle", document("a", "A"));
+  const Outcome outcome = runTool({"list", "--user", argument(user_), "--columns", "kind,id"});
+  expectSuccess(outcome);
+  EXPECT_EQ(outcome.out, "KIND  ID\nuser  a\n");
 }
 
 #if defined(_WIN32)
@@ -169,14 +185,15 @@ TEST_F(List, ReportsFilesThatCannotBeOpened) {
   const Outcome outcome = runTool({"list", "--system", argument(system_)});
   CloseHandle(lock);
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.out, HasSubstr(printed(path) + ": cannot be opened\n"));
+  EXPECT_THAT(outcome.out, HasSubstr(printed(path) + ": cannot be opened: "));
 }
 #else
 TEST_F(List, ReportsFilesThatCannotBeOpened) {
   fs::create_symlink("nowhere", system_ / "lost.kostyle");
   const Outcome outcome = runTool({"list", "--system", argument(system_)});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.out, HasSubstr(printed(system_ / "lost.kostyle") + ": cannot be opened\n"));
+  EXPECT_THAT(outcome.out, HasSubstr(printed(system_ / "lost.kostyle") +
+                                     ": cannot be opened: No such file or directory\n"));
   const auto document = parseJson(runTool({"list", "--system", argument(system_), "--json"}).out);
   EXPECT_THAT(texts(document["unopened"]), ElementsAre(printed(system_ / "lost.kostyle")));
 }
@@ -199,7 +216,8 @@ TEST_F(List, ReportsDirectoriesThatCannotBeRead) {
   const Outcome outcome =
       runToolInScript(unprivileged, {"list", "--system", argument(system_), "--user", argument(user_)});
   EXPECT_EQ(outcome.exitCode, 1) << outcome.err;
-  EXPECT_THAT(outcome.out, HasSubstr("\n\nRefused:\n" + printed(user_) + ": cannot be opened\n"));
+  EXPECT_THAT(outcome.out,
+              HasSubstr("\n\nRefused:\n" + printed(user_) + ": cannot be opened: Permission denied\n"));
 }
 
 TEST_F(List, WritesStrayBytesOfPathsAsTheyAre) {
@@ -207,9 +225,16 @@ TEST_F(List, WritesStrayBytesOfPathsAsTheyAre) {
   writeFile(folder / "\xFF.kostyle", "{");
   const Outcome outcome = runTool({"list", "--system", argument(folder)});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.out, HasSubstr("/ca\xE9/\xFF.kostyle: not valid JSON"));
+  EXPECT_THAT(outcome.out, HasSubstr("/ca\xE9/\xFF.kostyle:1:2: not valid JSON"));
   const auto document = parseJson(runTool({"list", "--system", argument(folder), "--json"}).out);
   EXPECT_THAT(document["refused"][0]["path"].GetString(), HasSubstr("/ca\uFFFD/\uFFFD.kostyle"));
+}
+
+// Some terminals take it for the start of a command.
+TEST_F(List, EscapesStrayControlBytesOfPaths) {
+  writeFile(system_ / "\x9b\x33\x31m.kostyle", "{");
+  const Outcome outcome = runTool({"list", "--system", argument(system_)});
+  EXPECT_THAT(outcome.out, HasSubstr("/\\x9b31m.kostyle:1:2: not valid JSON"));
 }
 
 TEST_F(List, ReportsOutputThatCannotBeWritten) {

@@ -1,5 +1,6 @@
 #include <kostyle/kostyle.h>
 
+#include "tool/held_file.h"
 #include "tool/tool.h"
 
 namespace test {
@@ -232,10 +233,19 @@ TEST_F(New, RefusesUserDirectoriesThatCannotBe) {
   const auto file = directory_ / "file";
   writeFile(file, "x");
   expectFailure(runTool(Arguments{"new", "--user", argument(file), "--name", "N"} + effect), 2,
-                "no such directory");
+                "not a directory");
   expectFailure(runTool(Arguments{"new", "--user", argument(file / "below"), "--name", "N"} + effect),
                 1, "the user directory cannot be created");
   expectFailure(runTool(Arguments{"new", "--name", "N"} + effect), 2, "--user is required");
+}
+
+TEST_F(New, WaitsForAnotherThatChangesTheFolder) {
+  fs::create_directories(user_);
+  const HeldLock held(user_ / "kostyle.lock");
+  ASSERT_TRUE(held.isOpen());
+  expectFailure(create(Arguments{"--name", "N", "--wait", "0"} + effect), 1,
+                "another kostyle is changing files of this folder");
+  EXPECT_THAT(entryNames(user_), ElementsAre("kostyle.lock"));
 }
 
 #if !defined(_WIN32)
@@ -254,7 +264,7 @@ TEST_F(New, LeavesNothingOnAFullDisk) {
   const Outcome outcome =
       runToolOnFullDisk(0, Arguments{"new", "--user", argument(user_), "--name", "N"} + effect);
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.out, HasSubstr("not valid JSON: the file holds no value"));
+  EXPECT_THAT(outcome.out, HasSubstr(": the file cannot be written: File too large\n"));
   EXPECT_TRUE(fs::is_empty(directory_.path()));
 }
 

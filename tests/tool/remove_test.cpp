@@ -1,3 +1,4 @@
+#include "tool/held_file.h"
 #include "tool/tool.h"
 
 namespace test {
@@ -39,10 +40,29 @@ TEST_F(Remove, RefusesWhatIsNoUserStyle) {
   EXPECT_EQ(contents(directory_.path()), before);
 }
 
+TEST_F(Remove, TakesSeveralOrNone) {
+  for (const char* id : {"a", "b", "c"})
+    writeFile(user_ / (std::string(id) + ".kostyle"), document(id, id));
+  const auto before = contents(user_);
+  expectFailure(runTool({"remove", "a", "b", "d", "--user", argument(user_)}), 1,
+                "d: no style has this identifier");
+  EXPECT_EQ(contents(user_), before);
+  expectSuccess(runTool({"remove", "a", "c", "a", "--user", argument(user_), "--yes"}));
+  EXPECT_THAT(entryNames(user_), ElementsAre("b.kostyle"));
+}
+
+TEST_F(Remove, WaitsForAnotherThatChangesTheFolder) {
+  writeFile(user_ / "a.kostyle", document("A", "A"));
+  const HeldLock held(user_ / "kostyle.lock");
+  ASSERT_TRUE(held.isOpen());
+  expectFailure(runTool({"remove", "A", "--user", argument(user_), "--wait", "0"}), 1,
+                "another kostyle is changing files of this folder");
+  EXPECT_TRUE(fs::exists(user_ / "a.kostyle"));
+}
+
 TEST_F(Remove, RefusesWrongUse) {
   expectFailure(runTool({"remove", "--user", argument(user_)}), 2, "ID is required");
   expectFailure(runTool({"remove", "A"}), 2, "--user is required");
-  expectFailure(runTool({"remove", "A", "B", "--user", argument(user_)}), 2, "B");
   expectFailure(runTool({"remove", "A", "--user", argument(directory_ / "no")}), 2,
                 "no such directory");
   EXPECT_FALSE(fs::exists(directory_ / "no"));

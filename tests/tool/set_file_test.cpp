@@ -1,10 +1,10 @@
 // What `set` does to the file itself: replaced at once or left as it is, and nothing left beside it.
 #include <thread>
 
+#include "tool/held_file.h"
 #include "tool/tool.h"
 
 #if !defined(_WIN32)
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -27,40 +27,6 @@ class SetFile : public testing::Test {
   const fs::path lock_ = user_ / "kostyle.lock";
 };
 
-#if defined(_WIN32)
-// A file that others may only use as `sharing` says.
-class OpenFile {
- public:
-  OpenFile(const fs::path& path, DWORD sharing)
-      : file_(CreateFileW(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_ALWAYS,
-                          FILE_ATTRIBUTE_NORMAL, nullptr)) {}
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
-  ~OpenFile() { CloseHandle(file_); }
-  bool isOpen() const { return file_ != INVALID_HANDLE_VALUE; }
-
- private:
-  HANDLE file_;
-};
-
-struct HeldLock : OpenFile {
-  explicit HeldLock(const fs::path& path) : OpenFile(path, 0) {}
-};
-#else
-class HeldLock {
- public:
-  explicit HeldLock(const fs::path& path)
-      : file_(open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0600)) {}
-  HeldLock(const HeldLock&) = delete;
-  HeldLock& operator=(const HeldLock&) = delete;
-  ~HeldLock() { close(file_); }
-  bool isOpen() const { return file_ >= 0 && flock(file_, LOCK_EX | LOCK_NB) == 0; }
-
- private:
-  int file_;
-};
-#endif
-
 TEST_F(SetFile, GivesUpWhenAnotherIsAtWork) {
   const HeldLock held(lock_);
   ASSERT_TRUE(held.isOpen());
@@ -79,7 +45,8 @@ TEST_F(SetFile, WaitsForAnother) {
   const Outcome outcome = runTool(rename("X"));
   other.join();
   EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_EQ(outcome.err, "kostyle: waiting for another kostyle that has " + printed(lock_) + "\n");
+  EXPECT_EQ(outcome.err,
+            "kostyle: notice: waiting for another kostyle that has " + printed(lock_) + "\n");
   expectRenamed("X");
 }
 
@@ -113,11 +80,34 @@ TEST_F(SetFile, LosesNoChangeOfMany) {
   for (std::thread& thread : threads) thread.join();
   EXPECT_THAT(exitCodes, testing::Each(0));
   EXPECT_THAT(entryNames(user_), ElementsAre("mine.kostyle"));
-  const auto style = parseJson(runTool({"show", argument(file_), "--json"}).out);
+  const auto style = styleIn(file_);
   EXPECT_EQ(style["genres"].Size(), static_cast<unsigned>(count));
   for (int i = 0; i < count; ++i)
     EXPECT_EQ(parameter(style, "p" + std::to_string(i))["value"].GetInt(), i);
 }
+
+#if defined(_WIN32)
+// Such as one that is just replacing it.
+TEST_F(SetFile, WaitsForAProgramThatLetsNobodyReadTheFile) {
+  auto held = std::make_unique<OpenFile>(file_, 0);
+  ASSERT_TRUE(held->isOpen());
+  std::thread other([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(1000));
+    held.reset();
+  });
+  const Outcome outcome = runTool(rename("X"));
+  other.join();
+  EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
+  expectRenamed("X");
+}
+
+TEST_F(SetFile, SaysThatAFileIsInUse) {
+  const OpenFile held(file_, 0);
+  ASSERT_TRUE(held.isOpen());
+  expectFailure(runTool(rename("X") + Arguments{"--wait", "0"}), 1,
+                "S: no style has this identifier; " + printed(file_) + ": cannot be opened: ");
+}
+#endif
 
 TEST_F(SetFile, KeepsALink) {
   const fs::path target = directory_.folder("elsewhere") / "real.txt";
@@ -176,7 +166,8 @@ TEST_F(SetFile, WaitsUntilAFileIsClosedElsewhere) {
   const Outcome outcome = runTool(rename("X"));
   other.join();
   EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_EQ(outcome.err, "kostyle: waiting for a program that has " + printed(file_) + " open\n");
+  EXPECT_EQ(outcome.err,
+            "kostyle: notice: waiting for a program that has " + printed(file_) + " open\n");
   expectRenamed("X");
 }
 #else

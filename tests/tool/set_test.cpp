@@ -8,9 +8,7 @@ class Set : public testing::Test {
   Outcome change(const Arguments& arguments) const {
     return runTool(Arguments{"set", "S", "--user", argument(user_)} + arguments);
   }
-  rapidjson::Document show() const {
-    return parseJson(runTool({"show", argument(file_), "--json"}).out);
-  }
+  rapidjson::Document show() const { return styleIn(file_); }
 
   const TemporaryDirectory directory_;
   const fs::path user_ = directory_.folder("user");
@@ -140,7 +138,7 @@ TEST_F(Set, RefusalLeavesTheFile) {
       {{"--param", "EQ.band=2147483648"}, 1, "2147483648: out of the range of type int"},
       {{"--delete-genre", "folk"}, 1, "genre \"folk\" is not there; did you mean \"Folk\"?"},
       {{"--delete-param", "EQ.Mode"}, 1, "no such parameter; did you mean \"mode\"?"},
-      {{"--name", "X", "--pretty"}, 2, "--pretty requires --reformat"},
+      {{"--name", "X", "--pretty"}, 2, "--pretty needs --reformat"},
       {{"--name", "X", "--wait", "-1"}, 2, "--wait"},
       {{"--param", "EQ.gain=1", "--param", "EQ.gain=2"}, 2, "given twice"},
       {{"--delete-audio-effect", "EQ", "--delete-audio-effect", "Reverb", "--delete-midi-effect",

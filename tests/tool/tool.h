@@ -80,6 +80,19 @@ inline std::vector<std::string> texts(const rapidjson::Value& array) {
   return result;
 }
 
+/// The style of a file, as a listing tells it, without its path.
+inline rapidjson::Document styleIn(const fs::path& file) {
+  const TemporaryDirectory alone;
+  fs::copy_file(file, alone / "style.kostyle");
+  rapidjson::Document listing =
+      parseJson(runTool({"list", "--json", "--user", argument(alone.path())}).out);
+  if (listing["styles"].Empty()) throw std::runtime_error("no style in " + argument(file));
+  rapidjson::Document style;
+  style.CopyFrom(listing["styles"][0], style.GetAllocator());
+  style.RemoveMember("path");
+  return style;
+}
+
 /// The effects of a chain as "EQ(gain float,mode text)".
 inline std::vector<std::string> effects(const rapidjson::Value& chain) {
   std::vector<std::string> result;
@@ -108,6 +121,9 @@ inline void expectFailure(const Outcome& outcome, int exitCode, const std::strin
   EXPECT_THAT(outcome.err, StartsWith("kostyle: "));
   EXPECT_THAT(outcome.err, HasSubstr(why));
   EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1);
+  for (const char* raw :
+       {"required but received", "Could not convert", "not in range", "std::", "disallowed"})
+    EXPECT_EQ(outcome.err.find(raw), outcome.err.npos) << outcome.err;
 }
 
 inline void expectSuccess(const Outcome& outcome) {

@@ -33,7 +33,13 @@ CLI::Option* addDirectories(CLI::App& command, const std::string& name, std::vec
 }
 
 void requireDirectory(const fs::path& path) {
-  if (!isDirectory(path)) throw WrongUse(fmt::format("{}: no such directory", shownPath(path)));
+  if (isDirectory(path)) return;
+  std::error_code error;
+  const bool exists = fs::exists(path, error);
+  throw WrongUse(fmt::format("{}: {}", shownPath(path),
+                             exists  ? "not a directory"
+                             : error ? error.message()
+                                     : "no such directory"));
 }
 
 }  // namespace

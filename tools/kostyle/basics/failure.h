@@ -12,6 +12,10 @@ struct Refused : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+struct NotEnoughMemory : Refused {
+  using Refused::Refused;
+};
+
 /// The command line is wrong, whatever the styles are.
 struct WrongUse : std::runtime_error {
   using std::runtime_error::runtime_error;

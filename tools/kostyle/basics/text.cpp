@@ -58,21 +58,9 @@ bool isControl(char32_t codePoint) {
          isIn(codePoint, 0x2066, 0x2069) || codePoint == 0xFEFF;
 }
 
-// Combining marks and what joins characters.
-bool hasNoWidth(char32_t codePoint) {
-  return isIn(codePoint, 0x300, 0x36F) || isIn(codePoint, 0x200B, 0x200D) ||
-         isIn(codePoint, 0x20D0, 0x20FF) || isIn(codePoint, 0xFE00, 0xFE0F) ||
-         isIn(codePoint, 0xFE20, 0xFE2F);
-}
-
-// East Asian characters and pictures.
-bool isWide(char32_t codePoint) {
-  return isIn(codePoint, 0x1100, 0x115F) || isIn(codePoint, 0x2E80, 0x303E) ||
-         isIn(codePoint, 0x3041, 0xA4CF) || isIn(codePoint, 0xAC00, 0xD7A3) ||
-         isIn(codePoint, 0xF900, 0xFAFF) || isIn(codePoint, 0xFE30, 0xFE6F) ||
-         isIn(codePoint, 0xFF00, 0xFF60) || isIn(codePoint, 0xFFE0, 0xFFE6) ||
-         isIn(codePoint, 0x1F300, 0x1F64F) || isIn(codePoint, 0x1F680, 0x1F6FF) ||
-         isIn(codePoint, 0x1F900, 0x1F9FF) || isIn(codePoint, 0x20000, 0x3FFFD);
+// A byte that is no UTF-8, but that some terminals obey.
+bool isStrayControl(char32_t codePoint) {
+  return isIn(codePoint, strayByteBase + 0x80, strayByteBase + 0x9F);
 }
 
 std::string escaped(std::string_view utf8, std::string_view alsoEscaped) {
@@ -83,6 +71,9 @@ std::string escaped(std::string_view utf8, std::string_view alsoEscaped) {
     const std::string_view bytes = rest.substr(0, rest.size() - utf8.size());
     if (isControl(codePoint)) {
       fmt::format_to(std::back_inserter(result), "\\u{:04x}", static_cast<std::uint32_t>(codePoint));
+    } else if (isStrayControl(codePoint)) {
+      fmt::format_to(std::back_inserter(result), "\\x{:02x}",
+                     static_cast<std::uint32_t>(codePoint - strayByteBase));
     } else {
       if (alsoEscaped.find(bytes.front()) != alsoEscaped.npos) result += '\\';
       result += bytes;
@@ -152,7 +143,7 @@ std::string pathToUtf8(TextView path) {
   while (!path.empty()) {
     const char32_t codePoint = takeUnits(path);
     if (codePoint >= strayByteBase + 0x80 && codePoint <= strayByteBase + 0xFF) {
-      bytes += static_cast<char>(codePoint - strayByteBase);
+      bytes += static_cast<char>(static_cast<std::uint32_t>(codePoint - strayByteBase));
     } else {
       appendUtf8(bytes, isSurrogate(codePoint) ? replacement : codePoint);
     }
@@ -162,15 +153,6 @@ std::string pathToUtf8(TextView path) {
 }
 
 std::string printable(std::string_view utf8) { return escaped(utf8, ""); }
-
-std::size_t widthOf(std::string_view utf8) {
-  std::size_t width = 0;
-  while (!utf8.empty()) {
-    const char32_t codePoint = takeCodePoint(utf8);
-    if (!hasNoWidth(codePoint)) width += isWide(codePoint) ? 2 : 1;
-  }
-  return width;
-}
 
 std::string inQuotes(std::string_view utf8) { return '"' + escaped(utf8, "\"\\") + '"'; }
 

@@ -32,9 +32,6 @@ std::string pathToUtf8(TextView path);
 /// breaks a line nor drives the terminal.
 std::string printable(std::string_view utf8);
 
-/// How many columns of a terminal a text takes.
-std::size_t widthOf(std::string_view utf8);
-
 /// As JSON writes a string: in quotation marks, which together with \ and controls are escaped inside.
 std::string inQuotes(std::string_view utf8);
 

@@ -8,7 +8,9 @@
 #include <thread>
 #include <utility>
 
+#include "basics/common_options.h"
 #include "basics/failure.h"
+#include "basics/progress.h"
 
 namespace tool {
 namespace {
@@ -61,8 +63,10 @@ Collection::Collection(const std::vector<std::string>& directories)
       places.push_back(i);
     }
   }
+  Progress progress("checking");
   CheckOptions options;
-  options.maxSize = SourceText::maxSize;
+  options.progress = [&](std::size_t done, std::size_t all) { progress.tell(done, all); };
+  options.maxSize = std::min(commonOptions().maxSize, SourceText::maxSize);
   options.jobs = std::max(1U, std::thread::hardware_concurrency());
   std::vector<FileReport> reports = checkAll(inputs, options);
   const auto styles = stylesByPath(manager_);

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "basics/text.h"
+#include "basics/text_width.h"
 #include "reading/attributes.h"
 #include "reading/parameter_value.h"
 

@@ -26,17 +26,21 @@ FileReport checkOrSayWhyNot(const Input& input, std::size_t maxSize) {
 std::vector<FileReport> checkOnThreads(const std::vector<Input>& inputs, const CheckOptions& options) {
   std::vector<FileReport> reports(inputs.size());
   std::atomic<std::size_t> next = 0;
-  const auto work = [&] {
-    for (std::size_t i = next++; i < inputs.size(); i = next++)
+  std::atomic<std::size_t> done = 0;
+  const auto work = [&](bool tells) {
+    for (std::size_t i = next++; i < inputs.size(); i = next++) {
       reports[i] = checkOrSayWhyNot(inputs[i], options.maxSize);
+      ++done;
+      if (tells && options.progress) options.progress(done, inputs.size());
+    }
   };
   std::vector<std::thread> others;
   try {
     while (others.size() + 1 < std::min<std::size_t>(options.jobs, inputs.size()))
-      others.emplace_back(work);
+      others.emplace_back(work, false);
   } catch (const std::system_error&) {  // fewer threads do the same
   }
-  work();
+  work(true);
   for (std::thread& other : others) other.join();
   return reports;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@ namespace tool {
 struct CheckOptions {
   std::size_t maxSize = 0;  // of a file, in bytes
   unsigned jobs = 1;        // files that are checked at the same time
+  std::function<void(std::size_t done, std::size_t all)> progress = {};  // called now and then
 };
 
 /// What was found in the files, each report at the place of its input. The order of the findings

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "basics/text.h"
+#include "basics/text_width.h"
 
 namespace tool {
 namespace {

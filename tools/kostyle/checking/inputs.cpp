@@ -56,7 +56,10 @@ std::vector<Input> styleFilesOf(const std::string& argument) {
   if (!listed) {
     Input input;
     input.shown = argument;
-    input.problem = "the directory cannot be listed";
+    std::error_code error;
+    const fs::directory_iterator entries(pathOf(argument), error);
+    input.problem = fmt::format("the directory cannot be listed{}{}", error ? ": " : "",
+                                error ? error.message() : "");
     inputs.push_back(std::move(input));
   }
   const auto before = [](const Input& a, const Input& b) { return a.path < b.path; };

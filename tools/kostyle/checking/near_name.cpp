@@ -1,5 +1,7 @@
 #include "checking/near_name.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstddef>
 
@@ -51,6 +53,11 @@ Text nearName(TextView name, const std::vector<TextView>& known) {
     }
   }
   return Text(nearest);
+}
+
+std::string nearNameHint(TextView name, const std::vector<TextView>& known) {
+  const Text nearest = nearName(name, known);
+  return nearest.empty() ? std::string() : fmt::format("; did you mean {}?", inQuotes(toUtf8(nearest)));
 }
 
 }  // namespace tool

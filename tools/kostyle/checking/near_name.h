@@ -12,4 +12,7 @@ namespace tool {
 /// does not count. Empty when none is near.
 Text nearName(TextView name, const std::vector<TextView>& known);
 
+/// The end of a message about a name that is not known: the near one, if any.
+std::string nearNameHint(TextView name, const std::vector<TextView>& known);
+
 }  // namespace tool

@@ -43,8 +43,8 @@ int catalog(const CatalogOptions& options) {
     file->write(collection, page);
   }
   if (collection.refused() == 0) return exitOk;
-  fmt::print(stderr, "kostyle: notice: {} of {} files {} refused; the page says why\n",
-             collection.refused(), collection.files().size(), collection.refused() == 1 ? "is" : "are");
+  notice(fmt::format("{} of {} files {} refused; the page says why", collection.refused(),
+                     collection.files().size(), collection.refused() == 1 ? "is" : "are"));
   return exitRefused;
 }
 
@@ -66,7 +66,7 @@ a file is refused; the page is written all the same and says why.
 
 Examples:
   kostyle catalog styles/system styles/user -o styles.html
-  kostyle catalog --title "Spring sounds" styles/spring -o - | gzip > spring.html.gz)");
+  kostyle catalog --title "My sounds" styles/user -o - | gzip > sounds.html.gz)");
   command->callback([options, &chosen] { chosen = [options] { return catalog(*options); }; });
 }
 

@@ -2,15 +2,21 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <iostream>
 #include <memory>
 #include <string>
+#include <system_error>
 #include <thread>
+#include <utility>
 #include <vector>
 
+#include "basics/common_options.h"
 #include "basics/failure.h"
+#include "basics/output.h"
 #include "basics/paths.h"
+#include "basics/progress.h"
 #include "basics/terminal.h"
 #include "checking/check_run.h"
 #include "commands/commands.h"
@@ -20,7 +26,6 @@ namespace tool {
 namespace {
 
 constexpr const char* standardInput = "-";
-constexpr std::size_t defaultMaxSize = std::size_t{64} << 20;
 
 struct CheckCommandOptions {
   std::vector<std::string> paths;
@@ -29,7 +34,6 @@ struct CheckCommandOptions {
   std::string severity = "note";
   bool strict = false;
   unsigned jobs = std::max(1U, std::thread::hardware_concurrency());
-  std::size_t maxSize = defaultMaxSize;
 };
 
 // The lines of a file or of the standard input.
@@ -37,7 +41,9 @@ std::vector<std::string> listedPaths(const std::string& list) {
   std::ifstream file;
   if (list != standardInput) {
     file.open(pathOf(list));
-    if (!file) throw Refused(list + ": the list cannot be opened");
+    if (!file)
+      throw Refused(fmt::format("{}: the list cannot be opened: {}", list,
+                                std::generic_category().message(errno)));
   }
   std::istream& lines = list == standardInput ? std::cin : file;
   std::vector<std::string> paths;
@@ -78,14 +84,20 @@ std::string formatted(const std::vector<FileReport>& reports, const std::string&
   return findingsText(reports, takesColors());
 }
 
+std::vector<FileReport> checked(const std::vector<Input>& inputs, CheckOptions options) {
+  Progress progress("checking");
+  options.progress = [&](std::size_t done, std::size_t all) { progress.tell(done, all); };
+  return checkAll(inputs, options);
+}
+
 int check(const CheckCommandOptions& options) {
   CheckOptions checkOptions;
-  checkOptions.maxSize = std::min(options.maxSize, SourceText::maxSize);
+  checkOptions.maxSize = std::min(commonOptions().maxSize, SourceText::maxSize);
   checkOptions.jobs = options.jobs;
-  auto reports = checkAll(inputsOf(pathsOf(options)), checkOptions);
+  auto reports = checked(inputsOf(pathsOf(options)), std::move(checkOptions));
   const Counts counts = countsOf(reports);
   dropBelow(severityOf(options.severity), reports);
-  fmt::print("{}", formatted(reports, options.format));
+  print(formatted(reports, options.format));
   return counts.errors > 0 || (options.strict && counts.warnings > 0) ? exitRefused : exitOk;
 }
 
@@ -111,9 +123,6 @@ void addCheckCommand(CLI::App& app, Command& chosen) {
   command->add_option("--jobs", options->jobs, "Files that are checked at the same time")
       ->check(CLI::Range(1U, 256U))
       ->type_name("N");
-  command->add_option("--max-size", options->maxSize, "Largest file that is read, such as 64MB")
-      ->transform(CLI::AsSizeValue(false))
-      ->type_name("SIZE");
   command->footer(
       R"(Each finding names file, line and column, the rule, and what became of it. The rules are listed in the
 documentation. Paths stand in the order in which an application would read them. Exit code: 0 nothing is refused,

@@ -1,5 +1,6 @@
 // The commands. Each adds itself to the command line; when it is the one given, it puts what is to be
-// run, which returns the exit code, into `chosen`.
+// run, which returns the exit code, into `chosen`. Help, manual page and completion tell what was
+// added.
 #pragma once
 
 #include <functional>
@@ -11,13 +12,22 @@ class App;
 namespace tool {
 
 using Command = std::function<int()>;
+using AddCommand = void (*)(CLI::App& app, Command& chosen);
 
 void addCatalogCommand(CLI::App& app, Command& chosen);
 void addCheckCommand(CLI::App& app, Command& chosen);
+void addCompletionCommand(CLI::App& app, Command& chosen);
 void addListCommand(CLI::App& app, Command& chosen);
-void addShowCommand(CLI::App& app, Command& chosen);
+void addManualCommand(CLI::App& app, Command& chosen);
 void addNewCommand(CLI::App& app, Command& chosen);
-void addSetCommand(CLI::App& app, Command& chosen);
 void addRemoveCommand(CLI::App& app, Command& chosen);
+void addSetCommand(CLI::App& app, Command& chosen);
+void addShowCommand(CLI::App& app, Command& chosen);
+
+/// In the order in which the help lists them.
+inline constexpr AddCommand allCommands[] = {
+    addListCommand,   addShowCommand,    addCheckCommand,      addNewCommand,    addSetCommand,
+    addRemoveCommand, addCatalogCommand, addCompletionCommand, addManualCommand,
+};
 
 }  // namespace tool

@@ -3,15 +3,21 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "basics/failure.h"
+#include "basics/output.h"
+#include "basics/terminal.h"
 #include "basics/text.h"
+#include "checking/near_name.h"
 #include "commands/commands.h"
+#include "printing/style_columns.h"
 #include "printing/style_json.h"
 #include "printing/table.h"
-#include "reading/attributes.h"
 #include "reading/manager.h"
 #include "reading/reasons.h"
+#include "reading/style_filter.h"
 #include "reading/unopened.h"
 
 namespace tool {
@@ -19,6 +25,10 @@ namespace {
 
 struct ListOptions {
   StyleDirectories directories;
+  StyleFilter filter;
+  std::vector<std::string> columns;
+  std::string sort;
+  bool wide = false;
   bool json = false;
 };
 
@@ -30,46 +40,66 @@ std::vector<KoStyleCreationResult*> refusals(std::vector<KoStyleCreationResult*>
   return results;
 }
 
-Row headings() {
-  Row row{"KIND", "NAME", "ID", "LANGUAGES"};
-  for (const TextList& list : textLists())
-    if (list.heading) row.push_back(list.heading);
-  row.push_back("EFFECTS");
-  return row;
+const StyleColumn& columnOf(const std::string& option, const std::string& name) {
+  std::vector<std::string> names;
+  std::vector<Text> known;
+  for (const StyleColumn& column : styleColumns()) {
+    if (column.name == name) return column;
+    names.push_back(column.name);
+    known.push_back(fromUtf8(column.name));
+  }
+  throw WrongUse(fmt::format("{}: {} is none of {}{}", option, inQuotes(name), fmt::join(names, ", "),
+                             nearNameHint(fromUtf8(name), {known.begin(), known.end()})));
 }
 
-Row rowOf(KoStyleStyle* style) {
-  Row row{kindText(Style_type(style)), toUtf8(Style_name(style)), toUtf8(Style_id(style)),
-          fmt::format("{}", fmt::join(languages(style), ", "))};
-  for (const TextList& list : textLists())
-    if (list.heading) row.push_back(fmt::format("{}", fmt::join(values(list, style), ", ")));
-  row.push_back(fmt::format("{}", Style_numAudioEffect(style) + Style_numMidiEffect(style)));
-  for (std::string& cell : row) cell = printable(cell);
-  return row;
+std::vector<StyleColumn> columnsOf(const std::vector<std::string>& names) {
+  std::vector<StyleColumn> columns;
+  for (const std::string& name : names) {
+    columns.push_back(columnOf("--columns", name));
+    columns.back().importance = 0;
+  }
+  if (!names.empty()) return columns;
+  for (const StyleColumn& column : styleColumns())
+    if (column.isUsual) columns.push_back(column);
+  return columns;
 }
 
-std::string listText(const Listing& listing) {
-  std::vector<Row> rows{headings()};
-  for (KoStyleStyle* style : listing.styles) rows.push_back(rowOf(style));
-  std::string text = table(rows);
-  const auto addRefusal = [&](const std::string& path, const std::string& why) {
-    text += fmt::format("{}: {}\n", printable(path), printable(why));
-  };
+std::string tableText(const Listing& listing, const ListOptions& options) {
+  const std::vector<StyleColumn> chosen = columnsOf(options.columns);
+  std::vector<TableColumn> columns;
+  for (const StyleColumn& column : chosen) columns.push_back({column.heading, column.importance});
+  std::vector<Row> rows;
+  for (KoStyleStyle* style : listing.styles) {
+    Row row;
+    for (const StyleColumn& column : chosen) row.push_back(printable(cellOf(column, style)));
+    rows.push_back(std::move(row));
+  }
+  return table(columns, rows, options.wide ? std::nullopt : outputWidth());
+}
+
+std::string listText(const Listing& listing, const ListOptions& options) {
+  std::string text = tableText(listing, options);
   if (!listing.allRead()) text += "\nRefused:\n";
-  for (KoStyleCreationResult* result : listing.refused)
-    addRefusal(pathToUtf8(StyleCreationResult_filePath(result)), reason(result));
-  for (const fs::path& path : listing.unopened) addRefusal(shownPath(path), "cannot be opened");
+  for (KoStyleCreationResult* result : listing.refused) {
+    const std::string file = pathToUtf8(StyleCreationResult_filePath(result));
+    text += printable(refusal(file, result, listing.allStyles)) + '\n';
+  }
+  for (const fs::path& path : listing.unopened) text += printable(whyUnopened(path)) + '\n';
   return text;
 }
 
 int list(const ListOptions& options) {
-  requireExisting(options.directories);
-  const Manager manager(options.directories);
+  const StyleDirectories& directories = options.directories;
+  if (!directories.system && !directories.user) throw WrongUse("--system or --user is required");
+  requireExisting(directories);
+  const StyleColumn* const key = options.sort.empty() ? nullptr : &columnOf("--sort", options.sort);
+  const Manager manager(directories);
   const auto results = manager.results();
-  const Listing listing{manager.styles(), refusals(results),
-                        unopenedFiles(options.directories, results)};
-  const auto write = options.json ? listJson : listText;
-  fmt::print("{}", write(listing));
+  Listing listing{{}, manager.styles(), refusals(results), unopenedFiles(directories, results)};
+  for (KoStyleStyle* style : listing.allStyles)
+    if (options.filter.matches(style)) listing.styles.push_back(style);
+  if (key) sortStyles(listing.styles, *key);
+  print(options.json ? listJson(listing) : listText(listing, options));
   return listing.allRead() ? exitOk : exitRefused;
 }
 
@@ -79,15 +109,30 @@ void addListCommand(CLI::App& app, Command& chosen) {
   const auto options = std::make_shared<ListOptions>();
   CLI::App* command = app.add_subcommand("list", "Lists the styles of directories");
   addDirectoryOptions(*command, options->directories);
-  command->get_option("--system")->required();
+  addFilterOptions(*command, options->filter);
+  command->add_option("--columns", options->columns, "Columns to be shown, separated by commas")
+      ->delimiter(',')
+      ->allow_extra_args(false)
+      ->type_name("NAMES");
+  command->add_option("--sort", options->sort, "Column by which the styles are sorted")
+      ->type_name("NAME");
+  command->add_flag("--wide", options->wide, "Leave no column out and cut no text")
+      ->disable_flag_override();
   command->add_flag("--json", options->json, "Print JSON, with effects and parameters")
       ->disable_flag_override();
   command->footer(
-      R"(Files that were refused follow the styles, each with the reason; the exit code is 1 then.
+      R"(On a terminal columns are left out and texts cut until a line fits. Columns are kind, name, id,
+languages, singer-groups, singer-ids, genres, sub-genres, colors, effects, vendor and path. Without --sort
+the styles stand in the order in which they are read. Of filters every one has to match, and of one that
+is repeated one value.
+
+Files that were refused follow the styles, each with the reason; the exit code is 1 then.
 
 Examples:
-  kostyle list --system styles/system
-  kostyle list --system styles/system --user styles/user --user-extra more --json)");
+  kostyle list --user styles/user
+  kostyle list --system styles/system --genre House --genre Techno --sort name
+  kostyle list --system styles/system --columns name,path --text night
+  kostyle list --system styles/system --user styles/user --json)");
   command->callback([options, &chosen] { chosen = [options] { return list(*options); }; });
 }
 

@@ -1,15 +1,18 @@
 #include <CLI/CLI.hpp>
+#include <chrono>
 #include <memory>
 
 #include "basics/failure.h"
 #include "basics/paths.h"
 #include "commands/commands.h"
 #include "reading/manager.h"
+#include "writing/folder_lock.h"
 #include "writing/mutable_style.h"
 #include "writing/notices.h"
 #include "writing/requested_change.h"
 #include "writing/saving.h"
 #include "writing/style_edits.h"
+#include "writing/waiting.h"
 
 namespace tool {
 namespace {
@@ -17,12 +20,14 @@ namespace {
 struct NewOptions {
   StyleDirectories directories;
   StyleEdits edits;
+  unsigned secondsToWait = usualSecondsToWait;
 };
 
 int create(const NewOptions& options) {
   requireExistingButUser(options.directories);
   MissingDirectories made(*options.directories.user);
   const Manager manager(options.directories);
+  const FolderLock lock(*options.directories.user, std::chrono::seconds(options.secondsToWait));
   const StyleContent content = requestedChange(options.edits, {}).after;
   MutableStyle mutableStyle(manager);
   mutableStyle.setName(content.name);
@@ -41,6 +46,7 @@ void addNewCommand(CLI::App& app, Command& chosen) {
   addDirectoryOptions(*command, options->directories);
   command->get_option("--user")->required();
   addCreationOptions(*command, options->edits);
+  addWaitOption(*command, options->secondsToWait);
   command->footer(
       R"(Prints the identifier and the path of the new file. The user directory is created when missing.
 
@@ -48,7 +54,7 @@ A VALUE without fraction and exponent is an int, another number a float, anythin
 otherwise. When both chains have an effect, audio:EFFECT.NAME and midi:EFFECT.NAME tell them apart.
 
 Examples:
-  kostyle new --user styles/user --name "Night drive" --language 0 --genre Synthwave
+  kostyle new --user styles/user --name "Night drive" --language 0 --genre Synthwave \
     --audio-effect Filter --param Filter.cutoff=0.4 --param Filter.poles=4 --param Filter.mode=low
   kostyle new --user styles/user --name Steps --midi-effect Arp --param Arp.pattern:text=1221 --pretty)");
   command->callback([options, &chosen] { chosen = [options] { return create(*options); }; });

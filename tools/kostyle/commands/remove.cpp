@@ -1,30 +1,59 @@
 #include <fmt/format.h>
-#include <kostyle/helpers.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iostream>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "basics/failure.h"
+#include "basics/output.h"
+#include "basics/terminal.h"
 #include "basics/text.h"
 #include "commands/commands.h"
-#include "reading/manager.h"
+#include "writing/removing.h"
+#include "writing/settled_styles.h"
+#include "writing/waiting.h"
 
 namespace tool {
 namespace {
 
 struct RemoveOptions {
-  std::string id;
+  std::vector<std::string> ids;
   StyleDirectories directories;
+  bool yes = false;
+  unsigned secondsToWait = usualSecondsToWait;
 };
+
+// Anything but a yes is a no.
+bool isWanted(const RemovableFile& file) {
+  printOnStderr(fmt::format("Remove {}? [y/N] ", file.shown()));
+  std::string answer;
+  if (!std::getline(std::cin, answer)) printOnStderr("\n");
+  return answer == "y" || answer == "Y" || answer == "yes";
+}
+
+std::vector<Text> idsOf(const RemoveOptions& options) {
+  std::vector<Text> ids;
+  for (const std::string& argument : options.ids) {
+    Text id = fromUtf8(argument);
+    if (std::find(ids.begin(), ids.end(), id) == ids.end()) ids.push_back(std::move(id));
+  }
+  return ids;
+}
 
 int remove(const RemoveOptions& options) {
   requireExisting(options.directories);
-  const Manager manager(options.directories);
-  KoStyleStyle* style = manager.userStyle(fromUtf8(options.id));
-  const std::string path = pathToUtf8(Style_path(style));
-  const int error = UserStyle_remove(style);
-  if (error != KOSTYLE_OK) throw Refused(fmt::format("{}: {}", path, KoStyle_codeText(error)));
+  const std::chrono::seconds limit(options.secondsToWait);
+  const std::vector<Text> ids = idsOf(options);
+  const auto manager = settledStyles(options.directories, ids, limit);
+  // All of them are found before the first is removed.
+  std::vector<RemovableFile> files;
+  for (const Text& id : ids) files.emplace_back(manager->userStyle(id));
+  const bool asks = !options.yes && canAsk();
+  for (const RemovableFile& file : files)
+    if (!asks || isWanted(file)) file.remove(limit);
   return exitOk;
 }
 
@@ -32,14 +61,18 @@ int remove(const RemoveOptions& options) {
 
 void addRemoveCommand(CLI::App& app, Command& chosen) {
   const auto options = std::make_shared<RemoveOptions>();
-  CLI::App* command = app.add_subcommand("remove", "Deletes a user style and its file");
-  command->add_option("ID", options->id, "Identifier of the style")->required();
+  CLI::App* command = app.add_subcommand("remove", "Deletes user styles and their files");
+  command->add_option("ID", options->ids, "Identifier of a style")->required();
   addDirectoryOptions(*command, options->directories);
   command->get_option("--user")->required();
-  command->footer(R"(Prints nothing.
+  command->add_flag("-y,--yes", options->yes, "Do not ask, also on a terminal")
+      ->disable_flag_override();
+  addWaitOption(*command, options->secondsToWait);
+  command->footer(R"(Prints nothing. On a terminal it asks for each style; anything but y is a no.
+When one of the styles is not found, none is removed.
 
-Example:
-  kostyle remove 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user)");
+Examples:
+  kostyle remove 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --yes)");
   command->callback([options, &chosen] { chosen = [options] { return remove(*options); }; });
 }
 

@@ -8,7 +8,9 @@
 #include "commands/commands.h"
 #include "reading/manager.h"
 #include "writing/changing.h"
+#include "writing/settled_styles.h"
 #include "writing/style_edits.h"
+#include "writing/waiting.h"
 
 namespace tool {
 namespace {
@@ -17,15 +19,16 @@ struct SetOptions {
   std::string id;
   StyleDirectories directories;
   StyleEdits edits;
-  unsigned secondsToWait = 10;
+  unsigned secondsToWait = usualSecondsToWait;
 };
 
 int change(const SetOptions& options) {
   if (changesNothing(options.edits)) throw WrongUse("nothing is to be changed");
   requireExisting(options.directories);
-  const Manager manager(options.directories);
-  changeStyle(manager.userStyle(fromUtf8(options.id)), options.edits,
-              std::chrono::seconds(options.secondsToWait));
+  const std::chrono::seconds limit(options.secondsToWait);
+  const Text id = fromUtf8(options.id);
+  const auto manager = settledStyles(options.directories, {id}, limit);
+  changeStyle(manager->userStyle(id), options.edits, limit);
   return exitOk;
 }
 
@@ -38,11 +41,7 @@ void addSetCommand(CLI::App& app, Command& chosen) {
   addDirectoryOptions(*command, options->directories);
   command->get_option("--user")->required();
   addChangeOptions(*command, options->edits);
-  command
-      ->add_option("--wait", options->secondsToWait,
-                   "How long to wait for another program that uses the file, 10 when not given")
-      ->type_name("SECONDS")
-      ->check(CLI::Range(0U, 86400U));
+  addWaitOption(*command, options->secondsToWait);
   command->footer(
       R"(Prints the identifier and the path of the file. What is deleted is deleted before anything is added.
 Everything else in the file stays byte for byte; with --reformat, what is lost is named on stderr.
@@ -52,8 +51,8 @@ with audio:EFFECT.NAME or midi:EFFECT.NAME so is the effect.
 
 Examples:
   kostyle set 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --name "Late drive"
-  kostyle set 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --delete-genre Pop
-    --add-genre Rock --delete-audio-effect Delay --param Reverb.mix=0.5 --delete-param Reverb.decay
+  kostyle set 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --delete-genre Pop \
+    --add-genre Rock --param Reverb.mix=0.5 --audio-effect Delay --param Delay.time=0.3
   kostyle set 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --add --param Reverb.size:text=7)");
   command->callback([options, &chosen] { chosen = [options] { return change(*options); }; });
 }

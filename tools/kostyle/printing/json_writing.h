@@ -1,4 +1,4 @@
-// JSON that the tool prints: indented, valid UTF-8 whatever its texts hold.
+// JSON that the tool prints: indented, valid UTF-8 and harmless for a terminal whatever its texts hold.
 #pragma once
 
 #include <rapidjson/prettywriter.h>
@@ -9,14 +9,16 @@
 #include <string_view>
 
 #include "basics/text.h"
+#include "editing/new_json.h"
 
 namespace tool {
 
 using JsonWriter = rapidjson::PrettyWriter<rapidjson::StringBuffer>;
 
+/// A key too.
 inline void writeText(JsonWriter& writer, std::string_view utf8) {
-  const std::string valid = toUtf8(fromUtf8(utf8));
-  writer.String(valid.data(), static_cast<rapidjson::SizeType>(valid.size()));
+  const std::string json = printable(jsonString(fromUtf8(toUtf8(fromUtf8(utf8))), false));
+  writer.RawValue(json.data(), json.size(), rapidjson::kStringType);
 }
 
 inline void writeMember(JsonWriter& writer, const char* key, std::string_view utf8) {

@@ -62,7 +62,8 @@ void writeAttributes(JsonWriter& writer, KoStyleStyle* style) {
   }
 }
 
-void writeStyle(JsonWriter& writer, KoStyleStyle* style, const StyleSource& source) {
+void writeStyle(JsonWriter& writer, KoStyleStyle* style) {
+  const StyleSource source = sourceOf(style);
   writer.StartObject();
   writeMember(writer, "kind", source.kind);
   writeMember(writer, "name", toUtf8(Style_name(style)));
@@ -88,10 +89,15 @@ void writeParseError(JsonWriter& writer, KoStyleCreationResult* result) {
   writeMember(writer, "text", KoStyle_parseErrorText(parseError));
   writer.Key("offset");
   writer.Uint64(StyleCreationResult_parseErrorOffset(result));
+  if (const auto place = syntaxErrorPlace(result)) {
+    writeMember(writer, "line", place->line);
+    writeMember(writer, "column", place->column);
+  }
   writer.EndObject();
 }
 
-void writeRefusal(JsonWriter& writer, KoStyleCreationResult* result) {
+void writeRefusal(JsonWriter& writer, KoStyleCreationResult* result,
+                  const std::vector<KoStyleStyle*>& styles) {
   const int code = StyleCreationResult_error(result);
   writer.StartObject();
   writeMember(writer, "kind", kindText(StyleCreationResult_type(result)));
@@ -101,22 +107,13 @@ void writeRefusal(JsonWriter& writer, KoStyleCreationResult* result) {
   writeMember(writer, "text", KoStyle_codeText(code));
   writeMember(writer, "id", toUtf8(StyleCreationResult_id(result)));
   writeMember(writer, "jsonPath", toUtf8(StyleCreationResult_jsonPath(result)));
+  if (const std::string owner = ownerOfIdentifier(result, styles); !owner.empty())
+    writeMember(writer, "owner", owner);
   if (code == KOSTYLE_ERROR_JSON_SYNTAX) writeParseError(writer, result);
   writer.EndObject();
 }
 
-std::string textOf(const rapidjson::StringBuffer& buffer) {
-  return std::string(buffer.GetString(), buffer.GetSize()) + '\n';
-}
-
 }  // namespace
-
-std::string styleJson(KoStyleStyle* style, const StyleSource& source) {
-  rapidjson::StringBuffer buffer;
-  JsonWriter writer(buffer);
-  writeStyle(writer, style, source);
-  return textOf(buffer);
-}
 
 std::string listJson(const Listing& listing) {
   rapidjson::StringBuffer buffer;
@@ -128,14 +125,13 @@ std::string listJson(const Listing& listing) {
     writer.EndArray();
   };
   writer.StartObject();
-  writeArray("styles", listing.styles,
-             [&](KoStyleStyle* style) { writeStyle(writer, style, sourceOf(style)); });
+  writeArray("styles", listing.styles, [&](KoStyleStyle* style) { writeStyle(writer, style); });
   writeArray("refused", listing.refused,
-             [&](KoStyleCreationResult* result) { writeRefusal(writer, result); });
+             [&](KoStyleCreationResult* result) { writeRefusal(writer, result, listing.allStyles); });
   writeArray("unopened", listing.unopened,
              [&](const fs::path& path) { writeText(writer, shownPath(path)); });
   writer.EndObject();
-  return textOf(buffer);
+  return linesOf(buffer);
 }
 
 }  // namespace tool

@@ -11,19 +11,17 @@
 
 namespace tool {
 
-/// One style as an object.
-std::string styleJson(KoStyleStyle* style, const StyleSource& source);
-
 /// What the directories hold.
 struct Listing {
-  std::vector<KoStyleStyle*> styles;
+  std::vector<KoStyleStyle*> styles;  // those that are wanted
+  std::vector<KoStyleStyle*> allStyles;
   std::vector<KoStyleCreationResult*> refused;
   std::vector<fs::path> unopened;
 
   bool allRead() const { return refused.empty() && unopened.empty(); }
 };
 
-/// An object with these three lists.
+/// An object with the lists of styles, refused and unopened files.
 std::string listJson(const Listing& listing);
 
 }  // namespace tool

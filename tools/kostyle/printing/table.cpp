@@ -1,55 +1,104 @@
 #include "printing/table.h"
 
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
-#include "basics/text.h"
+#include "basics/text_width.h"
 
 namespace tool {
 namespace {
 
-struct Range {
-  char32_t first;
-  char32_t last;
-};
+constexpr std::size_t gap = 2;
+constexpr std::size_t leastWidth = 12;  // of a column that is cut, unless there is no other way
 
-constexpr Range combining[] = {{0x300, 0x36F},   {0x483, 0x489},   {0x591, 0x5BD},   {0x610, 0x61A},
-                               {0x64B, 0x65F},   {0x941, 0x948},   {0xE34, 0xE3A},   {0xE47, 0xE4E},
-                               {0x200B, 0x200F}, {0x20D0, 0x20FF}, {0xFE00, 0xFE0F}, {0xFE20, 0xFE2F}};
-constexpr Range wide[] = {{0x1100, 0x115F},   {0x2E80, 0x303E},  {0x3041, 0xA4CF}, {0xAC00, 0xD7A3},
-                          {0xF900, 0xFAFF},   {0xFE30, 0xFE6F},  {0xFF00, 0xFF60}, {0xFFE0, 0xFFE6},
-                          {0x1F300, 0x1FAFF}, {0x20000, 0x3FFFD}};
+using Widths = std::vector<std::size_t>;  // 0 for a column that is left out
 
-template <std::size_t size>
-bool contains(const Range (&ranges)[size], char32_t codePoint) {
-  return std::any_of(std::begin(ranges), std::end(ranges), [=](const Range& range) {
-    return codePoint >= range.first && codePoint <= range.last;
-  });
+Widths naturalWidths(const std::vector<TableColumn>& columns, const std::vector<Row>& rows) {
+  Widths widths;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    std::size_t width = widthOf(columns[i].heading);
+    for (const Row& row : rows) width = std::max(width, widthOf(row[i]));
+    widths.push_back(width);
+  }
+  return widths;
+}
+
+// No column is cut to less than its heading, or so little that nothing can be told by it.
+Widths leastWidths(const std::vector<TableColumn>& columns, const Widths& natural) {
+  Widths least;
+  for (std::size_t i = 0; i < columns.size(); ++i)
+    least.push_back(std::min(natural[i], std::max(leastWidth, widthOf(columns[i].heading))));
+  return least;
+}
+
+Widths capped(const Widths& natural, const Widths& least, std::size_t cap) {
+  Widths result;
+  for (std::size_t i = 0; i < natural.size(); ++i)
+    result.push_back(std::min(natural[i], std::max(cap, least[i])));
+  return result;
+}
+
+std::size_t lineWidth(const Widths& widths) {
+  const auto shown =
+      widths.size() - static_cast<std::size_t>(std::count(widths.begin(), widths.end(), 0U));
+  return std::accumulate(widths.begin(), widths.end(), std::size_t{0}) +
+         (shown == 0 ? 0 : (shown - 1) * gap);
+}
+
+// Leaves out the least important column; false when none may be.
+bool leaveOneOut(const std::vector<TableColumn>& columns, Widths& natural) {
+  std::size_t least = columns.size();
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    if (natural[i] == 0 || columns[i].importance == 0) continue;
+    if (least == columns.size() || columns[i].importance > columns[least].importance) least = i;
+  }
+  if (least == columns.size()) return false;
+  natural[least] = 0;
+  return true;
+}
+
+Widths fittingWidths(const std::vector<TableColumn>& columns, Widths natural, std::size_t width) {
+  while (lineWidth(leastWidths(columns, natural)) > width && leaveOneOut(columns, natural)) {
+  }
+  Widths least = leastWidths(columns, natural);
+  if (lineWidth(least) > width) least.assign(columns.size(), 0);
+  std::size_t cap = *std::max_element(natural.begin(), natural.end());
+  while (cap > 1 && lineWidth(capped(natural, least, cap)) > width) --cap;
+  Widths result = capped(natural, least, cap);
+  // What is left over goes to the first columns that were cut.
+  for (std::size_t i = 0; i < result.size() && lineWidth(result) < width; ++i)
+    result[i] = std::min(natural[i], result[i] + width - lineWidth(result));
+  return result;
+}
+
+std::string line(const Row& row, const Widths& widths) {
+  std::string text;
+  std::size_t spaces = 0;
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    if (widths[i] == 0) continue;
+    const std::string cell = cutTo(widths[i], row[i]);
+    if (!cell.empty()) {
+      text.append(spaces, ' ');
+      text += cell;
+      spaces = 0;
+    }
+    spaces += widths[i] - widthOf(cell) + gap;
+  }
+  return text + '\n';
 }
 
 }  // namespace
 
-std::size_t displayWidth(std::string_view utf8) {
-  std::size_t width = 0;
-  while (!utf8.empty()) {
-    const char32_t codePoint = takeCodePoint(utf8);
-    width += contains(combining, codePoint) ? 0 : contains(wide, codePoint) ? 2 : 1;
-  }
-  return width;
-}
-
-std::string table(const std::vector<Row>& rows) {
-  std::vector<std::size_t> widths(rows.empty() ? 0 : rows.front().size());
-  for (const Row& row : rows)
-    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], displayWidth(row[i]));
-  constexpr std::size_t gap = 2;
-  std::string text;
-  for (const Row& row : rows) {
-    std::string line;
-    for (std::size_t i = 0; i < row.size(); ++i)
-      line += row[i] + std::string(widths[i] - displayWidth(row[i]) + gap, ' ');
-    line.erase(line.find_last_not_of(' ') + 1);
-    text += line + '\n';
-  }
+std::string table(const std::vector<TableColumn>& columns, const std::vector<Row>& rows,
+                  std::optional<std::size_t> width) {
+  if (columns.empty()) return {};
+  Widths widths = naturalWidths(columns, rows);
+  if (width) widths = fittingWidths(columns, std::move(widths), *width);
+  Row headings;
+  for (const TableColumn& column : columns) headings.push_back(column.heading);
+  std::string text = line(headings, widths);
+  for (const Row& row : rows) text += line(row, widths);
   return text;
 }
 

@@ -6,16 +6,16 @@ namespace tool {
 
 const TextLists& textLists() {
   static const TextLists lists{{
-      {"singer-group", "singer groups", "SINGER GROUPS", "singerGroups", "empty", Style_numSingerGroup,
+      {"singer-group", "singer groups", "singerGroups", "empty", Style_numSingerGroup,
        Style_singerGroup, MutableStyle_addSingerGroup, MutableStyle_deleteSingerGroup},
-      {"singer-id", "singer ids", nullptr, "singerIDs", "not 16 UTF-16 units long", Style_numSingerID,
+      {"singer-id", "singer ids", "singerIDs", "not 16 UTF-16 units long", Style_numSingerID,
        Style_singerID, MutableStyle_addSingerID, MutableStyle_deleteSingerID},
-      {"genre", "genres", "GENRES", "genres", "empty", Style_numGenre, Style_genre,
-       MutableStyle_addGenre, MutableStyle_deleteGenre},
-      {"sub-genre", "sub-genres", "SUB-GENRES", "subGenres", "empty", Style_numSubGenre, Style_subGenre,
+      {"genre", "genres", "genres", "empty", Style_numGenre, Style_genre, MutableStyle_addGenre,
+       MutableStyle_deleteGenre},
+      {"sub-genre", "sub-genres", "subGenres", "empty", Style_numSubGenre, Style_subGenre,
        MutableStyle_addSubGenre, MutableStyle_deleteSubGenre},
-      {"color", "colors", "COLORS", "colors", "empty", Style_numColor, Style_color,
-       MutableStyle_addColor, MutableStyle_deleteColor},
+      {"color", "colors", "colors", "empty", Style_numColor, Style_color, MutableStyle_addColor,
+       MutableStyle_deleteColor},
   }};
   return lists;
 }

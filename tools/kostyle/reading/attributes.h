@@ -13,7 +13,6 @@ namespace tool {
 struct TextList {
   const char* option;  // --genre, --add-genre, --delete-genre
   const char* title;
-  const char* heading;  // of its column in a listing; null when it has none
   const char* key;      // in JSON
   const char* mistake;  // why a text may be refused
   std::size_t (*count)(KoStyleStyle*);

@@ -3,7 +3,16 @@
 #include <fmt/format.h>
 #include <kostyle/helpers.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <new>
+#include <string>
+#include <system_error>
+
+#include "basics/common_options.h"
 #include "basics/failure.h"
+#include "reading/unknown_identifier.h"
+#include "reading/unopened.h"
 
 namespace tool {
 namespace {
@@ -28,9 +37,31 @@ class PathList {
   std::vector<const KoStyleChar*> pointers_;
 };
 
+std::uintmax_t sizeOf(const fs::path& file) {
+  std::error_code error;
+  const std::uintmax_t size = fs::file_size(file, error);
+  return error ? 0 : size;
+}
+
+// The library would read it whole.
+void requireNoLargeFile(const std::set<fs::path>& files) {
+  for (const fs::path& file : files)
+    if (sizeOf(file) > commonOptions().maxSize)
+      throw Refused(fmt::format("{}: {}", shownPath(file), tooLarge()));
+}
+
+[[noreturn]] void refuseForMemory(const std::set<fs::path>& files) {
+  const auto isSmaller = [](const fs::path& a, const fs::path& b) { return sizeOf(a) < sizeOf(b); };
+  const auto largest = std::max_element(files.begin(), files.end(), isSmaller);
+  throw NotEnoughMemory(
+      fmt::format("there is not enough memory for the styles{}",
+                  largest == files.end() ? "" : "; the largest file is " + shownPath(*largest)));
+}
+
 }  // namespace
 
-Manager::Manager(const StyleDirectories& directories) {
+Manager::Manager(const StyleDirectories& directories) : directories_(directories) {
+  requireNoLargeFile(styleFiles(directories));
   // A set that is not wanted is not read; its directory only has to exist.
   const fs::path system = directories.system ? *directories.system : existingPart(*directories.user);
   const fs::path user = directories.user ? *directories.user : system;
@@ -42,23 +73,29 @@ Manager::Manager(const StyleDirectories& directories) {
                                userExtra.data(), userExtra.size(), &error);
   if (!handle_) {
     const bool userFails = error == KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE;
-    throw Refused(fmt::format("{}: {}", shownPath(userFails ? user : system), KoStyle_codeText(error)));
+    std::error_code why;  // the library does not tell the system's reason
+    if (userFails) fs::create_directories(user, why);
+    throw Refused(fmt::format("{}: {}{}{}", shownPath(userFails ? user : system), KoStyle_codeText(error),
+                              why ? ": " : "", why ? why.message() : ""));
   }
   try {
-    read(directories);
+    read();
+  } catch (const std::bad_alloc&) {
+    StyleManager_destroy(handle_);
+    refuseForMemory(styleFiles(directories));
   } catch (...) {
     StyleManager_destroy(handle_);
     throw;
   }
 }
 
-void Manager::read(const StyleDirectories& directories) {
+void Manager::read() {
   const auto check = [](int error, const fs::path& path) {
     if (error != KOSTYLE_OK)
       throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
   };
-  if (directories.system) check(StyleManager_readSystemStyles(handle_), *directories.system);
-  if (directories.user) check(StyleManager_readUserStyles(handle_), *directories.user);
+  if (directories_.system) check(StyleManager_readSystemStyles(handle_), *directories_.system);
+  if (directories_.user) check(StyleManager_readUserStyles(handle_), *directories_.user);
 }
 
 std::vector<KoStyleStyle*> Manager::styles() const {
@@ -79,10 +116,18 @@ std::vector<KoStyleCreationResult*> Manager::results() const {
   return results;
 }
 
+bool Manager::has(const std::vector<Text>& ids) const {
+  const auto all = styles();
+  return std::all_of(ids.begin(), ids.end(), [&](const Text& id) {
+    return std::any_of(all.begin(), all.end(),
+                       [&](KoStyleStyle* style) { return id == Style_id(style); });
+  });
+}
+
 KoStyleStyle* Manager::style(TextView id) const {
   for (KoStyleStyle* style : styles())
     if (id == Style_id(style)) return style;
-  throw Refused(fmt::format("{}: no style has this identifier", toUtf8(id)));
+  throw Refused(whyUnknown(*this, id));
 }
 
 KoStyleStyle* Manager::userStyle(TextView id) const {

@@ -13,7 +13,8 @@ namespace tool {
 class Manager {
  public:
   /// Reads the sets whose directory is given, at least one of the two, system styles first. A user
-  /// directory that is missing is created. Throws Refused.
+  /// directory that is missing is created. Throws Refused, also when a file is larger than --max-size,
+  /// which the library does not know.
   explicit Manager(const StyleDirectories& directories);
   Manager(const Manager&) = delete;
   Manager& operator=(const Manager&) = delete;
@@ -27,15 +28,22 @@ class Manager {
   /// The records of all files that were read, in the same order.
   std::vector<KoStyleCreationResult*> results() const;
 
-  /// The style with an identifier; throws Refused when there is none.
+  const StyleDirectories& directories() const { return directories_; }
+
+  /// Whether all identifiers are those of styles.
+  bool has(const std::vector<Text>& ids) const;
+
+  /// The style with an identifier; throws Refused when there is none, and says which file stands
+  /// behind that.
   KoStyleStyle* style(TextView id) const;
 
   /// The same among the user styles, which alone may be changed.
   KoStyleStyle* userStyle(TextView id) const;
 
  private:
-  void read(const StyleDirectories& directories);
+  void read();
 
+  StyleDirectories directories_;
   KoStyleManager* handle_;
 };
 

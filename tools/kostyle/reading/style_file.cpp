@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <system_error>
-
 #include "basics/failure.h"
 #include "basics/files.h"
 #include "reading/reasons.h"
@@ -15,12 +13,8 @@ constexpr const char* copyName = "style.kostyle";
 
 }  // namespace
 
-StyleFile::StyleFile(const fs::path& path, const TemporaryDirectory& directory) {
-  std::error_code error;
-  fs::copy_file(path, directory.path() / copyName, error);
-  if (error) throw Refused(fmt::format("{}: {}", shownPath(path), error.message()));
-  read(path, directory.path());
-}
+StyleFile::StyleFile(const fs::path& path, const TemporaryDirectory& directory)
+    : StyleFile(path, readBytes(path), directory) {}
 
 StyleFile::StyleFile(const fs::path& path, std::string_view bytes,
                      const TemporaryDirectory& directory) {
@@ -32,11 +26,14 @@ StyleFile::StyleFile(const fs::path& path, std::string_view bytes,
 void StyleFile::read(const fs::path& path, const fs::path& directory) {
   StyleDirectories directories;
   directories.system = directory;
-  manager_ = std::make_unique<Manager>(directories);
+  try {
+    manager_ = std::make_unique<Manager>(directories);
+  } catch (const NotEnoughMemory&) {  // which would name the copy
+    throw NotEnoughMemory(fmt::format("{}: there is not enough memory for the file", shownPath(path)));
+  }
   const auto results = manager_->results();
   if (results.empty()) throw Refused(fmt::format("{}: the file cannot be opened", shownPath(path)));
-  if (manager_->styles().empty())
-    throw Refused(fmt::format("{}: {}", shownPath(path), reason(results.front())));
+  if (manager_->styles().empty()) throw Refused(refusal(shownPath(path), results.front(), {}));
 }
 
 }  // namespace tool

@@ -16,7 +16,7 @@ class StyleFile {
   /// Throws Refused when the file cannot be read or holds no valid style. The directory is empty.
   explicit StyleFile(const fs::path& path, const TemporaryDirectory& directory = TemporaryDirectory());
 
-  /// The same for what a file holds, or is to hold.
+  /// The same for what a file holds, or is to hold; the path is for messages.
   StyleFile(const fs::path& path, std::string_view bytes,
             const TemporaryDirectory& directory = TemporaryDirectory());
 

@@ -1,10 +1,13 @@
 #include "reading/unopened.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <set>
 #include <string_view>
 #include <system_error>
 
+#include "basics/files.h"
 #include "basics/text.h"
 
 namespace tool {
@@ -31,6 +34,8 @@ void addStyleFiles(std::set<fs::path>& files, const fs::path& directory) {
   if (error) files.insert(directory);
 }
 
+}  // namespace
+
 std::set<fs::path> styleFiles(const StyleDirectories& directories) {
   std::vector<fs::path> all = directories.systemExtra;
   all.insert(all.end(), directories.userExtra.begin(), directories.userExtra.end());
@@ -41,14 +46,18 @@ std::set<fs::path> styleFiles(const StyleDirectories& directories) {
   return files;
 }
 
-}  // namespace
-
 std::vector<fs::path> unopenedFiles(const StyleDirectories& directories,
                                     const std::vector<KoStyleCreationResult*>& results) {
   std::set<fs::path> files = styleFiles(directories);
   for (KoStyleCreationResult* result : results)
     files.erase(pathOf(TextView(StyleCreationResult_filePath(result))).lexically_normal());
   return {files.begin(), files.end()};
+}
+
+std::string whyUnopened(const fs::path& path) {
+  const std::error_code error = openingError(path);
+  return fmt::format("{}: cannot be opened{}{}", shownPath(path), error ? ": " : "",
+                     error ? error.message() : "");
 }
 
 }  // namespace tool

@@ -71,8 +71,8 @@ void changeStyle(KoStyleStyle* style, const StyleEdits& edits, std::chrono::mill
   const Text id = Style_id(style);
   const fs::path path = pathOf(TextView(Style_path(style)));
   const fs::path file = throughLinks(path);
-  requireWriteAccess(file);
   const FolderLock lock(file.parent_path(), limit);
+  requireWriteAccess(file);
   const std::string before = readBytes(file);
   const StyleContent content = contentOf(StyleFile(path, before).style());
   if (content.id != id)

@@ -1,21 +1,16 @@
 #include "writing/notices.h"
 
-#include <fmt/format.h>
-
-#include "basics/text.h"
+#include "basics/output.h"
 
 namespace tool {
 
 void noticeLosses(const Losses& losses) {
-  if (losses.emptyEffects)
-    fmt::print(stderr, "kostyle: notice: effects without parameters will not be read from the file\n");
-  if (losses.sameNames)
-    fmt::print(stderr,
-               "kostyle: notice: effects or parameters are lost: readers take their names for one\n");
+  if (losses.emptyEffects) notice("effects without parameters will not be read from the file");
+  if (losses.sameNames) notice("effects or parameters are lost: readers take their names for one");
 }
 
 void noticeLost(const std::vector<std::string>& parts) {
-  for (const std::string& part : parts) fmt::print(stderr, "kostyle: notice: {}\n", printable(part));
+  for (const std::string& part : parts) notice(part);
 }
 
 }  // namespace tool

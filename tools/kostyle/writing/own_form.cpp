@@ -4,6 +4,7 @@
 #include <kostyle/helpers.h>
 
 #include <algorithm>
+#include <system_error>
 
 #include "basics/failure.h"
 #include "basics/files.h"
@@ -28,7 +29,12 @@ std::string ownForm(const fs::path& path, const std::string& bytes, const StyleC
   MutableStyle_overwrite(style.handle(), after.id.c_str(), pretty, &error);
   if (error != KOSTYLE_OK)
     throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
-  return readBytes(rewritten);
+  std::string written = readBytes(rewritten);
+  // A full disk is no error to the library.
+  if (const std::error_code full = writingError(rewritten))
+    throw Refused(
+        fmt::format("{}: its new form cannot be written: {}", shownPath(path), full.message()));
+  return written;
 }
 
 StyleContent readBackOf(StyleContent content) {

@@ -35,8 +35,7 @@ bool contains(const std::vector<Element>& elements, const Element& element) {
 
 // The end of a message about a name that is not there.
 std::string meant(const std::string& name, const std::vector<Text>& known) {
-  const Text nearest = nearName(fromUtf8(name), {known.begin(), known.end()});
-  return nearest.empty() ? std::string() : fmt::format("; did you mean {}?", inQuotes(toUtf8(nearest)));
+  return nearNameHint(fromUtf8(name), {known.begin(), known.end()});
 }
 
 struct WorkingEffect {

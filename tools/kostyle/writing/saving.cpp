@@ -5,8 +5,10 @@
 
 #include <cmath>
 #include <exception>
+#include <system_error>
 
 #include "basics/failure.h"
+#include "basics/files.h"
 #include "basics/output.h"
 #include "basics/text.h"
 #include "reading/attributes.h"
@@ -49,9 +51,20 @@ void requireWritable(KoStyleParameter* parameter) {
                               inQuotes(toUtf8(Parameter_name(parameter)))));
 }
 
-// A full disk is no error to the library either.
+// A full disk is no error to the library either: the file ends too early, and the system is asked why.
+StyleFile writtenFile(const fs::path& path, const TemporaryDirectory& directory) {
+  try {
+    return StyleFile(path, directory);
+  } catch (const Refused&) {
+    if (const std::error_code error = writingError(path))
+      throw Refused(
+          fmt::format("{}: the file cannot be written: {}", shownPath(path), error.message()));
+    throw;
+  }
+}
+
 Losses readAgain(KoStyleStyle* style, const Counts& written, const TemporaryDirectory& directory) {
-  const StyleFile file(pathOf(TextView(Style_path(style))), directory);
+  const StyleFile file = writtenFile(pathOf(TextView(Style_path(style))), directory);
   const Counts read = countsOf(file.style(), &Chain::stored);
   const bool sameNames =
       read.effects < written.effects - written.emptyEffects || read.parameters < written.parameters;
@@ -83,7 +96,7 @@ void requireWritable(KoStyleStyle* style) {
 }
 
 void printWritten(TextView id, const fs::path& path) {
-  fmt::print("{}\t{}\n", printable(toUtf8(id)), printable(shownPath(path)));
+  print(fmt::format("{}\t{}\n", printable(toUtf8(id)), printable(shownPath(path))));
   flushOutput();
 }
 

@@ -2,15 +2,26 @@
 
 #include <fmt/format.h>
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <thread>
 #include <utility>
 
-#include "basics/text.h"
+#include "basics/output.h"
 
 namespace tool {
 
 using std::chrono::milliseconds;
+
+void addWaitOption(CLI::App& command, unsigned& seconds) {
+  command
+      .add_option(
+          "--wait", seconds,
+          fmt::format("How long to wait for another program that uses a file, {} when not given",
+                      usualSecondsToWait))
+      ->type_name("SECONDS")
+      ->check(CLI::Range(0U, 86400U));
+}
 
 Waiting::Waiting(milliseconds limit, std::string message)
     : limit_(limit), message_(std::move(message)) {}
@@ -21,7 +32,7 @@ bool Waiting::again() {
   const auto waited = std::chrono::duration_cast<milliseconds>(Clock::now() - start_);
   if (waited >= limit_) return false;
   if (waited >= moment && !message_.empty()) {
-    fmt::print(stderr, "kostyle: {}\n", printable(message_));
+    notice(message_);
     message_.clear();
   }
   std::this_thread::sleep_for(std::min(pause, limit_ - waited));

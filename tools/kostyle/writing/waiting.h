@@ -4,7 +4,16 @@
 #include <chrono>
 #include <string>
 
+namespace CLI {
+class App;
+}
+
 namespace tool {
+
+inline constexpr unsigned usualSecondsToWait = 10;
+
+/// Adds --wait.
+void addWaitOption(CLI::App& command, unsigned& seconds);
 
 class Waiting {
  public:
