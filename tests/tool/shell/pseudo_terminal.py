@@ -54,6 +54,7 @@ class Terminal:
         while self._read():
             if time.monotonic() > until:
                 self.process.kill()
+                self.process.wait()
                 raise AssertionError(f"no end: {self.text!r}")
         os.close(self.master)
         code = self.process.wait(LIMIT)
