@@ -89,6 +89,7 @@ TEST(CommandLine, IsQuietWhenAsked) {
       "--param", "E.x=1",  "--audio-effect",          "Bare"};
   EXPECT_THAT(runTool(create).err, HasSubstr("kostyle: notice: effects without parameters"));
   expectSuccess(runTool(create + Arguments{"--quiet"}));
+  expectSuccess(runTool(Arguments{"-q"} + create));
 }
 
 #if defined(_WIN32)

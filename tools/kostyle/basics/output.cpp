@@ -35,7 +35,7 @@ class BrokenPipesIgnored {
   BrokenPipesIgnored() = default;
   BrokenPipesIgnored(const BrokenPipesIgnored&) = delete;
   BrokenPipesIgnored& operator=(const BrokenPipesIgnored&) = delete;
-  ~BrokenPipesIgnored() { std::signal(SIGPIPE, before_); }
+  ~BrokenPipesIgnored() { static_cast<void>(std::signal(SIGPIPE, before_)); }
 
  private:
   void (*before_)(int) = std::signal(SIGPIPE, SIG_IGN);

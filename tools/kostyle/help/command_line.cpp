@@ -53,6 +53,7 @@ void fill(CLI::App& app, Command& chosen) {
   app.set_version_flag("-V,--version", "kostyle " KOSTYLE_VERSION_STRING, "Print the version and end");
   app.require_subcommand(0, 1);
   app.footer(footer);
+  addCommonOptions(app);
   for (const AddCommand add : allCommands) add(app, chosen);
   for (CLI::App* command : app.get_subcommands({})) addCommonOptions(*command);
 }

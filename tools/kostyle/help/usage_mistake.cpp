@@ -31,8 +31,9 @@ std::string unknownOption(const CommandDescription& command, const std::string& 
   for (const OptionDescription& option : command.options)
     known.insert(known.end(), option.names.begin(), option.names.end());
   const std::string nearest = hint(name, known);
-  return fmt::format("{} has no option {}{}", command.name, name,
-                     nearest.empty() ? fmt::format("; \"{} --help\" lists them", command.name) : nearest);
+  return fmt::format(
+      "{} has no option {}{}", command.name, name,
+      nearest.empty() ? fmt::format("; \"{} --help\" lists them", command.name) : nearest);
 }
 
 std::string unknownCommand(const CommandDescription& tool, const std::string& name) {

@@ -75,8 +75,8 @@ Manager::Manager(const StyleDirectories& directories) : directories_(directories
     const bool userFails = error == KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE;
     std::error_code why;  // the library does not tell the system's reason
     if (userFails) fs::create_directories(user, why);
-    throw Refused(fmt::format("{}: {}{}{}", shownPath(userFails ? user : system), KoStyle_codeText(error),
-                              why ? ": " : "", why ? why.message() : ""));
+    throw Refused(fmt::format("{}: {}{}{}", shownPath(userFails ? user : system),
+                              KoStyle_codeText(error), why ? ": " : "", why ? why.message() : ""));
   }
   try {
     read();
