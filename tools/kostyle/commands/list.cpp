@@ -67,6 +67,7 @@ std::vector<StyleColumn> columnsOf(const std::vector<std::string>& names) {
 std::string tableText(const Listing& listing, const ListOptions& options) {
   const std::vector<StyleColumn> chosen = columnsOf(options.columns);
   std::vector<TableColumn> columns;
+  columns.reserve(chosen.size());
   for (const StyleColumn& column : chosen) columns.push_back({column.heading, column.importance});
   std::vector<Row> rows;
   for (KoStyleStyle* style : listing.styles) {

@@ -50,6 +50,7 @@ int remove(const RemoveOptions& options) {
   const auto manager = settledStyles(options.directories, ids, limit);
   // All of them are found before the first is removed.
   std::vector<RemovableFile> files;
+  files.reserve(ids.size());
   for (const Text& id : ids) files.emplace_back(manager->userStyle(id));
   const bool asks = !options.yes && canAsk();
   for (const RemovableFile& file : files)

@@ -79,6 +79,7 @@ std::string argumentsCase(const CommandDescription& command) {
 
 std::string bashCompletion(const CommandDescription& tool) {
   std::vector<std::string> commands;
+  commands.reserve(tool.commands.size());
   for (const CommandDescription& command : tool.commands) commands.push_back(command.word());
   std::string text = start;
   const std::string place = "{commands}";

@@ -16,6 +16,7 @@ namespace {
 
 std::string hint(const std::string& name, const std::vector<std::string>& known) {
   std::vector<Text> texts;
+  texts.reserve(known.size());
   for (const std::string& other : known) texts.push_back(fromUtf8(other));
   return nearNameHint(fromUtf8(name), {texts.begin(), texts.end()});
 }
@@ -38,6 +39,7 @@ std::string unknownOption(const CommandDescription& command, const std::string& 
 
 std::string unknownCommand(const CommandDescription& tool, const std::string& name) {
   std::vector<std::string> known;
+  known.reserve(tool.commands.size());
   for (const CommandDescription& command : tool.commands) known.push_back(command.word());
   const std::string nearest = hint(name, known);
   return fmt::format("there is no command {}{}", inQuotes(name),

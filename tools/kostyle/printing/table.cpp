@@ -16,6 +16,7 @@ using Widths = std::vector<std::size_t>;  // 0 for a column that is left out
 
 Widths naturalWidths(const std::vector<TableColumn>& columns, const std::vector<Row>& rows) {
   Widths widths;
+  widths.reserve(columns.size());
   for (std::size_t i = 0; i < columns.size(); ++i) {
     std::size_t width = widthOf(columns[i].heading);
     for (const Row& row : rows) width = std::max(width, widthOf(row[i]));
@@ -27,6 +28,7 @@ Widths naturalWidths(const std::vector<TableColumn>& columns, const std::vector<
 // No column is cut to less than its heading, or so little that nothing can be told by it.
 Widths leastWidths(const std::vector<TableColumn>& columns, const Widths& natural) {
   Widths least;
+  least.reserve(columns.size());
   for (std::size_t i = 0; i < columns.size(); ++i)
     least.push_back(std::min(natural[i], std::max(leastWidth, widthOf(columns[i].heading))));
   return least;
@@ -34,6 +36,7 @@ Widths leastWidths(const std::vector<TableColumn>& columns, const Widths& natura
 
 Widths capped(const Widths& natural, const Widths& least, std::size_t cap) {
   Widths result;
+  result.reserve(natural.size());
   for (std::size_t i = 0; i < natural.size(); ++i)
     result.push_back(std::min(natural[i], std::max(cap, least[i])));
   return result;
@@ -96,6 +99,7 @@ std::string table(const std::vector<TableColumn>& columns, const std::vector<Row
   Widths widths = naturalWidths(columns, rows);
   if (width) widths = fittingWidths(columns, std::move(widths), *width);
   Row headings;
+  headings.reserve(columns.size());
   for (const TableColumn& column : columns) headings.push_back(column.heading);
   std::string text = line(headings, widths);
   for (const Row& row : rows) text += line(row, widths);

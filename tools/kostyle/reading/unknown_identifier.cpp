@@ -35,6 +35,7 @@ bool holds(const fs::path& file, TextView id) {
 std::string whyUnknown(const Manager& manager, TextView id) {
   const auto styles = manager.styles();
   std::vector<TextView> known;
+  known.reserve(styles.size());
   for (KoStyleStyle* style : styles) known.emplace_back(Style_id(style));
   std::string text =
       fmt::format("{}: no style has this identifier{}", toUtf8(id), nearNameHint(id, known));
