@@ -1,5 +1,5 @@
 // kostyle check. The outputs for check/styles and check/more stand whole in golden/.
-#include "tool/tool.h"
+#include "tool/samples.h"
 
 #if !defined(_WIN32)
 #include <sys/stat.h>
@@ -10,33 +10,12 @@ namespace {
 
 using testing::Not;
 
-/// While the object lives, the working directory is another.
-class OtherWorkingDirectory {
- public:
-  explicit OtherWorkingDirectory(const fs::path& path) : before_(fs::current_path()) {
-    fs::current_path(path);
-  }
-  OtherWorkingDirectory(const OtherWorkingDirectory&) = delete;
-  OtherWorkingDirectory& operator=(const OtherWorkingDirectory&) = delete;
-  ~OtherWorkingDirectory() { fs::current_path(before_); }
-
- private:
-  fs::path before_;
-};
-
 Outcome runCheck(const Arguments& arguments, const fs::path& in = {}) {
   return run(fs::absolute(fs::u8path(KOSTYLE_TOOL)).u8string(), Arguments{"check"} + arguments, in);
 }
 
-/// From the folder of these tests, so that no path depends on the machine.
 Outcome checkSamples(const Arguments& arguments) {
-  const std::string program = fs::absolute(fs::u8path(KOSTYLE_TOOL)).u8string();
-  const OtherWorkingDirectory directory(fs::u8path(KOSTYLE_TOOL_TESTS));
-  return run(program, Arguments{"check"} + arguments);
-}
-
-std::string golden(const std::string& name) {
-  return readPrinted(fs::u8path(KOSTYLE_TOOL_TESTS) / "golden" / name);
+  return runInSamples(Arguments{"check"} + arguments);
 }
 
 class CheckTest : public testing::Test {

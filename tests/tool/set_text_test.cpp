@@ -292,7 +292,7 @@ TEST_F(SetText, RefusesWhatTheLibraryWouldReadOtherwise) {
   writeFile(file_, document("S", "N"));
   expectFailure(
       change({"--add", "--param", "E.Tarn=1"}), 1,
-      "the library would read something else from it than was asked for: E.Tarn is not there");
+      "the library would read something else from it than was asked for: audio:E.Tarn is not there");
   EXPECT_EQ(readFile(file_), document("S", "N"));
 }
 

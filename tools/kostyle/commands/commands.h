@@ -17,17 +17,20 @@ using AddCommand = void (*)(CLI::App& app, Command& chosen);
 void addCatalogCommand(CLI::App& app, Command& chosen);
 void addCheckCommand(CLI::App& app, Command& chosen);
 void addCompletionCommand(CLI::App& app, Command& chosen);
+void addDiffCommand(CLI::App& app, Command& chosen);
 void addListCommand(CLI::App& app, Command& chosen);
 void addManualCommand(CLI::App& app, Command& chosen);
 void addNewCommand(CLI::App& app, Command& chosen);
 void addRemoveCommand(CLI::App& app, Command& chosen);
 void addSetCommand(CLI::App& app, Command& chosen);
 void addShowCommand(CLI::App& app, Command& chosen);
+void addStatsCommand(CLI::App& app, Command& chosen);
 
 /// In the order in which the help lists them.
 inline constexpr AddCommand allCommands[] = {
-    addListCommand,   addShowCommand,    addCheckCommand,      addNewCommand,    addSetCommand,
-    addRemoveCommand, addCatalogCommand, addCompletionCommand, addManualCommand,
+    addListCommand,    addShowCommand,       addCheckCommand,  addStatsCommand,
+    addDiffCommand,    addNewCommand,        addSetCommand,    addRemoveCommand,
+    addCatalogCommand, addCompletionCommand, addManualCommand,
 };
 
 }  // namespace tool

@@ -60,8 +60,4 @@ struct StyleChange {
   std::array<ChainChange, 2> chains;
 };
 
-/// The first thing that differs, in words; empty when nothing does. The order of lists and of
-/// parameters means nothing.
-std::string difference(const StyleContent& expected, const StyleContent& found);
-
 }  // namespace tool

@@ -2,33 +2,17 @@
 
 #include <kostyle/helpers.h>
 
-#include <cmath>
 #include <string_view>
 
 #include "basics/text.h"
 #include "printing/json_writing.h"
+#include "printing/value_json.h"
 #include "reading/attributes.h"
 #include "reading/parameter_value.h"
 #include "reading/reasons.h"
 
 namespace tool {
 namespace {
-
-void writeValue(JsonWriter& writer, const Value& value) {
-  if (const auto* integer = std::get_if<int>(&value)) {
-    writer.Int(*integer);
-  } else if (const auto* number = std::get_if<float>(&value)) {
-    const std::string text = floatText(*number);
-    // JSON has no infinity.
-    if (std::isfinite(*number)) {
-      writer.RawValue(text.data(), text.size(), rapidjson::kNumberType);
-    } else {
-      writeText(writer, text);
-    }
-  } else {
-    writeText(writer, toUtf8(std::get<Text>(value)));
-  }
-}
 
 void writeEffect(JsonWriter& writer, KoStyleEffect* effect) {
   writer.StartObject();

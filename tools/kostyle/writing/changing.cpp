@@ -8,6 +8,8 @@
 #include "basics/files.h"
 #include "editing/edited_document.h"
 #include "editing/losses.h"
+#include "editing/style_differences.h"
+#include "printing/differences.h"
 #include "reading/style_content.h"
 #include "reading/style_file.h"
 #include "writing/file_replacement.h"
@@ -37,12 +39,12 @@ void requireContent(const fs::path& path, const std::string& bytes, const StyleC
   StyleContent found = contentOf(StyleFile(path, bytes).style());
   for (std::size_t chain = 0; chain < found.chains.size(); ++chain)
     moveToEnd(found.chains[chain], change.chains[chain].added);
-  const std::string differing = difference(expected, found);
+  const std::vector<Difference> differing = differences(expected, found);
   if (!differing.empty())
     throw Refused(
         fmt::format("{}: left as it is, because the library would read something else from it "
                     "than was asked for: {}",
-                    shownPath(path), differing));
+                    shownPath(path), differenceWords(differing.front())));
 }
 
 struct NewFile {

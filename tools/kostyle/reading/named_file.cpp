@@ -1,0 +1,39 @@
+#include "reading/named_file.h"
+
+#include <fmt/format.h>
+
+#include <system_error>
+
+#include "basics/failure.h"
+#include "reading/manager.h"
+
+namespace tool {
+
+NamedFile namedFile(const std::string& argument, const StyleDirectories& directories) {
+  const fs::path path = pathOf(argument);
+  std::error_code ignored;
+  const fs::file_status status = fs::status(path, ignored);
+  if (fs::is_regular_file(status)) return {path};
+  if (directories.system || directories.user) {
+    const Manager manager(directories);
+    KoStyleStyle* style = manager.style(fromUtf8(argument));
+    return {pathOf(TextView(Style_path(style))), Style_type(style) == KOSTYLE_KIND_SYSTEM};
+  }
+  if (!fs::is_symlink(fs::symlink_status(path, ignored)) && status.type() == fs::file_type::not_found)
+    throw WrongUse(fmt::format("{}: no such file; an identifier needs --system or --user", argument));
+  requireRegularFile(path);
+  return {path};
+}
+
+void requireRegularFile(const fs::path& path) {
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (fs::is_regular_file(status)) return;
+  const std::string why = fs::is_directory(status) ? "is a directory"
+                          : fs::exists(status)     ? "is not a regular file"
+                          : error                  ? error.message()
+                                                   : "no such file";
+  throw Refused(fmt::format("{}: {}", shownPath(path), why));
+}
+
+}  // namespace tool
