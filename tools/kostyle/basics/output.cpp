@@ -67,6 +67,7 @@ void print(std::string_view utf8) {
 
 void printBytes(std::string_view bytes) {
 #if defined(_WIN32)
+  flushOutput();
   _setmode(_fileno(stdout), _O_BINARY);
 #endif
   errno = 0;

@@ -18,6 +18,7 @@ void addCatalogCommand(CLI::App& app, Command& chosen);
 void addCheckCommand(CLI::App& app, Command& chosen);
 void addCompletionCommand(CLI::App& app, Command& chosen);
 void addDiffCommand(CLI::App& app, Command& chosen);
+void addFormatCommand(CLI::App& app, Command& chosen);
 void addListCommand(CLI::App& app, Command& chosen);
 void addManualCommand(CLI::App& app, Command& chosen);
 void addNewCommand(CLI::App& app, Command& chosen);

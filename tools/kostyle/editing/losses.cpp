@@ -18,14 +18,8 @@ class Comparison {
       : whole_(whole), written_(written) {}
 
   std::vector<std::string> find() {
-    const SourceText& source = whole_.source();
-    const std::string encoding = source.encodingName();
-    if (encoding != written_.source().encodingName())
-      losses_.push_back(
-          fmt::format("the encoding {} becomes {}", encoding, written_.source().encodingName()));
-    if (source.begin() > 0) losses_.emplace_back("the byte-order mark is lost");
     compareObjects(whole_.root(), written_.root());
-    if (whole_.parsedEnd() < source.end())
+    if (whole_.parsedEnd() < whole_.source().end())
       losses_.emplace_back("what stands behind the end of the document is lost");
     return std::move(losses_);
   }
@@ -53,10 +47,12 @@ class Comparison {
     return !node.isNumber() || node.number == other.number;
   }
 
-  // Digits that no float has.
+  // Digits that no float has: neither in full nor in its shortest form.
   static bool isRounded(const JsonNode& node) {
     if (node.kind != JsonKind::real) return false;
-    return std::strtod(floatText(static_cast<float>(node.number)).c_str(), nullptr) != node.number;
+    const auto number = static_cast<float>(node.number);
+    return double{number} != node.number &&
+           std::strtod(floatText(number).c_str(), nullptr) != node.number;
   }
 
   void compare(const JsonNode& node, const JsonNode& other) {
@@ -101,6 +97,15 @@ std::vector<std::string> losses(const std::string& whole, const std::string& wri
   const SourceText source(whole);
   const SourceText other(written);
   return Comparison(JsonDocument(source), JsonDocument(other)).find();
+}
+
+std::vector<std::string> encodingLosses(const std::string& whole) {
+  const SourceText source(whole);
+  std::vector<std::string> losses;
+  if (source.encoding().unitSize > 1)
+    losses.push_back(fmt::format("the encoding {} becomes UTF-8", source.encodingName()));
+  if (source.begin() > 0) losses.emplace_back("the byte-order mark is lost");
+  return losses;
 }
 
 }  // namespace tool

@@ -6,6 +6,8 @@
 #include <set>
 #include <utility>
 
+#include "basics/increasing.h"
+
 namespace tool {
 namespace {
 
@@ -25,22 +27,8 @@ std::map<Key, std::size_t> placesOf(const std::vector<Part>& parts, Name name) {
 
 // Those of some numbers, none twice, that are not in a longest increasing sequence of them.
 std::set<std::size_t> outOfOrder(const std::vector<std::size_t>& numbers) {
-  std::vector<std::size_t> ends;  // for each length the smallest end of a sequence, as a place
-  std::vector<std::size_t> behind(numbers.size());
-  const auto isLess = [&](std::size_t place, std::size_t number) { return numbers[place] < number; };
-  for (std::size_t i = 0; i < numbers.size(); ++i) {
-    const auto found = std::lower_bound(ends.begin(), ends.end(), numbers[i], isLess);
-    behind[i] = found == ends.begin() ? i : found[-1];
-    if (found == ends.end()) {
-      ends.push_back(i);
-    } else {
-      *found = i;
-    }
-  }
   std::set<std::size_t> result(numbers.begin(), numbers.end());
-  if (ends.empty()) return result;
-  std::size_t at = ends.back();
-  for (std::size_t i = 0; i < ends.size(); ++i, at = behind[at]) result.erase(numbers[at]);
+  for (const std::size_t at : longestIncreasing(numbers)) result.erase(numbers[at]);
   return result;
 }
 

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "basics/failure.h"
+#include "basics/files.h"
 #include "writing/system_files.h"
 #include "writing/waiting.h"
 
@@ -30,6 +31,17 @@ void FileReplacement::finish(std::chrono::milliseconds limit) {
     throw Refused(fmt::format("{}: the file cannot be replaced{}: {}", shownPath(file_),
                               isInUse(error) ? ", a program may have it open" : "", error.message()));
   isDone_ = true;
+}
+
+void replaceContent(const FolderLock& lock, const fs::path& file, const ContentChange& change,
+                    const std::function<void(const std::string&)>& verify,
+                    std::chrono::milliseconds limit) {
+  if (change.after == change.before) return;
+  FileReplacement replacement(lock, file, change.after);
+  verify(readBytes(replacement.path()));
+  if (readBytes(file) != change.before)
+    throw Refused(fmt::format("{}: another program has changed the file meanwhile", shownPath(file)));
+  replacement.finish(limit);
 }
 
 }  // namespace tool

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
+#include <string>
 #include <string_view>
 
 #include "basics/paths.h"
@@ -35,5 +37,16 @@ class FileReplacement {
   fs::path path_;
   bool isDone_ = false;
 };
+
+struct ContentChange {
+  const std::string& before;
+  const std::string& after;
+};
+
+/// Replaces what is in a file, unless it stays the same. `verify` is given the new content as it can be
+/// read, and throws when that is not to be. Throws Refused too when the file changed meanwhile.
+void replaceContent(const FolderLock& lock, const fs::path& file, const ContentChange& change,
+                    const std::function<void(const std::string&)>& verify,
+                    std::chrono::milliseconds limit);
 
 }  // namespace tool

@@ -5,45 +5,90 @@
 
 #include <algorithm>
 #include <system_error>
+#include <utility>
 
 #include "basics/failure.h"
 #include "basics/files.h"
+#include "editing/losses.h"
+#include "editing/style_differences.h"
+#include "printing/differences.h"
+#include "reading/attributes.h"
+#include "reading/style_content.h"
+#include "reading/style_file.h"
 #include "writing/mutable_style.h"
 #include "writing/saving.h"
 
 namespace tool {
+namespace {
 
-std::string ownForm(const fs::path& path, const std::string& bytes, const StyleContent& after,
+std::string written(const fs::path& path, const std::string& document, const StyleContent& content,
                     bool pretty) {
   const TemporaryDirectory directory;
   const fs::path rewritten = directory.path() / "style.kostyle";
-  writeCopy(rewritten, bytes, path);
+  writeCopy(rewritten, document, path);
   StyleDirectories directories;
   directories.user = directory.path();
   const Manager manager(directories);
   MutableStyle style(manager);
-  if (!after.name.empty()) style.setName(after.name);  // otherwise it was too long to be read
-  style.fill(after);
+  if (!content.name.empty()) style.setName(content.name);  // otherwise it was too long to be read
+  style.fill(content);
   requireWritable(style.handle());
   int error = KOSTYLE_OK;
-  MutableStyle_overwrite(style.handle(), after.id.c_str(), pretty, &error);
+  MutableStyle_overwrite(style.handle(), content.id.c_str(), pretty, &error);
   if (error != KOSTYLE_OK)
     throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
-  std::string written = readBytes(rewritten);
+  std::string bytes = readBytes(rewritten);
   // A full disk is no error to the library.
   if (const std::error_code full = writingError(rewritten))
     throw Refused(
         fmt::format("{}: its new form cannot be written: {}", shownPath(path), full.message()));
-  return written;
+  return bytes;
 }
 
+bool isBare(const EffectContent& effect) { return effect.parameters.empty(); }
+
+// What the library reads from a file that it wrote with a content.
 StyleContent readBackOf(StyleContent content) {
   content.vendor.clear();
-  for (ChainContent& chain : content.chains) {
-    const auto isBare = [](const EffectContent& effect) { return effect.parameters.empty(); };
+  for (ChainContent& chain : content.chains)
     chain.erase(std::remove_if(chain.begin(), chain.end(), isBare), chain.end());
-  }
   return content;
+}
+
+// An effect that is added stands where the document has a place for it.
+void moveToEnd(ChainContent& chain, const ChainContent& added) {
+  for (const EffectContent& effect : added) {
+    const auto isIt = [&](const EffectContent& other) { return other.id == effect.id; };
+    const auto found = std::find_if(chain.begin(), chain.end(), isIt);
+    if (found != chain.end()) std::rotate(found, found + 1, chain.end());
+  }
+}
+
+}  // namespace
+
+NewContent ownForm(const fs::path& path, const std::string& document, const StyleContent& style,
+                   bool pretty) {
+  std::string bytes = written(path, document, style, pretty);
+  std::vector<std::string> lost = losses(document, bytes);
+  for (std::size_t chain = 0; chain < chains().size(); ++chain)
+    for (const EffectContent& effect : style.chains[chain])
+      if (isBare(effect))
+        lost.push_back(fmt::format("the {} {} is lost: one without parameters is not read again",
+                                   chains()[chain].option, inQuotes(toUtf8(effect.id))));
+  return {std::move(bytes), readBackOf(style), std::move(lost)};
+}
+
+void requireStyle(const fs::path& path, const std::string& bytes, const StyleContent& style,
+                  const StyleChange& added) {
+  StyleContent found = contentOf(StyleFile(path, bytes).style());
+  for (std::size_t chain = 0; chain < found.chains.size(); ++chain)
+    moveToEnd(found.chains[chain], added.chains[chain].added);
+  const std::vector<Difference> differing = differences(style, found);
+  if (!differing.empty())
+    throw Refused(
+        fmt::format("{}: left as it is, because the library would read something else from it "
+                    "than was asked for: {}",
+                    shownPath(path), differenceWords(differing.front())));
 }
 
 }  // namespace tool
