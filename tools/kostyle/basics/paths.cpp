@@ -84,7 +84,7 @@ TemporaryDirectory::TemporaryDirectory() {
 
 TemporaryDirectory::~TemporaryDirectory() {
   std::error_code ignored;
-  fs::remove_all(path_, ignored);
+  if (!isKept_) fs::remove_all(path_, ignored);
 }
 
 MissingDirectories::MissingDirectories(const fs::path& path) {

@@ -41,8 +41,12 @@ class TemporaryDirectory {
 
   const fs::path& path() const { return path_; }
 
+  /// Leaves it where it is after all.
+  void keep() { isKept_ = true; }
+
  private:
   fs::path path_;
+  bool isKept_ = false;
 };
 
 /// The directories that are missing on the way to a path. Those that come into being while the object

@@ -17,7 +17,9 @@ using AddCommand = void (*)(CLI::App& app, Command& chosen);
 void addCatalogCommand(CLI::App& app, Command& chosen);
 void addCheckCommand(CLI::App& app, Command& chosen);
 void addCompletionCommand(CLI::App& app, Command& chosen);
+void addCopyCommand(CLI::App& app, Command& chosen);
 void addDiffCommand(CLI::App& app, Command& chosen);
+void addEditCommand(CLI::App& app, Command& chosen);
 void addFormatCommand(CLI::App& app, Command& chosen);
 void addListCommand(CLI::App& app, Command& chosen);
 void addManualCommand(CLI::App& app, Command& chosen);
@@ -29,9 +31,9 @@ void addStatsCommand(CLI::App& app, Command& chosen);
 
 /// In the order in which the help lists them.
 inline constexpr AddCommand allCommands[] = {
-    addListCommand,    addShowCommand,       addCheckCommand,  addStatsCommand,
-    addDiffCommand,    addNewCommand,        addSetCommand,    addRemoveCommand,
-    addCatalogCommand, addCompletionCommand, addManualCommand,
+    addListCommand,   addShowCommand,    addCheckCommand,      addStatsCommand,  addDiffCommand,
+    addNewCommand,    addCopyCommand,    addSetCommand,        addEditCommand,   addFormatCommand,
+    addRemoveCommand, addCatalogCommand, addCompletionCommand, addManualCommand,
 };
 
 }  // namespace tool

@@ -33,7 +33,7 @@ struct FormatOptions {
   bool check = false;
   bool diff = false;
   bool lossy = false;
-  unsigned secondsToWait = usualSecondsToWait;
+  std::chrono::seconds limit = usualLimit;
 };
 
 class Formatter {
@@ -107,12 +107,11 @@ class Formatter {
       return show(shown, before, formatted(path, shown, before).bytes);
     }
     requireWriteAccess(file);
-    const std::chrono::seconds limit(options_.secondsToWait);
-    const FolderLock lock(file.parent_path(), limit);
+    const FolderLock lock(file.parent_path(), options_.limit);
     const std::string before = readBytes(file);
     const NewContent after = formatted(path, shown, before);
     const auto verify = [&](const std::string& bytes) { requireStyle(path, bytes, after.style); };
-    replaceContent(lock, file, {before, after.bytes}, verify, limit);
+    replaceContent(lock, file, {before, after.bytes}, verify, options_.limit);
     if (after.bytes != before) print(printable(shown) + '\n');
     return true;
   }
@@ -147,16 +146,16 @@ void addFormatCommand(CLI::App& app, Command& chosen) {
   auto* lossy = command->add_flag("--lossy", options->lossy,
                                   "Format also what loses something, and name it on stderr");
   for (CLI::Option* flag : {compact, check, diff, lossy}) flag->disable_flag_override();
-  addWaitOption(*command, options->secondsToWait);
+  addWaitOption(*command, options->limit);
   command->footer(
       R"(Prints the paths of the files that change. The form is UTF-8 without a mark, with the members in the
 library's order, indented by four spaces. A file that holds more than the library writes is left as it is, and what
 would be lost is listed: the vendor, unknown members, digits that no float has.
 
 Examples:
-  kostyle format styles/user/night_drive.kostyle
-  kostyle format --check --diff styles/user/night_drive.kostyle styles/user/steps.kostyle
-  kostyle format --compact - < night_drive.kostyle > small.kostyle)");
+  kostyle format --lossy styles/user/square_dance.kostyle
+  kostyle format --diff styles/system/first_lesson.kostyle styles/user/kitchen_demo.kostyle
+  kostyle format --compact - < styles/system/first_lesson.kostyle > small.kostyle)");
   command->callback([options, &chosen] { chosen = [options] { return format(*options); }; });
 }
 

@@ -20,14 +20,14 @@ namespace {
 struct NewOptions {
   StyleDirectories directories;
   StyleEdits edits;
-  unsigned secondsToWait = usualSecondsToWait;
+  std::chrono::seconds limit = usualLimit;
 };
 
 int create(const NewOptions& options) {
   requireExistingButUser(options.directories);
   MissingDirectories made(*options.directories.user);
   const Manager manager(options.directories);
-  const FolderLock lock(*options.directories.user, std::chrono::seconds(options.secondsToWait));
+  const FolderLock lock(*options.directories.user, options.limit);
   const StyleContent content = requestedChange(options.edits, {}).after;
   MutableStyle mutableStyle(manager);
   mutableStyle.setName(content.name);
@@ -46,7 +46,7 @@ void addNewCommand(CLI::App& app, Command& chosen) {
   addDirectoryOptions(*command, options->directories);
   command->get_option("--user")->required();
   addCreationOptions(*command, options->edits);
-  addWaitOption(*command, options->secondsToWait);
+  addWaitOption(*command, options->limit);
   command->footer(
       R"(Prints the identifier and the path of the new file. The user directory is created when missing.
 

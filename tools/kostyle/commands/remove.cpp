@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <chrono>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -23,7 +24,7 @@ struct RemoveOptions {
   std::vector<std::string> ids;
   StyleDirectories directories;
   bool yes = false;
-  unsigned secondsToWait = usualSecondsToWait;
+  std::chrono::seconds limit = usualLimit;
 };
 
 // Anything but a yes is a no.
@@ -45,16 +46,15 @@ std::vector<Text> idsOf(const RemoveOptions& options) {
 
 int remove(const RemoveOptions& options) {
   requireExisting(options.directories);
-  const std::chrono::seconds limit(options.secondsToWait);
   const std::vector<Text> ids = idsOf(options);
-  const auto manager = settledStyles(options.directories, ids, limit);
+  const auto manager = settledStyles(options.directories, ids, options.limit);
   // All of them are found before the first is removed.
   std::vector<RemovableFile> files;
   files.reserve(ids.size());
   for (const Text& id : ids) files.emplace_back(manager->userStyle(id));
   const bool asks = !options.yes && canAsk();
   for (const RemovableFile& file : files)
-    if (!asks || isWanted(file)) file.remove(limit);
+    if (!asks || isWanted(file)) file.remove(options.limit);
   return exitOk;
 }
 
@@ -68,7 +68,7 @@ void addRemoveCommand(CLI::App& app, Command& chosen) {
   command->get_option("--user")->required();
   command->add_flag("-y,--yes", options->yes, "Do not ask, also on a terminal")
       ->disable_flag_override();
-  addWaitOption(*command, options->secondsToWait);
+  addWaitOption(*command, options->limit);
   command->footer(R"(Prints nothing. On a terminal it asks for each style; anything but y is a no.
 When one of the styles is not found, none is removed.
 

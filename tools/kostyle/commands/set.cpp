@@ -19,16 +19,15 @@ struct SetOptions {
   std::string id;
   StyleDirectories directories;
   StyleEdits edits;
-  unsigned secondsToWait = usualSecondsToWait;
+  std::chrono::seconds limit = usualLimit;
 };
 
 int change(const SetOptions& options) {
   if (changesNothing(options.edits)) throw WrongUse("nothing is to be changed");
   requireExisting(options.directories);
-  const std::chrono::seconds limit(options.secondsToWait);
   const Text id = fromUtf8(options.id);
-  const auto manager = settledStyles(options.directories, {id}, limit);
-  changeStyle(manager->userStyle(id), options.edits, limit);
+  const auto manager = settledStyles(options.directories, {id}, options.limit);
+  changeStyle(manager->userStyle(id), options.edits, options.limit);
   return exitOk;
 }
 
@@ -41,7 +40,7 @@ void addSetCommand(CLI::App& app, Command& chosen) {
   addDirectoryOptions(*command, options->directories);
   command->get_option("--user")->required();
   addChangeOptions(*command, options->edits);
-  addWaitOption(*command, options->secondsToWait);
+  addWaitOption(*command, options->limit);
   command->footer(
       R"(Prints the identifier and the path of the file. What is deleted is deleted before anything is added.
 Everything else in the file stays byte for byte; with --reformat, what is lost is named on stderr.

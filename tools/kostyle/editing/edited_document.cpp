@@ -32,7 +32,8 @@ class DocumentEditor {
         root_(document, layout_, document.root()) {}
 
   std::string edited(const StyleChange& change) {
-    if (change.name) edits_.replace(rootMember(key::name)->span, jsonString(*change.name, onlyAscii()));
+    changeText(key::id, change.id);
+    changeText(key::name, change.name);
     if (!changesNothing(change)) changeFilter(change);
     changeChain(EffectKind::audio, change.chains[0]);
     changeChain(EffectKind::midi, change.chains[1]);
@@ -44,6 +45,10 @@ class DocumentEditor {
   bool onlyAscii() const { return layout_.onlyAscii(); }
 
   const JsonNode* rootMember(TextView name) const { return document_.member(document_.root(), name); }
+
+  void changeText(TextView name, const std::optional<Text>& text) {
+    if (text) edits_.replace(rootMember(name)->span, jsonString(*text, onlyAscii()));
+  }
 
   void require(const JsonNode& node, JsonKind kind) const {
     if (node.kind == kind) return;

@@ -54,6 +54,7 @@ struct ChainChange {
 };
 
 struct StyleChange {
+  std::optional<Text> id;
   std::optional<Text> name;
   ListChange<int> languages;
   std::array<ListChange<Text>, 5> texts;

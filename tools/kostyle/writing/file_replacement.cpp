@@ -11,10 +11,20 @@
 
 namespace tool {
 
-FileReplacement::FileReplacement(const FolderLock&, const fs::path& file, std::string_view bytes)
-    : file_(file), path_(file.parent_path() / "kostyle.new") {
+namespace {
+
+// Where new content is written in a folder. What stands in the way otherwise will be told.
+fs::path clearedPlace(const fs::path& folder) {
+  fs::path path = folder / "kostyle.new";
   std::error_code ignored;
-  fs::remove(path_, ignored);  // what stands in the way otherwise will be told
+  fs::remove(path, ignored);
+  return path;
+}
+
+}  // namespace
+
+FileReplacement::FileReplacement(const FolderLock&, const fs::path& file, std::string_view bytes)
+    : file_(file), path_(clearedPlace(file.parent_path())) {
   writeNewFile(path_, bytes, file_);
 }
 
@@ -42,6 +52,22 @@ void replaceContent(const FolderLock& lock, const fs::path& file, const ContentC
   if (readBytes(file) != change.before)
     throw Refused(fmt::format("{}: another program has changed the file meanwhile", shownPath(file)));
   replacement.finish(limit);
+}
+
+void createFile(const FolderLock&, const fs::path& file, const std::string& bytes,
+                const std::function<void(const std::string&)>& verify) {
+  const fs::path path = clearedPlace(file.parent_path());
+  writeNewFile(path, bytes, file);
+  try {
+    verify(readBytes(path));
+    const std::error_code error = moveToNewName(path, file);
+    if (error)
+      throw Refused(fmt::format("{}: the file cannot be made: {}", shownPath(file), error.message()));
+  } catch (...) {
+    std::error_code ignored;
+    fs::remove(path, ignored);
+    throw;
+  }
 }
 
 }  // namespace tool

@@ -49,4 +49,9 @@ void replaceContent(const FolderLock& lock, const fs::path& file, const ContentC
                     const std::function<void(const std::string&)>& verify,
                     std::chrono::milliseconds limit);
 
+/// Makes a file, whole from its first moment on. Nothing has its name; what has it stays, and Refused
+/// is thrown. `verify` as above.
+void createFile(const FolderLock& lock, const fs::path& file, const std::string& bytes,
+                const std::function<void(const std::string&)>& verify);
+
 }  // namespace tool

@@ -20,14 +20,14 @@ namespace {
 // A mutable style is walked through `mutableEffect`, one that was read through `stored`.
 using EffectAt = KoStyleEffect* (*Chain::*)(KoStyleStyle*, std::size_t);
 
-struct Counts {
+struct ChainCounts {
   std::size_t effects = 0;
   std::size_t emptyEffects = 0;
   std::size_t parameters = 0;
 };
 
-Counts countsOf(KoStyleStyle* style, EffectAt effectAt) {
-  Counts counts;
+ChainCounts chainCountsOf(KoStyleStyle* style, EffectAt effectAt) {
+  ChainCounts counts;
   for (const Chain& chain : chains())
     for (std::size_t i = 0; i < chain.count(style); ++i) {
       const std::size_t parameters = Effect_numParameter((chain.*effectAt)(style, i));
@@ -63,9 +63,9 @@ StyleFile writtenFile(const fs::path& path, const TemporaryDirectory& directory)
   }
 }
 
-Losses readAgain(KoStyleStyle* style, const Counts& written, const TemporaryDirectory& directory) {
+Losses readAgain(KoStyleStyle* style, const ChainCounts& written, const TemporaryDirectory& directory) {
   const StyleFile file = writtenFile(pathOf(TextView(Style_path(style))), directory);
-  const Counts read = countsOf(file.style(), &Chain::stored);
+  const ChainCounts read = chainCountsOf(file.style(), &Chain::stored);
   const bool sameNames =
       read.effects < written.effects - written.emptyEffects || read.parameters < written.parameters;
   return {written.emptyEffects > 0, sameNames};
@@ -90,7 +90,7 @@ void requireWritable(KoStyleStyle* style) {
       for (std::size_t j = 0; j < Effect_numParameter(effect); ++j)
         requireWritable(MutableEffect_parameter(effect, j));
     }
-  const Counts counts = countsOf(style, &Chain::mutableEffect);
+  const ChainCounts counts = chainCountsOf(style, &Chain::mutableEffect);
   if (counts.effects > 0 && counts.emptyEffects == counts.effects)
     throw Refused("no effect has a parameter: the file could not be read again");
 }
@@ -102,7 +102,7 @@ void printWritten(TextView id, const fs::path& path) {
 
 Losses saveNew(const MutableStyle& mutableStyle, const fs::path& directory, bool pretty) {
   requireWritable(mutableStyle.handle());
-  const Counts counts = countsOf(mutableStyle.handle(), &Chain::mutableEffect);
+  const ChainCounts counts = chainCountsOf(mutableStyle.handle(), &Chain::mutableEffect);
   const TemporaryDirectory temporary;
   int error = KOSTYLE_OK;
   KoStyleStyle* style = MutableStyle_save(mutableStyle.handle(), pretty, &error);

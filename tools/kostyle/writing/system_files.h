@@ -22,6 +22,9 @@ void writeNewFile(const fs::path& path, std::string_view bytes, const fs::path& 
 /// Gives a file the name of another, whose place it takes at once.
 std::error_code moveOver(const fs::path& from, const fs::path& to);
 
+/// Gives a file a name that nothing has yet; an error when something does.
+std::error_code moveToNewName(const fs::path& from, const fs::path& to);
+
 /// Whether an error may pass by itself: another program has the file open, which some systems mind.
 bool isInUse(std::error_code error);
 

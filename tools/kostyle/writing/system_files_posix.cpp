@@ -143,6 +143,15 @@ std::error_code moveOver(const fs::path& from, const fs::path& to) {
   return error;
 }
 
+std::error_code moveToNewName(const fs::path& from, const fs::path& to) {
+  if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return {};
+  if (errno != EINVAL && errno != ENOSYS) return {errno, std::generic_category()};
+  // A file system that cannot look and rename at once.
+  std::error_code error;
+  if (fs::exists(fs::symlink_status(to, error))) return std::make_error_code(std::errc::file_exists);
+  return moveOver(from, to);
+}
+
 bool isInUse(std::error_code) { return false; }
 
 struct HeldFile::Open {

@@ -128,6 +128,11 @@ std::error_code moveOver(const fs::path& from, const fs::path& to) {
   return {static_cast<int>(GetLastError()), std::system_category()};
 }
 
+std::error_code moveToNewName(const fs::path& from, const fs::path& to) {
+  if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_WRITE_THROUGH)) return {};
+  return {static_cast<int>(GetLastError()), std::system_category()};
+}
+
 bool isInUse(std::error_code error) {
   // The second is what replacing a file gives that is open.
   return error.value() == ERROR_SHARING_VIOLATION || error.value() == ERROR_ACCESS_DENIED ||

@@ -13,14 +13,16 @@ namespace tool {
 
 using std::chrono::milliseconds;
 
-void addWaitOption(CLI::App& command, unsigned& seconds) {
+void addWaitOption(CLI::App& command, std::chrono::seconds& limit) {
+  constexpr unsigned day = 86400;
+  const auto take = [&limit](const unsigned& seconds) { limit = std::chrono::seconds(seconds); };
   command
-      .add_option(
-          "--wait", seconds,
+      .add_option_function<unsigned>(
+          "--wait", take,
           fmt::format("How long to wait for another program that uses a file, {} when not given",
-                      usualSecondsToWait))
+                      usualLimit.count()))
       ->type_name("SECONDS")
-      ->check(CLI::Range(0U, 86400U));
+      ->check(CLI::Range(0U, day));
 }
 
 Waiting::Waiting(milliseconds limit, std::string message)

@@ -10,10 +10,10 @@ class App;
 
 namespace tool {
 
-inline constexpr unsigned usualSecondsToWait = 10;
+inline constexpr std::chrono::seconds usualLimit(10);
 
-/// Adds --wait.
-void addWaitOption(CLI::App& command, unsigned& seconds);
+/// Adds --wait, which writes to `limit`.
+void addWaitOption(CLI::App& command, std::chrono::seconds& limit);
 
 class Waiting {
  public:
