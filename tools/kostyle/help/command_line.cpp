@@ -34,6 +34,8 @@ Exit codes:
 Environment:
   COLUMNS   how many columns "list" may fill; without it, those of the terminal
   NO_COLOR  no colours, also on a terminal
+  VISUAL    the editor of "edit", a command that waits until the text is closed
+  EDITOR    the same where VISUAL is not set
 
 Files:
   kostyle.lock  in a folder whose files are being changed, so that no change is lost to another kostyle
