@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
+#include <exception>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "basics/failure.h"
@@ -48,7 +48,9 @@ std::map<Text, ReadStyle> stylesIn(const std::string& argument, bool& allRead) {
       tell(refusal(shownIn(path), result, manager.styles()));
   }
   for (const fs::path& path : unopenedFiles(directories, results))
-    tell(whyUnopened(*directories.system / path.filename()));
+    tell(whyUnopened(path == pathOf(libraryPath(*directories.system))
+                         ? *directories.system
+                         : *directories.system / path.filename()));
   std::map<Text, ReadStyle> styles;
   for (KoStyleStyle* style : manager.styles())
     styles.emplace(Style_id(style),

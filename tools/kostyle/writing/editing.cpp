@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
+#include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -76,8 +76,10 @@ class Editing {
   bool isEdited() const {
     try {
       return readBytes(copy_) != original_.text();
-    } catch (const Refused&) {
+    } catch (const Refused&) {  // the editor took it away
       return false;
+    } catch (const std::exception&) {  // too little memory to tell
+      return true;
     }
   }
 
