@@ -86,9 +86,9 @@ class Editing {
   std::string editedText() const {
     for (;;) {
       runEditor(copy_);
-      const std::string saved = readBytes(copy_);
+      std::string saved = readBytes(copy_);
       if (saved == original_.text()) return saved;
-      const std::string text = savedText(shownPath(copy_), saved);
+      std::string text = savedText(shownPath(copy_), saved);
       const auto inCopy = checked(shownPath(copy_), text);
       const bool isRefused = countsOf(inCopy).errors > 0;
       // The lines are those of the file that is to be.
