@@ -92,6 +92,7 @@ class Comparison {
       }
     }
     std::vector<std::size_t> order;
+    order.reserve(old.size());
     for (const auto& [now, then] : old) order.push_back(then);
     const std::set<std::size_t> moved = outOfOrder(order);
     std::sort(removed.begin(), removed.end());

@@ -1,6 +1,7 @@
 #include <fmt/format.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <array>
 #include <cerrno>
@@ -11,8 +12,6 @@
 
 #include "basics/failure.h"
 #include "writing/editor.h"
-
-extern char** environ;
 
 namespace tool {
 namespace {
