@@ -2,6 +2,7 @@
 
 #include <sstream>
 
+#include "tool/environment.h"
 #include "tool/tool.h"
 
 namespace test {
@@ -32,8 +33,8 @@ TEST(CommandLine, HelpShowsEveryCommandWithExamples) {
   expectSuccess(outcome);
   EXPECT_THAT(outcome.out, HasSubstr("Examples:\n  kostyle list "));
   const Arguments all = commands();
-  EXPECT_THAT(all, testing::IsSupersetOf(
-                       {"check", "list", "show", "new", "set", "remove", "catalog", "completion", "manual"}));
+  EXPECT_THAT(all, testing::IsSupersetOf({"check", "list", "show", "new", "set", "remove", "catalog",
+                                          "completion", "manual"}));
   for (const std::string& command : all) {
     const Outcome help = runTool({command, "--help"});
     expectSuccess(help);

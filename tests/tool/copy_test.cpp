@@ -102,11 +102,11 @@ TEST_F(Copy, MakesTheDirectoryOnlyWithAFileInIt) {
 
 TEST_F(Copy, RefusesWhatIsNoStyle) {
   writeFile(source_, "{");
-  expectFailure(copy(), 1, "factory.kostyle: not valid JSON");
+  expectFailure(copy(), 1, "factory.kostyle:1:2: not valid JSON");
   fs::remove(source_);
   expectFailure(copy(), 2, "factory.kostyle: no such file; an identifier needs --system or --user");
   fs::create_directory(source_);
-  expectFailure(copy(), 1, "factory.kostyle: is a directory");
+  expectFailure(copy(), 1, "factory.kostyle: a directory, not a file");
   expectFailure(runTool({"copy", "X", "--system", argument(system_), "--user", argument(user_)}), 1,
                 "X: no style has this identifier");
   expectFailure(runTool({"copy", argument(source_)}), 2, "--user is required");
@@ -115,7 +115,7 @@ TEST_F(Copy, RefusesWhatIsNoStyle) {
 
 TEST_F(Copy, RefusesAFileAsTheDirectory) {
   writeFile(user_, "mine");
-  expectFailure(copy(), 2, "user: no such directory");
+  expectFailure(copy(), 2, "user: not a directory");
   EXPECT_EQ(readFile(user_), "mine");
 }
 
@@ -153,21 +153,21 @@ TEST_F(Copy, LeavesNothingOnAFullDisk) {
   const Outcome outcome = runToolOnFullDisk(
       1, {"copy", argument(source_), "--user", argument(user_), "--add-genre", std::string(150, 'g')});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.out, HasSubstr("kostyle.new: cannot be written: File too large"));
+  EXPECT_THAT(outcome.out, HasSubstr(".kostyle: its new content cannot be written: File too large"));
   EXPECT_FALSE(fs::exists(user_));
 }
 
 TEST_F(Copy, LeavesNothingWhenNothingCanBePrinted) {
   const fs::path err = directory_ / "err";
   EXPECT_EQ(runToolWithoutOutput(err, {"copy", argument(source_), "--user", argument(user_)}), 1);
-  EXPECT_EQ(readFile(err), "kostyle: the output cannot be written\n");
+  EXPECT_EQ(readFile(err), "kostyle: the output cannot be written: No space left on device\n");
   EXPECT_FALSE(fs::exists(user_));
 }
 
 TEST_F(Copy, WaitsForNoPipe) {
   fs::remove(source_);
   ASSERT_EQ(mkfifo(source_.c_str(), 0600), 0);
-  expectFailure(copy(), 1, "factory.kostyle: is not a regular file");
+  expectFailure(copy(), 1, "factory.kostyle: not a regular file");
 }
 #endif
 

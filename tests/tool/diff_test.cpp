@@ -110,9 +110,9 @@ TEST_F(Diff, KeepsTheTerminalAsItIs) {
 
 TEST_F(Diff, TellsTroubleFromADifference) {
   const std::string good = put("good.kostyle", document("S", "N"));
-  expectFailure(runTool({"diff", good, put("bad.kostyle", "{")}), 2, "bad.kostyle: not valid JSON");
+  expectFailure(runTool({"diff", good, put("bad.kostyle", "{")}), 2, "bad.kostyle:1:2: not valid JSON");
   expectFailure(runTool({"diff", good, argument(directory_ / "none")}), 2, "no such file");
-  expectFailure(runTool({"diff", good, argument(directory_.path())}), 2, "is a directory");
+  expectFailure(runTool({"diff", good, argument(directory_.path())}), 2, "a directory, not a file");
   expectFailure(runTool({"diff", good, "S", "--user", argument(directory_.folder("user"))}), 2,
                 "no style has this identifier");
   expectFailure(runTool({"diff", good}), 2, "B is required");
@@ -127,7 +127,8 @@ TEST_F(Diff, NamesTheFilesOfADirectoryThatAreRefused) {
   const Outcome outcome = runTool({"diff", argument(before), argument(after)});
   EXPECT_EQ(outcome.exitCode, 2);
   EXPECT_EQ(outcome.out, "");
-  EXPECT_THAT(outcome.err, StartsWith("kostyle: " + argument(before) + "/bad.kostyle: not valid JSON"));
+  EXPECT_THAT(outcome.err,
+              StartsWith("kostyle: " + argument(before) + "/bad.kostyle:1:2: not valid JSON"));
 }
 
 #if !defined(_WIN32)
@@ -135,7 +136,7 @@ TEST_F(Diff, WaitsForNoPipe) {
   const fs::path pipe = directory_ / "pipe.kostyle";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   const std::string good = put("good.kostyle", document("S", "N"));
-  expectFailure(runTool({"diff", argument(pipe), good}), 2, "pipe.kostyle: is not a regular file");
+  expectFailure(runTool({"diff", argument(pipe), good}), 2, "pipe.kostyle: not a regular file");
 }
 
 TEST_F(Diff, OutputThatCannotBeWrittenIsTrouble) {
@@ -143,7 +144,7 @@ TEST_F(Diff, OutputThatCannotBeWrittenIsTrouble) {
   EXPECT_EQ(runToolWithoutOutput(err, {"diff", put("a.kostyle", document("S", "N")),
                                        put("b.kostyle", document("S", "M"))}),
             2);
-  EXPECT_EQ(readFile(err), "kostyle: the output cannot be written\n");
+  EXPECT_EQ(readFile(err), "kostyle: the output cannot be written: No space left on device\n");
 }
 #endif
 

@@ -293,7 +293,8 @@ TEST_F(Edit, KeepsALink) {
 }
 
 TEST_F(Edit, OpensNoDirectory) {
-  expectFailure(editWith("false", {"edit", argument(folder_)}), 1, "my styles: is a directory");
+  expectFailure(editWith("false", {"edit", argument(folder_)}), 1,
+                "my styles: a directory, not a file");
   expectFailure(editWith("false", {"edit", argument(folder_ / "none")}), 2, "no such file");
 }
 

@@ -188,9 +188,9 @@ TEST_F(Format, WritesTheGoodAmongTheBad) {
                                    argument(folder_ / "none"), argument(folder_), argument(file_)});
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_EQ(outcome.out, printed(file_) + "\n");
-  EXPECT_THAT(outcome.err, HasSubstr("bad.kostyle: not valid JSON"));
+  EXPECT_THAT(outcome.err, HasSubstr("bad.kostyle:1:2: not valid JSON"));
   EXPECT_THAT(outcome.err, HasSubstr("none: "));
-  EXPECT_THAT(outcome.err, HasSubstr(printed(folder_) + ": is a directory\n"));
+  EXPECT_THAT(outcome.err, HasSubstr(printed(folder_) + ": a directory, not a file\n"));
   EXPECT_EQ(content(), pretty);
   EXPECT_EQ(readFile(folder_ / "bad.kostyle"), "{");
 }
@@ -255,7 +255,7 @@ TEST_F(Format, KeepsModeAndOwner) {
 
 TEST_F(Format, WaitsForNoPipe) {
   ASSERT_EQ(mkfifo(file_.c_str(), 0600), 0);
-  expectFailure(format(), 1, "mine.kostyle: is not a regular file");
+  expectFailure(format(), 1, "mine.kostyle: not a regular file");
 }
 
 TEST_F(Format, KeepsTheFileOnAFullDisk) {
@@ -273,7 +273,7 @@ TEST_F(Format, TellsThatNothingCanBePrinted) {
   const fs::path err = directory_ / "err";
   writeFile(file_, loose);
   EXPECT_EQ(runToolWithoutOutput(err, {"format", "--check", argument(file_)}), 1);
-  EXPECT_EQ(readFile(err), "kostyle: the output cannot be written\n");
+  EXPECT_EQ(readFile(err), "kostyle: the output cannot be written: No space left on device\n");
 }
 #endif
 

@@ -1,6 +1,7 @@
 // What a listing shows: columns that fit, the order of the styles, and which of them.
 #include <sstream>
 
+#include "tool/environment.h"
 #include "tool/tool.h"
 
 namespace test {

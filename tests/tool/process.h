@@ -137,34 +137,6 @@ class OtherTemporaryPath {
   fs::path before_;
 };
 
-/// While the object lives, a variable of the environment has another value.
-class OtherVariable {
- public:
-  OtherVariable(const char* name, const std::string& value) : name_(name) {
-    if (const char* const before = std::getenv(name)) before_ = before;
-    set(&value);
-  }
-  OtherVariable(const OtherVariable&) = delete;
-  OtherVariable& operator=(const OtherVariable&) = delete;
-  ~OtherVariable() { set(before_ ? &*before_ : nullptr); }
-
- private:
-  void set(const std::string* value) const {
-#if defined(_WIN32)
-    SetEnvironmentVariableA(name_, value ? value->c_str() : nullptr);
-#else
-    if (value) {
-      setenv(name_, value->c_str(), 1);
-    } else {
-      unsetenv(name_);
-    }
-#endif
-  }
-
-  const char* name_;
-  std::optional<std::string> before_;
-};
-
 /// Printed lines end in \n on every system.
 inline std::string readPrinted(const fs::path& path) {
   std::string text = readFile(path);

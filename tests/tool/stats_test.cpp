@@ -60,7 +60,7 @@ TEST(Stats, NeedsDirectories) {
   expectFailure(runTool({"stats"}), 2, "DIR is required");
   expectFailure(runTool({"stats", ""}), 2, "the path of a directory is empty");
   expectFailure(runTool({"stats", argument(directory / "none")}), 2, "none: no such directory");
-  expectFailure(runTool({"stats", argument(directory / "a.kostyle")}), 2, "no such directory");
+  expectFailure(runTool({"stats", argument(directory / "a.kostyle")}), 2, "not a directory");
 }
 
 }  // namespace

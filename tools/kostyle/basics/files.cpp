@@ -60,13 +60,20 @@ std::string readAll(std::FILE* file, const std::string& shown) {
 
 }  // namespace
 
-std::string readBytes(const fs::path& path) {
+void requireRegularFile(const fs::path& path) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
-  if (fs::is_directory(status))
-    throw Refused(fmt::format("{}: a directory, not a file", shownPath(path)));
-  if (fs::exists(status) && !fs::is_regular_file(status))
-    throw Refused(fmt::format("{}: not a regular file", shownPath(path)));
+  if (fs::is_regular_file(status)) return;
+  const std::string why = fs::is_directory(status) ? "a directory, not a file"
+                          : fs::exists(status)     ? "not a regular file"
+                          : error                  ? error.message()
+                                                   : "no such file";
+  throw Refused(fmt::format("{}: {}", shownPath(path), why));
+}
+
+std::string readBytes(const fs::path& path) {
+  std::error_code ignored;
+  if (fs::exists(path, ignored)) requireRegularFile(path);
   const File file = openFile(path, "rb");
   if (!file) fail(path, "the file cannot be opened");
   return readAll(file.get(), shownPath(path));

@@ -9,6 +9,9 @@
 
 namespace tool {
 
+/// Throws Refused, with the reason, unless a regular file stands at a path or where its link leads.
+void requireRegularFile(const fs::path& path);
+
 /// Throws Refused with the reason: the system's, or that the file is no regular one or larger than
 /// --max-size.
 std::string readBytes(const fs::path& path);

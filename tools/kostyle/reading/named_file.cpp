@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "basics/failure.h"
+#include "basics/files.h"
 #include "reading/manager.h"
 
 namespace tool {
@@ -23,17 +24,6 @@ NamedFile namedFile(const std::string& argument, const StyleDirectories& directo
     throw WrongUse(fmt::format("{}: no such file; an identifier needs --system or --user", argument));
   requireRegularFile(path);
   return {path};
-}
-
-void requireRegularFile(const fs::path& path) {
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (fs::is_regular_file(status)) return;
-  const std::string why = fs::is_directory(status) ? "is a directory"
-                          : fs::exists(status)     ? "is not a regular file"
-                          : error                  ? error.message()
-                                                   : "no such file";
-  throw Refused(fmt::format("{}: {}", shownPath(path), why));
 }
 
 }  // namespace tool
