@@ -51,7 +51,7 @@ class HelpTest(unittest.TestCase):
                     done = self.paste(example)
                     # What is found is no failure.
                     self.assertIn(done.returncode, (0, 1) if command in ("check", "diff") else (0,), done.stderr)
-                    self.assertNotRegex(done.stderr, "kostyle: (?!notice: )")
+                    self.assertNotRegex(done.stderr, r"(?m)^kostyle: (?!notice: )")
 
     def test_man_reads_the_manual_page(self):
         if not shutil.which("man"):
