@@ -1,6 +1,4 @@
 // kostyle copy.
-#include <thread>
-
 #include "support/encodings.h"
 #include "tool/tool.h"
 
@@ -121,18 +119,9 @@ TEST_F(Copy, RefusesAFileAsTheDirectory) {
 
 TEST_F(Copy, ManyAtOnceAreAllThere) {
   constexpr int count = 8;
-  const TemporaryDirectory out;
-  std::vector<int> exitCodes(count, -1);
-  std::vector<std::thread> threads;
-  for (int i = 0; i < count; ++i)
-    threads.emplace_back([&, i] {
-      const std::string number = std::to_string(i);
-      exitCodes[static_cast<std::size_t>(i)] =
-          runTo(out / ("out" + number), out / ("err" + number), KOSTYLE_TOOL,
-                {"copy", argument(source_), "--user", argument(user_), "--wait", "300"});
-    });
-  for (std::thread& thread : threads) thread.join();
-  EXPECT_THAT(exitCodes, testing::Each(0));
+  runManyTools(count, [&](int) {
+    return Arguments{"copy", argument(source_), "--user", argument(user_), "--wait", "300"};
+  });
   EXPECT_EQ(entryNames(user_).size(), static_cast<std::size_t>(count));
 }
 

@@ -1,6 +1,4 @@
 // kostyle format. The output for format/ stands whole in golden/.
-#include <thread>
-
 #include "support/encodings.h"
 #include "tool/samples.h"
 
@@ -221,21 +219,11 @@ TEST_F(Format, KeepsALink) {
 
 TEST_F(Format, OfOneFileAtOnceIsDoneByOne) {
   writeFile(file_, loose);
-  constexpr int count = 8;
-  const TemporaryDirectory out;
-  std::vector<int> exitCodes(count, -1);
-  std::vector<std::thread> threads;
-  for (int i = 0; i < count; ++i)
-    threads.emplace_back([&, i] {
-      const std::string number = std::to_string(i);
-      exitCodes[static_cast<std::size_t>(i)] =
-          runTo(out / ("out" + number), out / ("err" + number), KOSTYLE_TOOL,
-                {"format", argument(file_), "--wait", "300"});
-    });
-  for (std::thread& thread : threads) thread.join();
-  EXPECT_THAT(exitCodes, testing::Each(0));
   std::string all;
-  for (int i = 0; i < count; ++i) all += readPrinted(out / ("out" + std::to_string(i)));
+  for (const std::string& text : runManyTools(8, [&](int) {
+         return Arguments{"format", argument(file_), "--wait", "300"};
+       }))
+    all += text;
   EXPECT_EQ(all, printed(file_) + "\n");
   EXPECT_EQ(content(), pretty);
   EXPECT_THAT(entryNames(folder_), ElementsAre("mine.kostyle"));

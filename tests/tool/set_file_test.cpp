@@ -66,19 +66,11 @@ TEST_F(SetFile, KeepsALockFileThatIsSomebodysOwn) {
 
 TEST_F(SetFile, LosesNoChangeOfMany) {
   constexpr int count = 16;
-  const TemporaryDirectory printed;
-  std::vector<int> exitCodes(count, -1);
-  std::vector<std::thread> threads;
-  for (int i = 0; i < count; ++i)
-    threads.emplace_back([&, i] {
-      const std::string number = std::to_string(i);
-      exitCodes[static_cast<std::size_t>(i)] =
-          runTo(printed / ("out" + number), printed / ("err" + number), KOSTYLE_TOOL,
-                {"set", "S", "--user", argument(user_), "--wait", "300", "--add-genre", "g" + number,
-                 "--add", "--param", "E.p" + number + "=" + number});
-    });
-  for (std::thread& thread : threads) thread.join();
-  EXPECT_THAT(exitCodes, testing::Each(0));
+  runManyTools(count, [&](int i) {
+    const std::string number = std::to_string(i);
+    return Arguments{"set", "S", "--user", argument(user_), "--wait", "300"} +
+           Arguments{"--add-genre", "g" + number, "--add", "--param", "E.p" + number + "=" + number};
+  });
   EXPECT_THAT(entryNames(user_), ElementsAre("mine.kostyle"));
   const auto style = styleIn(file_);
   EXPECT_EQ(style["genres"].Size(), static_cast<unsigned>(count));

@@ -6,6 +6,7 @@
 
 #include <map>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "support/document.h"
@@ -24,6 +25,28 @@ inline Outcome runTool(const Arguments& arguments) { return run(KOSTYLE_TOOL, ar
 inline Arguments operator+(Arguments arguments, const Arguments& more) {
   arguments.insert(arguments.end(), more.begin(), more.end());
   return arguments;
+}
+
+/// Runs the tool so often at the same time, with the arguments that each number stands for. Everything
+/// must succeed; gives what each printed.
+template <class ArgumentsOf>
+std::vector<std::string> runManyTools(int count, ArgumentsOf argumentsOf) {
+  const TemporaryDirectory files;
+  const auto file = [&](const char* stream, int i) { return files / (stream + std::to_string(i)); };
+  std::vector<int> exitCodes(static_cast<std::size_t>(count), -1);
+  std::vector<std::thread> threads;
+  for (int i = 0; i < count; ++i)
+    threads.emplace_back([&, i] {
+      exitCodes[static_cast<std::size_t>(i)] =
+          runTo(file("out", i), file("err", i), KOSTYLE_TOOL, argumentsOf(i));
+    });
+  for (std::thread& thread : threads) thread.join();
+  std::vector<std::string> printed;
+  for (int i = 0; i < count; ++i) {
+    EXPECT_EQ(exitCodes[static_cast<std::size_t>(i)], 0) << readPrinted(file("err", i));
+    printed.push_back(readPrinted(file("out", i)));
+  }
+  return printed;
 }
 
 #if !defined(_WIN32)
