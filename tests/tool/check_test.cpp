@@ -177,7 +177,20 @@ TEST_F(CheckTest, NoColorsWhereNoTerminalIs) {
   EXPECT_THAT(outcome.out, Not(HasSubstr("\x1b")));
 }
 
+TEST_F(CheckTest, ReadsAFileOnceThatIsNamedTwice) {
+  const std::string file = argument(put("a.kostyle", document("A", "A")));
+  const Outcome outcome = runCheck({file, argument(directory.path()), file});
+  expectSuccess(outcome);
+  EXPECT_EQ(outcome.out, "");
+}
+
 #if !defined(_WIN32)
+TEST_F(CheckTest, PrintsNoControlCharactersOfNamesForGitHub) {
+  const std::string file = argument(put("a\x1b[31m.kostyle", "{"));
+  EXPECT_THAT(runCheck({"--format", "github", file}).out,
+              testing::AllOf(Not(HasSubstr("\x1b")), HasSubstr("a\\u001b[31m.kostyle")));
+}
+
 TEST_F(CheckTest, SaysThatAPipeIsNoFile) {
   const fs::path pipe = directory / "pipe.kostyle";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);

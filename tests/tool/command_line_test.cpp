@@ -43,6 +43,10 @@ TEST(CommandLine, HelpShowsEveryCommandWithExamples) {
   }
 }
 
+TEST(CommandLine, HelpKeepsNamesAndTextsApart) {
+  EXPECT_THAT(runTool({"set", "--help"}).out, HasSubstr("\n  --delete-language NUMBER\n"));
+}
+
 TEST(CommandLine, RefusesWrongUse) {
   expectFailure(runTool({}), 2, "a command is required");
   expectFailure(runTool({"frob"}), 2, "there is no command \"frob\"; there are list, ");

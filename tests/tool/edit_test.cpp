@@ -95,6 +95,12 @@ class Edit : public testing::Test {
   const fs::path file_ = folder_ / "mine.kostyle";
 };
 
+TEST_F(Edit, KeepsATextThatIsTooLargeToBeReadBack) {
+  const std::string large = indented + std::string(2000, ' ');
+  expectKept(editWith(saving(large), {"edit", argument(file_), "--max-size", "1k"}),
+             "the file is larger than 1024 bytes", large);
+}
+
 TEST_F(Edit, ShowsADocumentInOneLineWithMany) {
   const std::string text = replaced(indented, "1", "2");
   expectWritten(editTo(text));

@@ -217,6 +217,14 @@ TEST_F(Format, KeepsALink) {
   EXPECT_EQ(readFile(target), pretty);
 }
 
+TEST_F(Format, LeavesFilesThatHaveTheNamesOfItsOwn) {
+  for (const char* const name : {"kostyle.new", "kostyle.lock"}) {
+    writeFile(folder_ / name, loose);
+    expectFailure(runTool({"format", argument(folder_ / name)}), 1, "kostyle needs the name itself");
+    EXPECT_EQ(readFile(folder_ / name), loose);
+  }
+}
+
 TEST_F(Format, OfOneFileAtOnceIsDoneByOne) {
   writeFile(file_, loose);
   std::string all;
@@ -262,6 +270,8 @@ TEST_F(Format, TellsThatNothingCanBePrinted) {
   writeFile(file_, loose);
   EXPECT_EQ(runToolWithoutOutput(err, {"format", "--check", argument(file_)}), 1);
   EXPECT_EQ(readFile(err), "kostyle: the output cannot be written: No space left on device\n");
+  EXPECT_EQ(runToolWithoutOutput(err, {"format", argument(file_)}), 1);
+  EXPECT_EQ(content(), loose);
 }
 #endif
 

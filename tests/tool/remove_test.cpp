@@ -1,3 +1,7 @@
+#if !defined(_WIN32)
+#include <unistd.h>
+#endif
+
 #include "tool/held_file.h"
 #include "tool/tool.h"
 
@@ -38,6 +42,19 @@ TEST_F(Remove, RefusesWhatIsNoUserStyle) {
   expectFailure(runTool({"remove", "a", "--user", argument(user_)}), 1,
                 "a: no style has this identifier");
   EXPECT_EQ(contents(directory_.path()), before);
+}
+
+TEST_F(Remove, LeavesAFileThatMayNotBeWritten) {
+#if !defined(_WIN32)
+  if (geteuid() == 0) GTEST_SKIP() << "root may write everything";
+#endif
+  const fs::path file = user_ / "a.kostyle";
+  writeFile(file, document("A", "A"));
+  fs::permissions(file, fs::perms::owner_read);
+  expectFailure(runTool({"remove", "A", "--user", argument(user_), "--yes"}), 1,
+                "a.kostyle: cannot be written");
+  EXPECT_EQ(readFile(file), document("A", "A"));
+  fs::permissions(file, fs::perms::owner_all);
 }
 
 TEST_F(Remove, TakesSeveralOrNone) {

@@ -58,6 +58,13 @@ TEST_F(SetFile, MindsNothingThatIsLeftBehind) {
   EXPECT_THAT(entryNames(user_), ElementsAre("mine.kostyle"));
 }
 
+TEST_F(SetFile, SaysThatApplicationsWouldRefuseTheResult) {
+  const std::string before = readFile(file_);
+  expectFailure(runTool({"set", "S", "--user", argument(user_), "--delete-audio-effect", "E"}), 1,
+                "the file is left as it is, because applications would refuse it");
+  EXPECT_EQ(readFile(file_), before);
+}
+
 TEST_F(SetFile, KeepsALockFileThatIsSomebodysOwn) {
   writeFile(lock_, "mine");
   expectSuccess(runTool(rename("X")));

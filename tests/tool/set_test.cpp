@@ -132,6 +132,7 @@ TEST_F(Set, RefusalLeavesTheFile) {
       {{"--param", "EQ.gian=1"}, 1, "no such parameter; did you mean \"gain\"?; --add adds it"},
       {{"--param", "EQ.x=1"}, 1, "EQ.x=1: the effect has no such parameter; --add adds it\n"},
       {{"--param", "EQ.gain=0,7"}, 1, "0,7: not a number: the decimal sign is a point, not a comma"},
+      {{"--param", "EQ.gain:=1"}, 2, "gain:=1: no type follows the colon"},
       {{"--param", "EQ.gain=loud"}, 1, "the parameter is of type float, NAME:TYPE=VALUE changes that"},
       {{"--param", "EQ.gain=1e39"}, 1, "1e39: out of the range of type float"},
       {{"--param", "EQ.band=0.5"}, 1, "0.5: not a value of type int; the parameter is of type int"},

@@ -2,8 +2,13 @@
 
 #include <fmt/format.h>
 
+#include <cerrno>
 #include <random>
 #include <system_error>
+
+#if !defined(_WIN32)
+#include <sys/stat.h>
+#endif
 
 #include "basics/failure.h"
 
@@ -17,6 +22,17 @@ fs::path absolutePath(const fs::path& path) {
   if (error)
     throw Refused(fmt::format("{}: no working directory: {}", shownPath(path), error.message()));
   return absolute;
+}
+
+// A style may be meant for its owner alone. On Windows the user's temporary files are.
+bool makePrivateDirectory(const fs::path& path, std::error_code& error) {
+#if defined(_WIN32)
+  return fs::create_directory(path, error);
+#else
+  if (mkdir(path.c_str(), S_IRWXU) == 0) return true;
+  if (errno != EEXIST) error = std::error_code(errno, std::generic_category());
+  return false;
+#endif
 }
 
 }  // namespace
@@ -77,7 +93,7 @@ TemporaryDirectory::TemporaryDirectory() {
   bool made = false;
   while (!made && !error) {
     path_ = parent / fmt::format("kostyle-{}", random());
-    made = fs::create_directory(path_, error);
+    made = makePrivateDirectory(path_, error);
   }
   if (!made) throw Refused(fmt::format("no temporary directory: {}", error.message()));
 }

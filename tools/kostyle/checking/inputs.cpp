@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <optional>
+#include <set>
 #include <system_error>
 
 #if defined(_WIN32)
@@ -112,6 +113,8 @@ std::string reasonOf(int error, const char* otherwise) {
 
 std::vector<Input> inputsOf(const std::vector<std::string>& arguments) {
   std::vector<Input> inputs;
+  std::set<Text> named;
+  std::size_t before = 0;
   for (const std::string& argument : arguments) {
     std::vector<Input> more;
     if (argument != standardInput && isDirectory(pathOf(argument))) {
@@ -119,11 +122,12 @@ std::vector<Input> inputsOf(const std::vector<std::string>& arguments) {
     } else {
       more = {fileOf(argument)};
     }
-    const std::size_t before = inputs.size();
     for (Input& input : more) {
       input.order += before;
-      inputs.push_back(std::move(input));
+      const bool isNew = input.path.empty() || named.insert(input.path).second;
+      if (isNew) inputs.push_back(std::move(input));
     }
+    before += more.size();
   }
   return inputs;
 }

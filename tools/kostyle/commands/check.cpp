@@ -131,7 +131,7 @@ documentation. Paths stand in the order in which an application would read them.
 Examples:
   kostyle check styles/system styles/user
   kostyle check --strict --format github styles
-  git diff --name-only -- '*.kostyle' | kostyle check --files-from -)");
+  git -c core.quotePath=off diff --name-only --diff-filter=d -- '*.kostyle' | kostyle check --files-from -)");
   command->callback([options, &chosen] { chosen = [options] { return check(*options); }; });
 }
 

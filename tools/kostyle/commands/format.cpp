@@ -112,7 +112,14 @@ class Formatter {
     const NewContent after = formatted(path, shown, before);
     const auto verify = [&](const std::string& bytes) { requireStyle(path, bytes, after.style); };
     replaceContent(lock, file, {before, after.bytes}, verify, options_.limit);
-    if (after.bytes != before) print(printable(shown) + '\n');
+    if (after.bytes == before) return true;
+    try {
+      print(printable(shown) + '\n');
+      flushOutput();
+    } catch (const Refused&) {
+      FileReplacement(lock, file, before).finish(options_.limit);
+      throw;
+    }
     return true;
   }
 

@@ -36,7 +36,7 @@ std::string wrapped(std::string start, std::string_view text, std::size_t indent
 std::string entry(const std::string& name, const std::string& text) {
   std::string start = fmt::format("  {:<{}}", name, textColumn - 2);
   std::string lines;
-  if (start.size() > textColumn) {
+  if (name.size() + 2 >= textColumn) {
     lines = fmt::format("  {}\n", name);
     start.assign(textColumn, ' ');
   }

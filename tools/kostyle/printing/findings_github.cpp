@@ -34,7 +34,8 @@ std::string findingsGithub(const std::vector<FileReport>& reports) {
   const auto to = std::back_inserter(text);
   for (const FileReport& report : reports) {
     for (const Finding& finding : report.findings) {
-      fmt::format_to(to, "::{} file={}", commandOf(finding.rule->severity), property(report.file));
+      fmt::format_to(to, "::{} file={}", commandOf(finding.rule->severity),
+                     property(printable(report.file)));
       if (finding.place) {
         const Place& place = *finding.place;
         fmt::format_to(to, ",line={},endLine={},col={},endColumn={}", place.begin.line, place.end.line,

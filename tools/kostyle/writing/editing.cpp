@@ -5,6 +5,7 @@
 #include <exception>
 #include <iostream>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "basics/failure.h"
@@ -73,11 +74,13 @@ class Editing {
   }
 
  private:
+  // A text that cannot be read back is one that the user may want to have.
   bool isEdited() const {
     try {
       return readBytes(copy_) != original_.text();
-    } catch (const Refused&) {  // the editor took it away
-      return false;
+    } catch (const Refused&) {
+      std::error_code ignored;
+      return fs::is_regular_file(fs::symlink_status(copy_, ignored));
     } catch (const std::exception&) {  // too little memory to tell
       return true;
     }

@@ -10,21 +10,34 @@
 #include "writing/waiting.h"
 
 namespace tool {
-
 namespace {
+
+constexpr const char* newName = "kostyle.new";
 
 // Where new content is written in a folder. What stands in the way otherwise will be told.
 fs::path clearedPlace(const fs::path& folder) {
-  fs::path path = folder / "kostyle.new";
+  fs::path path = folder / newName;
   std::error_code ignored;
   fs::remove(path, ignored);
   return path;
 }
 
+// What stands beside every file that is replaced cannot be replaced itself.
+void requireFreeName(const fs::path& file) {
+  std::error_code ignored;
+  const fs::path folder = file.parent_path();
+  for (const char* const name : {newName, FolderLock::name})
+    if (file.filename() == name || fs::equivalent(file, folder / name, ignored))
+      throw Refused(
+          fmt::format("{}: kostyle needs the name itself; give the file another one", shownPath(file)));
+}
+
 }  // namespace
 
 FileReplacement::FileReplacement(const FolderLock&, const fs::path& file, std::string_view bytes)
-    : file_(file), path_(clearedPlace(file.parent_path())) {
+    : file_(file) {
+  requireFreeName(file);
+  path_ = clearedPlace(file.parent_path());
   writeNewFile(path_, bytes, file_);
 }
 

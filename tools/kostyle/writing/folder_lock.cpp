@@ -8,7 +8,7 @@
 namespace tool {
 
 FolderLock::FolderLock(const fs::path& folder, std::chrono::milliseconds limit) {
-  const fs::path path = folder / "kostyle.lock";
+  const fs::path path = folder / name;
   Waiting waiting(limit, fmt::format("waiting for another kostyle that has {}", shownPath(path)));
   while (!(file_ = std::make_unique<HeldFile>(path))->isHeld())
     if (!waiting.again())

@@ -11,6 +11,9 @@ namespace tool {
 
 class FolderLock {
  public:
+  /// Of the file that stands in the folder meanwhile.
+  static constexpr const char* name = "kostyle.lock";
+
   /// Waits while another process has the lock, and throws Refused when it still has it at the limit.
   FolderLock(const fs::path& folder, std::chrono::milliseconds limit);
 

@@ -64,6 +64,15 @@ void moveToEnd(ChainContent& chain, const ChainContent& added) {
   }
 }
 
+StyleContent contentRead(const fs::path& path, const std::string& bytes) {
+  try {
+    return contentOf(StyleFile(path, bytes).style());
+  } catch (const Refused& error) {
+    throw Refused(fmt::format("{}; the file is left as it is, because applications would refuse it",
+                              error.what()));
+  }
+}
+
 }  // namespace
 
 NewContent ownForm(const fs::path& path, const std::string& document, const StyleContent& style,
@@ -80,7 +89,7 @@ NewContent ownForm(const fs::path& path, const std::string& document, const Styl
 
 void requireStyle(const fs::path& path, const std::string& bytes, const StyleContent& style,
                   const StyleChange& added) {
-  StyleContent found = contentOf(StyleFile(path, bytes).style());
+  StyleContent found = contentRead(path, bytes);
   for (std::size_t chain = 0; chain < found.chains.size(); ++chain)
     moveToEnd(found.chains[chain], added.chains[chain].added);
   const std::vector<Difference> differing = differences(style, found);

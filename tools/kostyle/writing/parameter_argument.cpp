@@ -58,6 +58,7 @@ Assignment parseAssignment(const std::string& text) {
   const std::string value = text.substr(equals + 1);
   const std::size_t colon = name.rfind(':');
   if (colon == name.npos) return {name, {}, value};
+  if (colon + 1 == name.size()) throw WrongUse(fmt::format("{}: no type follows the colon", text));
   return {name.substr(0, colon), name.substr(colon + 1), value};
 }
 

@@ -23,6 +23,7 @@ RemovableFile::RemovableFile(KoStyleStyle* style)
 }
 
 void RemovableFile::remove(std::chrono::milliseconds limit) const {
+  if (!fs::is_symlink(path_)) requireWriteAccess(path_);
   const FolderLock lock(path_.parent_path(), limit);
   if (readBytes(path_) != bytes_)
     throw Refused(
