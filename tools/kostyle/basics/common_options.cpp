@@ -1,6 +1,6 @@
 #include "basics/common_options.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <CLI/CLI.hpp>
 #include <charconv>

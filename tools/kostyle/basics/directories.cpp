@@ -1,6 +1,6 @@
 #include "basics/directories.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <CLI/CLI.hpp>
 #include <string>

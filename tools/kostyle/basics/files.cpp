@@ -4,7 +4,7 @@
 #endif
 #include "basics/files.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <cerrno>
 #include <cstdio>

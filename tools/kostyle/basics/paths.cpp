@@ -1,6 +1,6 @@
 #include "basics/paths.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <cerrno>
 #include <random>

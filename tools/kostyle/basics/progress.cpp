@@ -1,6 +1,6 @@
 #include "basics/progress.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <utility>

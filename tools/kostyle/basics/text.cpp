@@ -1,10 +1,12 @@
 #include "basics/text.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+
+#include "basics/surrogates.h"
 
 namespace tool {
 namespace {
@@ -12,8 +14,7 @@ namespace {
 constexpr char32_t strayByteBase = 0xDC00;
 constexpr char32_t replacement = 0xFFFD;
 
-bool isHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool isSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDFFF; }
+bool isSurrogate(char32_t unit) { return isHighSurrogate(unit) || isLowSurrogate(unit); }
 
 // The length of the sequence that a byte leads; 0 when none does.
 std::size_t sequenceLength(unsigned char lead) {
@@ -43,9 +44,9 @@ char32_t takeUnits(TextView& text) {
   text.remove_prefix(1);
   if (!isHighSurrogate(first) || text.empty()) return first;
   const char32_t second = text.front();
-  if (!isSurrogate(second) || isHighSurrogate(second)) return first;
+  if (!isLowSurrogate(second)) return first;
   text.remove_prefix(1);
-  return 0x10000 + ((first - 0xD800) << 10) + (second - 0xDC00);
+  return fromSurrogates(first, second);
 }
 
 bool isIn(char32_t codePoint, char32_t first, char32_t last) {
@@ -112,17 +113,18 @@ bool isUnicode(TextView text) {
   return true;
 }
 
+void append(Text& text, char32_t codePoint) {
+  if (codePoint < 0x10000) {
+    text += static_cast<KoStyleChar>(codePoint);
+  } else {
+    text += static_cast<KoStyleChar>(0xD800 + ((codePoint - 0x10000) >> 10));
+    text += static_cast<KoStyleChar>(0xDC00 + ((codePoint - 0x10000) & 0x3FF));
+  }
+}
+
 Text fromUtf8(std::string_view bytes) {
   Text text;
-  while (!bytes.empty()) {
-    const char32_t codePoint = takeCodePoint(bytes);
-    if (codePoint < 0x10000) {
-      text += static_cast<KoStyleChar>(codePoint);
-    } else {
-      text += static_cast<KoStyleChar>(0xD800 + ((codePoint - 0x10000) >> 10));
-      text += static_cast<KoStyleChar>(0xDC00 + ((codePoint - 0x10000) & 0x3FF));
-    }
-  }
+  while (!bytes.empty()) append(text, takeCodePoint(bytes));
   return text;
 }
 

@@ -20,6 +20,8 @@ bool isUtf8(std::string_view bytes);
 /// False when a surrogate stands alone: such text cannot be written to a file.
 bool isUnicode(TextView text);
 
+void append(Text& text, char32_t codePoint);
+
 Text fromUtf8(std::string_view bytes);
 
 /// Always valid UTF-8: a lone surrogate becomes U+FFFD.

@@ -1,6 +1,6 @@
 #include "basics/value.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "checking/inputs.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "checking/left_out_words.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include "format/style_keys.h"
 

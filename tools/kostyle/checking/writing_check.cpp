@@ -1,6 +1,6 @@
 #include "checking/writing_check.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <cmath>

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "basics/failure.h"
+#include "basics/surrogates.h"
 #include "basics/text.h"
 
 namespace tool {
@@ -20,9 +21,6 @@ FileEncoding encodingOf(std::string_view bytes) {
   BytesInMemory memory{bytes};
   return FileEncoding::of(Block(&memory));
 }
-
-bool isLowSurrogate(char32_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; }
-bool isHighSurrogate(char32_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 
 }  // namespace
 
@@ -72,8 +70,7 @@ Character SourceText::at(std::size_t offset) const {
   const char32_t unit = unitAt(offset);
   if (unitSize == 2 && isHighSurrogate(unit) && left >= 2 * unitSize) {
     const char32_t second = unitAt(offset + unitSize);
-    if (isLowSurrogate(second))
-      return {0x10000 + ((unit - 0xD800) << 10) + (second - 0xDC00), 2 * unitSize};
+    if (isLowSurrogate(second)) return {fromSurrogates(unit, second), 2 * unitSize};
   }
   constexpr char32_t noCharacter = 0xDFFF;
   return {unit > 0x10FFFF ? noCharacter : unit, std::min(unitSize, left)};
@@ -123,12 +120,7 @@ std::string SourceText::utf8(Span span) const {
   Text text;
   for (std::size_t offset = span.begin; offset < span.end;) {
     const Character character = at(offset);
-    if (character.codePoint < 0x10000) {
-      text += static_cast<KoStyleChar>(character.codePoint);
-    } else {
-      text += static_cast<KoStyleChar>(0xD800 + ((character.codePoint - 0x10000) >> 10));
-      text += static_cast<KoStyleChar>(0xDC00 + ((character.codePoint - 0x10000) & 0x3FF));
-    }
+    append(text, character.codePoint);
     offset += character.size;
   }
   return toUtf8(text);

@@ -1,6 +1,6 @@
 #include "editing/edited_document.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <array>

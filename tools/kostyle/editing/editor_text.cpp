@@ -1,6 +1,6 @@
 #include "editing/editor_text.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 

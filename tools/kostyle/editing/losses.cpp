@@ -1,6 +1,6 @@
 #include "editing/losses.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <cstdlib>
 #include <set>
@@ -12,9 +12,9 @@
 namespace tool {
 namespace {
 
-class Comparison {
+class LossSearch {
  public:
-  Comparison(const JsonDocument& whole, const JsonDocument& written)
+  LossSearch(const JsonDocument& whole, const JsonDocument& written)
       : whole_(whole), written_(written) {}
 
   std::vector<std::string> find() {
@@ -96,7 +96,7 @@ class Comparison {
 std::vector<std::string> losses(const std::string& whole, const std::string& written) {
   const SourceText source(whole);
   const SourceText other(written);
-  return Comparison(JsonDocument(source), JsonDocument(other)).find();
+  return LossSearch(JsonDocument(source), JsonDocument(other)).find();
 }
 
 std::vector<std::string> encodingLosses(const std::string& whole) {

@@ -1,9 +1,11 @@
 #include "editing/new_json.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <cstdint>
 #include <iterator>
+
+#include "basics/surrogates.h"
 
 namespace tool {
 namespace {
@@ -39,7 +41,7 @@ std::string jsonString(TextView text, bool onlyAscii) {
     } else if (unit < 0x20 || (onlyAscii && unit >= 0x7F)) {
       fmt::format_to(std::back_inserter(result), "\\u{:04x}", static_cast<std::uint16_t>(unit));
     } else {
-      const std::size_t plain = unit >= 0xD800 && unit <= 0xDBFF ? 2 : 1;
+      const std::size_t plain = isHighSurrogate(unit) ? 2 : 1;
       result += toUtf8(text.substr(0, plain));
       text.remove_prefix(plain);
       continue;

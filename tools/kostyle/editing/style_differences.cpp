@@ -34,7 +34,7 @@ std::set<std::size_t> outOfOrder(const std::vector<std::size_t>& numbers) {
 
 Value place(std::size_t index) { return static_cast<int>(index) + 1; }
 
-class Comparison {
+class DifferenceSearch {
  public:
   std::vector<Difference> find(const StyleContent& before, const StyleContent& after) {
     compareText(What::id, before.id, after.id);
@@ -140,7 +140,7 @@ class Comparison {
 }  // namespace
 
 std::vector<Difference> differences(const StyleContent& before, const StyleContent& after) {
-  return Comparison().find(before, after);
+  return DifferenceSearch().find(before, after);
 }
 
 }  // namespace tool

@@ -1,6 +1,6 @@
 #include "help/command_line.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 #include <kostyle/version.h>
 
 #include <CLI/CLI.hpp>

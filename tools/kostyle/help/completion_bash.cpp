@@ -9,7 +9,7 @@ namespace tool {
 namespace {
 
 // What stands before the cursor, and how files and words are offered.
-constexpr const char* start =
+constexpr const char* bashStart =
     R"(# Completion of kostyle for bash, as "kostyle completion bash" prints it.
 _kostyle() {
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} command= word
@@ -27,17 +27,17 @@ _kostyle() {
   COMPREPLY=()
   case "$command $previous" in
 )";
-constexpr const char* middle = R"(  esac
+constexpr const char* bashMiddle = R"(  esac
   case "$command" in
 )";
-constexpr const char* end = R"(  esac
+constexpr const char* bashEnd = R"(  esac
 }
 complete -F _kostyle kostyle
 )";
 
-constexpr const char* files =
+constexpr const char* completeFiles =
     "compopt -o filenames; mapfile -t COMPREPLY < <(compgen -f -- \"$current\")";
-constexpr const char* directories =
+constexpr const char* completeDirectories =
     "compopt -o filenames; mapfile -t COMPREPLY < <(compgen -d -- \"$current\")";
 
 std::string words(const std::vector<std::string>& list) {
@@ -49,8 +49,8 @@ std::string valueCase(const std::string& command, const OptionDescription& optio
   std::string patterns;
   for (const std::string& name : option.names)
     patterns += fmt::format("{}'{} {}'", patterns.empty() ? "" : "|", command, name);
-  const std::string offered = option.kind == ValueKind::file        ? files
-                              : option.kind == ValueKind::directory ? directories
+  const std::string offered = option.kind == ValueKind::file        ? completeFiles
+                              : option.kind == ValueKind::directory ? completeDirectories
                               : option.kind == ValueKind::choice    ? words(option.choices)
                                                                     : std::string(":");
   return fmt::format("    {}) {}; return ;;\n", patterns, offered);
@@ -67,7 +67,7 @@ std::string argumentsCase(const CommandDescription& command) {
   std::string offered = ":";
   for (const OptionDescription& option : command.options) {
     if (!option.isArgument()) continue;
-    if (option.kind == ValueKind::file) offered = files;
+    if (option.kind == ValueKind::file) offered = completeFiles;
     if (option.kind == ValueKind::choice) offered = words(option.choices);
   }
   return fmt::format(
@@ -81,17 +81,17 @@ std::string bashCompletion(const CommandDescription& tool) {
   std::vector<std::string> commands;
   commands.reserve(tool.commands.size());
   for (const CommandDescription& command : tool.commands) commands.push_back(command.word());
-  std::string text = start;
+  std::string text = bashStart;
   const std::string place = "{commands}";
   text.replace(text.find(place), place.size(), fmt::format("{}", fmt::join(commands, "|")));
   for (const CommandDescription& command : tool.commands)
     for (const OptionDescription& option : command.options) text += valueCase(command.word(), option);
-  text += middle;
+  text += bashMiddle;
   for (const CommandDescription& command : tool.commands) text += argumentsCase(command);
   std::vector<std::string> first = commands;
   for (const std::string& name : optionNames(tool)) first.push_back(name);
   text += fmt::format("    '') {} ;;\n", words(first));
-  return text + end;
+  return text + bashEnd;
 }
 
 }  // namespace tool

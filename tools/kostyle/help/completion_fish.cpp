@@ -8,7 +8,7 @@
 namespace tool {
 namespace {
 
-std::string quoted(std::string_view text) {
+std::string quotedForFish(std::string_view text) {
   std::string result = "'";
   for (const char c : text) {
     if (c == '\'' || c == '\\') result += '\\';
@@ -24,7 +24,7 @@ std::string offered(const OptionDescription& option) {
     case ValueKind::text:
       return " -x";
     case ValueKind::choice:
-      return fmt::format(" -x -a {}", quoted(fmt::format("{}", fmt::join(option.choices, " "))));
+      return fmt::format(" -x -a {}", quotedForFish(fmt::format("{}", fmt::join(option.choices, " "))));
     case ValueKind::file:
       return " -r -F";
     case ValueKind::directory:
@@ -41,13 +41,14 @@ std::string optionLines(const CommandDescription& command, const std::string& co
       lines += name[1] == '-' ? fmt::format(" -l {}", name.substr(2))
                               : fmt::format(" -s {}", name.substr(1));
     if (option.isArgument()) {
-      lines += option.kind == ValueKind::choice
-                   ? fmt::format(" -a {}", quoted(fmt::format("{}", fmt::join(option.choices, " "))))
-               : option.kind == ValueKind::file ? " -F"
-                                                : "";
+      lines +=
+          option.kind == ValueKind::choice
+              ? fmt::format(" -a {}", quotedForFish(fmt::format("{}", fmt::join(option.choices, " "))))
+          : option.kind == ValueKind::file ? " -F"
+                                           : "";
       lines += '\n';
     } else {
-      lines += fmt::format("{} -d {}\n", offered(option), quoted(option.text));
+      lines += fmt::format("{} -d {}\n", offered(option), quotedForFish(option.text));
     }
   }
   return lines;
@@ -62,9 +63,9 @@ std::string fishCompletion(const CommandDescription& tool) {
   text += optionLines(tool, "__fish_use_subcommand");
   for (const CommandDescription& command : tool.commands)
     text += fmt::format("complete -c kostyle -n __fish_use_subcommand -a {} -d {}\n", command.word(),
-                        quoted(command.text));
+                        quotedForFish(command.text));
   for (const CommandDescription& command : tool.commands)
-    text += optionLines(command, quoted("__fish_seen_subcommand_from " + command.word()));
+    text += optionLines(command, quotedForFish("__fish_seen_subcommand_from " + command.word()));
   return text;
 }
 

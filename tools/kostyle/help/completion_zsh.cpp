@@ -8,14 +8,14 @@
 namespace tool {
 namespace {
 
-constexpr const char* start = R"(#compdef kostyle
+constexpr const char* zshStart = R"(#compdef kostyle
 # Completion of kostyle for zsh, as "kostyle completion zsh" prints it.
 _kostyle() {
   local context state state_descr line ret=1
   typeset -A opt_args
   local -a commands=(
 )";
-constexpr const char* end = R"(      esac
+constexpr const char* zshEnd = R"(      esac
       ;;
   esac
   return ret
@@ -28,7 +28,7 @@ fi
 )";
 
 // In quotation marks, with what the function would take for its own marks escaped.
-std::string quoted(std::string_view text, std::string_view marks) {
+std::string quotedForZsh(std::string_view text, std::string_view marks) {
   std::string result;
   for (const char c : text) {
     if (marks.find(c) != marks.npos) result += '\\';
@@ -56,7 +56,7 @@ std::string action(const OptionDescription& option) {
 
 std::string valueSpec(const OptionDescription& option) {
   if (option.kind == ValueKind::none) return {};
-  return fmt::format(":{}:{}", quoted(option.value, ":"), action(option));
+  return fmt::format(":{}:{}", quotedForZsh(option.value, ":"), action(option));
 }
 
 std::string optionSpecs(const CommandDescription& command, const char* indent) {
@@ -69,7 +69,7 @@ std::string optionSpecs(const CommandDescription& command, const char* indent) {
     for (const std::string& name : option.names) {
       const char* const joint = option.kind == ValueKind::none ? "" : name[1] == '-' ? "=" : "+";
       specs += fmt::format(" \\\n{}'{}{}{}[{}]{}'", indent, option.repeats ? "*" : "", name, joint,
-                           quoted(option.text, ":[]"), valueSpec(option));
+                           quotedForZsh(option.text, ":[]"), valueSpec(option));
     }
   }
   return specs;
@@ -78,9 +78,9 @@ std::string optionSpecs(const CommandDescription& command, const char* indent) {
 }  // namespace
 
 std::string zshCompletion(const CommandDescription& tool) {
-  std::string text = start;
+  std::string text = zshStart;
   for (const CommandDescription& command : tool.commands)
-    text += fmt::format("    '{}:{}'\n", command.word(), quoted(command.text, ":"));
+    text += fmt::format("    '{}:{}'\n", command.word(), quotedForZsh(command.text, ":"));
   text += fmt::format(
       "  )\n  _arguments -C{} \\\n    '1: :->command' \\\n    '*:: :->arguments' && ret=0\n"
       "  case $state in\n    command)\n      _describe -t commands command commands && ret=0\n      "
@@ -90,7 +90,7 @@ std::string zshCompletion(const CommandDescription& tool) {
   for (const CommandDescription& command : tool.commands)
     text += fmt::format("        {})\n          _arguments -s{} && ret=0\n          ;;\n",
                         command.word(), optionSpecs(command, "            "));
-  return text + end;
+  return text + zshEnd;
 }
 
 }  // namespace tool

@@ -1,6 +1,6 @@
 #include "printing/differences.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include "printing/json_writing.h"
 #include "printing/value_json.h"

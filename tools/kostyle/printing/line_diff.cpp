@@ -1,6 +1,6 @@
 #include "printing/line_diff.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <string_view>

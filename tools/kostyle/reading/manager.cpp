@@ -1,6 +1,6 @@
 #include "reading/manager.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 #include <kostyle/helpers.h>
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "reading/named_file.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <system_error>
 

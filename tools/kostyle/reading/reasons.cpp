@@ -1,6 +1,6 @@
 #include "reading/reasons.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 #include <kostyle/helpers.h>
 
 #include <utility>

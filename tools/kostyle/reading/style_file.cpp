@@ -1,6 +1,6 @@
 #include "reading/style_file.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include "basics/failure.h"
 #include "basics/files.h"

@@ -1,6 +1,6 @@
 #include "reading/style_filter.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

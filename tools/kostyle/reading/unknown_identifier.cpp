@@ -1,6 +1,6 @@
 #include "reading/unknown_identifier.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <cstdint>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "reading/unopened.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <set>

@@ -1,6 +1,6 @@
 #include "writing/changing.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <utility>
 

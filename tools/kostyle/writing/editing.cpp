@@ -1,6 +1,6 @@
 #include "writing/editing.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <exception>
 #include <iostream>

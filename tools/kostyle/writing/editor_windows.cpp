@@ -1,6 +1,6 @@
 #define NOMINMAX
 #define WIN32_LEAN_AND_MEAN
-#include <fmt/format.h>
+#include <fmt/core.h>
 #include <windows.h>
 
 #include <string>

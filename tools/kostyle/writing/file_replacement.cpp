@@ -1,6 +1,6 @@
 #include "writing/file_replacement.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <system_error>
 

@@ -1,6 +1,6 @@
 #include "writing/folder_lock.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include "basics/failure.h"
 #include "writing/waiting.h"

@@ -1,6 +1,6 @@
 #include "writing/mutable_style.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include "basics/failure.h"
 #include "reading/attributes.h"

@@ -1,6 +1,6 @@
 #include "writing/own_form.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 #include <kostyle/helpers.h>
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "writing/parameter_argument.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <tuple>
 

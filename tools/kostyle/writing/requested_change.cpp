@@ -1,6 +1,6 @@
 #include "writing/requested_change.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <set>

@@ -1,6 +1,6 @@
 #include "writing/saving.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 #include <kostyle/helpers.h>
 
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "writing/style_edits.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

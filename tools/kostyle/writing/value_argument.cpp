@@ -1,6 +1,6 @@
 #include "writing/value_argument.h"
 
-#include <fmt/format.h>
+#include <fmt/core.h>
 
 #include <algorithm>
 #include <charconv>
