@@ -156,6 +156,8 @@ TEST_F(CheckTest, RefusesWrongUse) {
   expectFailure(runCheck({"a", "--format", "xml"}), 2, "xml");
   expectFailure(runCheck({"a", "--severity", "fatal"}), 2, "fatal");
   expectFailure(runCheck({"a", "--jobs", "0"}), 2, "jobs");
+  expectFailure(runCheck({"--files-from", argument(TemporaryDirectory().path().parent_path())}), 1,
+                "a directory, not a list of paths");
   expectFailure(runCheck({"a", "--max-size", "much"}), 2, "max-size");
   expectFailure(runCheck({"--files-from", argument(directory / "none")}), 1,
                 "the list cannot be opened");

@@ -60,7 +60,7 @@ TEST(CommandLine, RefusesWrongUse) {
   expectFailure(runTool({"two\nlines"}), 2, "two\\u000alines");
   expectFailure(runTool({"list", "--system", "a", "--json=5"}), 2, "--json takes no value");
   expectFailure(runTool({"list", "--system"}), 2, "--system DIR: the value is missing");
-  expectFailure(runTool({"list", "--sort", "a", "--sort", "b"}), 2,
+  expectFailure(runTool({"list", "--sort", "name", "--sort", "id"}), 2,
                 "--sort NAME is given more than once");
   expectFailure(runTool({"check", "a", "--format", "jsno"}), 2,
                 "--format: \"jsno\" is none of text, json, sarif, github; did you mean \"json\"?");
@@ -73,6 +73,16 @@ TEST(CommandLine, RefusesWrongUse) {
   expectFailure(runTool({"list", "--user-extra", "a"}), 2, "--user-extra needs --user beside it");
   expectFailure(runTool({"set", "A", "--user", "a", "--pretty"}), 2,
                 "--pretty needs --reformat beside it");
+  expectFailure(runTool({"--max-size", "1k", "--max-size", "2k", "list"}), 2,
+                "--max-size SIZE is given more than once");
+  expectFailure(runTool({"list", "--max-size", "1k", "--max-size", "2k"}), 2,
+                "--max-size SIZE is given more than once");
+  expectFailure(runTool({"--max-size", "1k", "list", "--max-size"}), 2,
+                "--max-size SIZE: the value is missing");
+  expectFailure(runTool({"--quite", "list"}), 2,
+                "kostyle has no option --quite; did you mean \"--quiet\"?");
+  expectFailure(runTool({"help", "list"}), 2,
+                "there is no command \"help\"; \"kostyle --help\" helps, and so does");
   expectFailure(runTool({"completion", "tcsh"}), 2, "SHELL: \"tcsh\" is none of bash, zsh, fish");
 }
 

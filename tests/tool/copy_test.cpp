@@ -104,9 +104,10 @@ TEST_F(Copy, RefusesWhatIsNoStyle) {
   fs::remove(source_);
   expectFailure(copy(), 2, "factory.kostyle: no such file; an identifier needs --system or --user");
   fs::create_directory(source_);
-  expectFailure(copy(), 1, "factory.kostyle: a directory, not a file");
+  expectFailure(copy(), 1,
+                "factory.kostyle: a directory, not a file; \"kostyle list\" lists its styles");
   expectFailure(runTool({"copy", "X", "--system", argument(system_), "--user", argument(user_)}), 1,
-                "X: no style has this identifier");
+                "X: no such file, and no style has this identifier");
   expectFailure(runTool({"copy", argument(source_)}), 2, "--user is required");
   EXPECT_FALSE(fs::exists(user_));
 }

@@ -112,7 +112,10 @@ TEST_F(Diff, TellsTroubleFromADifference) {
   const std::string good = put("good.kostyle", document("S", "N"));
   expectFailure(runTool({"diff", good, put("bad.kostyle", "{")}), 2, "bad.kostyle:1:2: not valid JSON");
   expectFailure(runTool({"diff", good, argument(directory_ / "none")}), 2, "no such file");
-  expectFailure(runTool({"diff", good, argument(directory_.path())}), 2, "a directory, not a file");
+  expectFailure(runTool({"diff", good, argument(directory_.path())}), 2,
+                argument(directory_.path()) + " is a directory, " + good + " is none");
+  expectFailure(runTool({"diff", argument(directory_.path()), "none"}), 2,
+                " is a directory, none is none");
   expectFailure(runTool({"diff", good, "S", "--user", argument(directory_.folder("user"))}), 2,
                 "no style has this identifier");
   expectFailure(runTool({"diff", good}), 2, "B is required");

@@ -323,7 +323,20 @@ TEST_F(Edit, KeepsTheTextWhenTheFileMayNotBeReplaced) {
                              {"-c", script, KOSTYLE_TOOL, "edit", argument(file_)});
   fs::permissions(folder_, fs::perms::owner_all);
   expectKept({exitCode, readPrinted(directory_ / "out"), readPrinted(directory_ / "err")},
-             "kostyle.lock: cannot be opened: Permission denied", text);
+             printed(folder_) + ": no file can be made in it: Permission denied", text);
+}
+
+TEST_F(Edit, BeginsNoTextThatCannotBeWritten) {
+  const OtherVariable visual("VISUAL", "touch '" + argument(directory_ / "begun") + "'; true");
+  for (const fs::path& path : {file_, folder_}) {
+    fs::permissions(path, fs::perms::owner_write, fs::perm_options::remove);
+    const Outcome outcome = runUnprivileged({"edit", argument(file_)});
+    fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
+    expectFailure(outcome, 1,
+                  path == file_ ? "mine.kostyle: cannot be written: Permission denied"
+                                : printed(folder_) + ": no file can be made in it: Permission denied");
+  }
+  EXPECT_FALSE(fs::exists(directory_ / "begun"));
 }
 
 TEST_F(Edit, KeepsTheTextWhenNothingCanBePrinted) {

@@ -158,6 +158,15 @@ TEST_F(Format, LosesItWhenAskedTo) {
   EXPECT_EQ(content(), document("I", "N"));
 }
 
+TEST_F(Format, LosesEffectsThatAreNotReadAgain) {
+  writeFile(
+      file_,
+      R"({"id":"I","name":"N","audioEffect":{"Bare":{"parameter":{}},"E":{"parameter":{"p":1}}}})");
+  EXPECT_THAT(format({"--lossy", "--compact"}).err, HasSubstr("/audioEffect/Bare is lost"));
+  EXPECT_EQ(content(), document("I", "N"));
+  expectSuccess(format({"--check", "--compact"}));
+}
+
 TEST_F(Format, ChecksWithoutWriting) {
   writeFile(file_, loose);
   const Outcome outcome = format({"--check"});

@@ -66,6 +66,9 @@ TEST_F(ListColumns, AreRefusedWhenTheyAreUnknown) {
   };
   expectFailure(refused("--columns", "name,gneres"), 2, "--columns: \"gneres\" is none of kind, name");
   expectFailure(refused("--columns", "name,gneres"), 2, "did you mean \"genres\"?");
+  expectFailure(refused("--language", "5"), 2,
+                "--language: \"5\" is not taken; a number from 0 to 4 is");
+  expectFailure(refused("--language", "en"), 2, "--language: \"en\" is not taken");
   expectFailure(refused("--sort", "size"), 2, "--sort: \"size\" is none of kind, name");
 }
 
@@ -123,6 +126,7 @@ TEST_F(ListColumns, ShowStylesThatMatch) {
   EXPECT_THAT(ids({"--genre", "po"}), ElementsAre());
   EXPECT_THAT(ids({"--genre", "Pop", "--genre", "演歌"}), ElementsAre("Morning", "night"));
   EXPECT_THAT(ids({"--language", "1"}), ElementsAre("Morning", "night"));
+  EXPECT_THAT(ids({"--language", "0", "--language", "4"}), ElementsAre("Morning"));
   EXPECT_THAT(ids({"--language", "1", "--genre", "folk"}), ElementsAre("Morning"));
   EXPECT_THAT(ids({"--singer-group", "solo"}), ElementsAre("night"));
   EXPECT_THAT(ids({"--sub-genre", "Ballad"}), ElementsAre("Morning"));

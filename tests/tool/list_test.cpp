@@ -189,13 +189,22 @@ TEST_F(List, ReportsFilesThatCannotBeOpened) {
 }
 #else
 TEST_F(List, ReportsFilesThatCannotBeOpened) {
-  fs::create_symlink("nowhere", system_ / "lost.kostyle");
+  const fs::path lost = system_ / "lost.kostyle";
+  const fs::path pipe = system_ / "pipe.kostyle";
+  fs::create_symlink("nowhere", lost);
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  fs::create_directory(system_ / "folder.kostyle");
   const Outcome outcome = runTool({"list", "--system", argument(system_)});
   EXPECT_EQ(outcome.exitCode, 1);
-  EXPECT_THAT(outcome.out, HasSubstr(printed(system_ / "lost.kostyle") +
-                                     ": cannot be opened: No such file or directory\n"));
+  EXPECT_THAT(outcome.out, HasSubstr("\nRefused:\n" + printed(lost) + ": a link that leads nowhere\n" +
+                                     printed(pipe) + ": not a regular file\n"));
   const auto document = parseJson(runTool({"list", "--system", argument(system_), "--json"}).out);
-  EXPECT_THAT(texts(document["unopened"]), ElementsAre(printed(system_ / "lost.kostyle")));
+  EXPECT_THAT(texts(document["unopened"]), ElementsAre(printed(lost), printed(pipe)));
+  const auto stats = parseJson(runTool({"stats", argument(system_), "--json"}).out);
+  EXPECT_EQ(stats["refused"].GetInt(), 2);
+  const Outcome checked = runTool({"check", argument(system_)});
+  EXPECT_THAT(checked.out, HasSubstr("lost.kostyle: error: a link that leads nowhere"));
+  EXPECT_THAT(checked.out, HasSubstr("pipe.kostyle: error: not a regular file"));
 }
 
 // Without the privileges by which root reads everything.

@@ -1,7 +1,3 @@
-#if !defined(_WIN32)
-#include <unistd.h>
-#endif
-
 #include "tool/held_file.h"
 #include "tool/tool.h"
 
@@ -45,13 +41,10 @@ TEST_F(Remove, RefusesWhatIsNoUserStyle) {
 }
 
 TEST_F(Remove, LeavesAFileThatMayNotBeWritten) {
-#if !defined(_WIN32)
-  if (geteuid() == 0) GTEST_SKIP() << "root may write everything";
-#endif
   const fs::path file = user_ / "a.kostyle";
   writeFile(file, document("A", "A"));
   fs::permissions(file, fs::perms::owner_read);
-  expectFailure(runTool({"remove", "A", "--user", argument(user_), "--yes"}), 1,
+  expectFailure(runUnprivileged({"remove", "A", "--user", argument(user_), "--yes"}), 1,
                 "a.kostyle: cannot be written");
   EXPECT_EQ(readFile(file), document("A", "A"));
   fs::permissions(file, fs::perms::owner_all);
@@ -66,6 +59,30 @@ TEST_F(Remove, TakesSeveralOrNone) {
   EXPECT_EQ(contents(user_), before);
   expectSuccess(runTool({"remove", "a", "c", "a", "--user", argument(user_), "--yes"}));
   EXPECT_THAT(entryNames(user_), ElementsAre("b.kostyle"));
+}
+
+// Only one of them is a style; without it the other would be.
+TEST_F(Remove, LeavesAnIdentifierThatSeveralFilesHave) {
+  writeFile(user_ / "a.kostyle", document("A", "A"));
+  writeFile(user_ / "b.kostyle", document("A", "B"));
+  writeFile(user_ / "c.kostyle", document("C", "C"));
+  const auto before = contents(user_);
+  const Outcome outcome = runTool({"remove", "C", "A", "--user", argument(user_), "--yes"});
+  expectFailure(outcome, 1, "is left as it is: its identifier is also that of ");
+  EXPECT_THAT(outcome.err, HasSubstr(printed(user_ / "a.kostyle")));
+  EXPECT_THAT(outcome.err, HasSubstr(printed(user_ / "b.kostyle")));
+  EXPECT_EQ(contents(user_), before);
+  fs::remove(user_ / "b.kostyle");
+  expectSuccess(runTool({"remove", "A", "--user", argument(user_), "--yes"}));
+  EXPECT_THAT(entryNames(user_), ElementsAre("c.kostyle"));
+}
+
+TEST_F(Remove, NamesTheUserFileWhoseIdentifierASystemStyleHas) {
+  const auto system = directory_.folder("system");
+  for (const fs::path& folder : {system, user_}) writeFile(folder / "a.kostyle", document("A", "A"));
+  expectFailure(runTool({"remove", "A", "--user", argument(user_), "--system", argument(system)}), 1,
+                "A: a system style is never changed; a file that holds it is refused: " +
+                    printed(user_ / "a.kostyle") + ": another style has the same identifier");
 }
 
 TEST_F(Remove, WaitsForAnotherThatChangesTheFolder) {

@@ -128,7 +128,7 @@ TEST_F(Show, TakesSeveralStyles) {
   EXPECT_THAT(outcome.out, StartsWith("B\n"));
   EXPECT_THAT(outcome.out, HasSubstr("\n\nA\n"));
   expectFailure(runTool({"show", "b", "c", "--system", argument(system_)}), 1,
-                "c: no style has this identifier");
+                "c: no such file, and no style has this identifier");
 }
 
 TEST_F(Show, ReadsTheStandardInput) {
@@ -230,9 +230,9 @@ TEST_F(Show, SaysWhyAFileIsRefused) {
 TEST_F(Show, RefusesUnknownStyles) {
   writeFile(system_ / "a.kostyle", document("a", "A"));
   expectFailure(runTool({"show", "A", "--system", argument(system_)}), 1,
-                "A: no style has this identifier");
-  expectFailure(runTool({"show", "", "--system", argument(system_)}), 1,
-                "no style has this identifier");
+                "A: no such file, and no style has this identifier");
+  expectFailure(runTool({"show", "", "--system", argument(system_)}), 2,
+                "the path or identifier of a style is empty");
   expectFailure(runTool({"show", argument(system_), "--user", argument(user_)}), 1,
                 "no style has this identifier");
 }
@@ -265,7 +265,7 @@ TEST_F(Show, RefusesFilesBeyondTheLimit) {
 TEST_F(Show, RefusesWrongUse) {
   expectFailure(runTool({"show"}), 2, "STYLE is required");
   expectFailure(runTool({"show", "a"}), 2, "a: no such file");
-  expectFailure(runTool({"show", argument(system_)}), 2, "a directory, not a file");
+  expectFailure(runTool({"show", argument(system_)}), 1, "a directory, not a file");
   expectFailure(runTool({"show", "a", "--system", argument(directory_ / "no")}), 2,
                 "no such directory");
   expectFailure(runTool({"show", "a", "--user", argument(directory_ / "no")}), 2, "no such directory");

@@ -1,6 +1,10 @@
 // The tool as a user runs it, and what its tests share.
 #pragma once
 
+#if !defined(_WIN32)
+#include <unistd.h>
+#endif
+
 #include <gmock/gmock.h>
 #include <rapidjson/document.h>
 
@@ -67,6 +71,15 @@ inline Outcome runToolOnFullDisk(int kilobytes, const Arguments& arguments) {
   return runToolInScript(script, arguments);
 }
 #endif
+
+/// Without the privileges by which root writes everything and gives files away.
+inline Outcome runUnprivileged(const Arguments& arguments) {
+#if !defined(_WIN32)
+  if (geteuid() == 0)
+    return runToolInScript("setpriv --bounding-set=-dac_override,-chown \"$0\" \"$@\"", arguments);
+#endif
+  return runTool(arguments);
+}
 
 /// A path as an argument.
 inline std::string argument(const fs::path& path) { return path.u8string(); }

@@ -66,6 +66,7 @@ class CompletionTest(unittest.TestCase):
         ("kostyle comp", "kostyle completion "),
         ("kostyle list --wi", "kostyle list --wide "),
         ("kostyle check --format sa", "kostyle check --format sarif "),
+        ("kostyle list --sort lang", "kostyle list --sort languages "),
         ("kostyle completion fi", "kostyle completion fish "),
         ("kostyle list --user oth", "kostyle list --user other/"),
         ("kostyle list --user my", "kostyle list --user my\\ styles/"),

@@ -4,7 +4,9 @@ usage: terminal_test.py TOOL STYLES
 """
 import os
 import pathlib
+import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -116,6 +118,27 @@ class TerminalTest(unittest.TestCase):
         self.assertEqual(terminal.finish(), 1)
         self.assertIn("kostyle: user/a.kostyle: left as it is, because it has changed since it was read", terminal.text)
         self.assertEqual(self.names(), ["a.kostyle"])
+
+    def test_removing_says_which_file_takes_the_place(self):
+        for name in "ab":
+            self.write(f"user/{name}.kostyle", DOCUMENT.format("same"))
+        code, text = self.answered([("takes its place? [y/N] ", "y\n")], "same")
+        self.assertEqual(code, 0, text)
+        removed, other = re.search(r'Remove "same" \(same\), user/(.*), so that user/(.*) takes its place', text).groups()
+        self.assertEqual((self.names(), {removed, other}), ([other], {"a.kostyle", "b.kostyle"}))
+
+    # Editing
+
+    def test_a_text_is_found_by_who_ends_the_command_instead_of_answering(self):
+        self.write("a.kostyle")
+        self.write("editor", "echo '{' > \"$1\"\n")
+        terminal = self.start("edit", "a.kostyle", variables={"EDITOR": "sh ./editor", "TMPDIR": str(self.folder)})
+        terminal.wait_for("Edit again? [Y/n] ")
+        terminal.process.send_signal(signal.SIGINT)
+        self.assertEqual(terminal.finish(), -signal.SIGINT)
+        text = pathlib.Path(re.search(r"The text is in (.*)\n", terminal.text)[1])
+        self.assertEqual(text.read_text(), "{\n")
+        self.assertEqual((self.folder / "a.kostyle").read_text(), DOCUMENT.format("a"))
 
     # Progress
 

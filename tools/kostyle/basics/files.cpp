@@ -61,14 +61,8 @@ std::string readAll(std::FILE* file, const std::string& shown) {
 }  // namespace
 
 void requireRegularFile(const fs::path& path) {
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (fs::is_regular_file(status)) return;
-  const std::string why = fs::is_directory(status) ? "a directory, not a file"
-                          : fs::exists(status)     ? "not a regular file"
-                          : error                  ? error.message()
-                                                   : "no such file";
-  throw Refused(fmt::format("{}: {}", shownPath(path), why));
+  if (const std::string why = whyNoRegularFile(path); !why.empty())
+    throw Refused(fmt::format("{}: {}", shownPath(path), why));
 }
 
 std::string readBytes(const fs::path& path) {

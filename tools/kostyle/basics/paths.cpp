@@ -80,6 +80,18 @@ bool isDirectory(const fs::path& path) {
   return fs::is_directory(path, ignored);
 }
 
+std::string whyNoRegularFile(const fs::path& path) {
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (fs::is_regular_file(status)) return {};
+  if (fs::is_directory(status)) return "a directory, not a file";
+  if (fs::exists(status)) return "not a regular file";
+  if (status.type() != fs::file_type::not_found) return error.message();
+  std::error_code ignored;
+  return fs::is_symlink(fs::symlink_status(path, ignored)) ? "a link that leads nowhere"
+                                                           : "no such file";
+}
+
 fs::path existingPart(const fs::path& path) {
   fs::path part = absolutePath(path);
   while (!isDirectory(part) && part != part.parent_path()) part = part.parent_path();

@@ -26,6 +26,9 @@ Text libraryPath(const fs::path& path);
 
 bool isDirectory(const fs::path& path);
 
+/// Why no regular file stands at a path or where its link leads; empty when one does.
+std::string whyNoRegularFile(const fs::path& path);
+
 /// The deepest directory on the way to `path` that exists, `path` itself included. Throws Refused when
 /// there is no working directory that a relative path could start from.
 fs::path existingPart(const fs::path& path);

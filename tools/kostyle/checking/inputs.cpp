@@ -49,7 +49,7 @@ std::vector<Input> styleFilesOf(const std::string& argument) {
         Input input;
         input.path = Tesk::KoStyle::joinPath(directory, entry.name);
         input.shown = prefix + pathToUtf8(entry.name);
-        if (!entry.isRegularFile) input.problem = "not a regular file";
+        if (!entry.isRegularFile) input.problem = whyNoRegularFile(pathOf(TextView(input.path)));
         input.order = inputs.size();
         inputs.push_back(std::move(input));
         return true;
@@ -75,13 +75,7 @@ Input fileOf(const std::string& argument) {
   const fs::path path = pathOf(argument);
   input.path = libraryPath(path);
   input.isNamed = true;
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (!fs::exists(status)) {
-    input.problem = error ? error.message() : "no such file";
-  } else if (!fs::is_regular_file(status)) {
-    input.problem = "not a regular file";
-  }
+  input.problem = whyNoRegularFile(path);
   return input;
 }
 

@@ -40,6 +40,7 @@ struct CheckCommandOptions {
 std::vector<std::string> listedPaths(const std::string& list) {
   std::ifstream file;
   if (list != standardInput) {
+    if (isDirectory(pathOf(list))) throw Refused(list + ": a directory, not a list of paths");
     file.open(pathOf(list));
     if (!file)
       throw Refused(fmt::format("{}: the list cannot be opened: {}", list,

@@ -4,7 +4,6 @@
 #include <chrono>
 #include <memory>
 #include <string>
-#include <system_error>
 
 #include "basics/failure.h"
 #include "basics/files.h"
@@ -14,10 +13,9 @@
 #include "reading/style_content.h"
 #include "reading/style_file.h"
 #include "writing/changing.h"
-#include "writing/file_replacement.h"
+#include "writing/creating.h"
 #include "writing/mutable_style.h"
 #include "writing/notices.h"
-#include "writing/saving.h"
 #include "writing/style_edits.h"
 #include "writing/waiting.h"
 
@@ -60,24 +58,10 @@ int copyStyle(const CopyOptions& options) {
   requireExistingButUser(options.directories);
   const fs::path source = copiedFile(options);
   const Copy copy = copyOf(source, options.edits);
-
-  const fs::path folder = pathOf(TextView(libraryPath(*options.directories.user)));
-  MissingDirectories made(folder);
-  std::error_code error;
-  fs::create_directories(folder, error);
-  if (error) throw Refused(fmt::format("{}: {}", shownPath(folder), error.message()));
-  const fs::path file = folder / pathOf(TextView(copy.id + fromUtf8(".kostyle")));
-  const FolderLock lock(folder, options.limit);
-  createFile(lock, file, copy.content.bytes, [&](const std::string& bytes) {
+  const auto verify = [&](const std::string& bytes) {
     requireStyle(source, bytes, copy.content.style, copy.change);
-  });
-  try {
-    printWritten(copy.id, file);
-  } catch (const Refused&) {
-    fs::remove(file, error);
-    throw;
-  }
-  made.keep();
+  };
+  createStyleFile(*options.directories.user, {copy.id, copy.content.bytes}, verify, options.limit);
   noticeLost(copy.content.lost);
   return exitOk;
 }

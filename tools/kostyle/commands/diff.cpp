@@ -1,3 +1,5 @@
+#include <fmt/core.h>
+
 #include <CLI/CLI.hpp>
 #include <exception>
 #include <map>
@@ -94,7 +96,14 @@ int diff(const DiffOptions& options) {
   requireExisting(options.directories);
   bool allRead = true;
   std::vector<StylePair> pairs;
-  if (isDirectory(pathOf(options.before)) && isDirectory(pathOf(options.after))) {
+  const bool isDirectoryBefore = isDirectory(pathOf(options.before));
+  const bool isDirectoryAfter = isDirectory(pathOf(options.after));
+  if (isDirectoryBefore != isDirectoryAfter)
+    throw WrongUse(
+        fmt::format("{} is a directory, {} is none: two directories are compared, or two styles",
+                    isDirectoryBefore ? options.before : options.after,
+                    isDirectoryBefore ? options.after : options.before));
+  if (isDirectoryBefore) {
     const auto before = stylesIn(options.before, allRead);
     pairs = pairsOf(before, stylesIn(options.after, allRead));
   } else {

@@ -40,22 +40,22 @@ std::vector<KoStyleCreationResult*> refusals(std::vector<KoStyleCreationResult*>
   return results;
 }
 
-const StyleColumn& columnOf(const std::string& option, const std::string& name) {
+std::vector<std::string> columnNames() {
   std::vector<std::string> names;
-  std::vector<Text> known;
-  for (const StyleColumn& column : styleColumns()) {
-    if (column.name == name) return column;
-    names.push_back(column.name);
-    known.push_back(fromUtf8(column.name));
-  }
-  throw WrongUse(fmt::format("{}: {} is none of {}{}", option, inQuotes(name), fmt::join(names, ", "),
-                             nearNameHint(fromUtf8(name), {known.begin(), known.end()})));
+  for (const StyleColumn& column : styleColumns()) names.push_back(column.name);
+  return names;
+}
+
+const StyleColumn& columnOf(const std::string& name) {
+  const auto& all = styleColumns();
+  return *std::find_if(all.begin(), all.end(),
+                       [&](const StyleColumn& column) { return column.name == name; });
 }
 
 std::vector<StyleColumn> columnsOf(const std::vector<std::string>& names) {
   std::vector<StyleColumn> columns;
   for (const std::string& name : names) {
-    columns.push_back(columnOf("--columns", name));
+    columns.push_back(columnOf(name));
     columns.back().importance = 0;
   }
   if (!names.empty()) return columns;
@@ -93,7 +93,7 @@ int list(const ListOptions& options) {
   const StyleDirectories& directories = options.directories;
   if (!directories.system && !directories.user) throw WrongUse("--system or --user is required");
   requireExisting(directories);
-  const StyleColumn* const key = options.sort.empty() ? nullptr : &columnOf("--sort", options.sort);
+  const StyleColumn* const key = options.sort.empty() ? nullptr : &columnOf(options.sort);
   const Manager manager(directories);
   const auto results = manager.results();
   Listing listing{{}, manager.styles(), refusals(results), unopenedFiles(directories, results)};
@@ -114,17 +114,18 @@ void addListCommand(CLI::App& app, Command& chosen) {
   command->add_option("--columns", options->columns, "Columns to be shown, separated by commas")
       ->delimiter(',')
       ->allow_extra_args(false)
-      ->type_name("NAMES");
+      ->type_name("NAMES")
+      ->check(CLI::IsMember(columnNames()));
   command->add_option("--sort", options->sort, "Column by which the styles are sorted")
-      ->type_name("NAME");
+      ->type_name("NAME")
+      ->check(CLI::IsMember(columnNames()));
   command->add_flag("--wide", options->wide, "Leave no column out and cut no text")
       ->disable_flag_override();
   command->add_flag("--json", options->json, "Print JSON, with effects and parameters")
       ->disable_flag_override();
   command->footer(
-      R"(On a terminal columns are left out and texts cut until a line fits. Columns are kind, name, id,
-languages, singer-groups, singer-ids, genres, sub-genres, colors, effects, vendor and path. Without --sort
-the styles stand in the order in which they are read. Of filters every one has to match, and of one that
+      R"(On a terminal columns are left out and texts cut until a line fits. Without --sort the styles stand in the order in
+which they are read. Of filters every one has to match, and of one that
 is repeated one value.
 
 Files that were refused follow the styles, each with the reason; the exit code is 1 then.

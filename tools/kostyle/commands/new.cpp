@@ -3,11 +3,8 @@
 #include <memory>
 
 #include "basics/failure.h"
-#include "basics/paths.h"
 #include "commands/commands.h"
-#include "reading/manager.h"
-#include "writing/folder_lock.h"
-#include "writing/mutable_style.h"
+#include "writing/creating.h"
 #include "writing/notices.h"
 #include "writing/requested_change.h"
 #include "writing/saving.h"
@@ -25,16 +22,12 @@ struct NewOptions {
 
 int create(const NewOptions& options) {
   requireExistingButUser(options.directories);
-  MissingDirectories made(*options.directories.user);
-  const Manager manager(options.directories);
-  const FolderLock lock(*options.directories.user, options.limit);
-  const StyleContent content = requestedChange(options.edits, {}).after;
-  MutableStyle mutableStyle(manager);
-  mutableStyle.setName(content.name);
-  mutableStyle.fill(content);
-  const Losses losses = saveNew(mutableStyle, *options.directories.user, options.edits.pretty);
-  made.keep();
-  noticeLosses(losses);
+  const SavedStyle saved = savedStyle(requestedChange(options.edits, {}).after, options.edits.pretty);
+  const auto verify = [&](const std::string& bytes) {
+    if (bytes != saved.bytes) throw Refused("the new file cannot be read back as it was written");
+  };
+  createStyleFile(*options.directories.user, {saved.id, saved.bytes}, verify, options.limit);
+  noticeLosses(saved.losses);
   return exitOk;
 }
 

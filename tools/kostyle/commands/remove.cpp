@@ -1,4 +1,4 @@
-#include <fmt/core.h>
+#include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -13,6 +13,7 @@
 #include "basics/terminal.h"
 #include "basics/text.h"
 #include "commands/commands.h"
+#include "reading/reasons.h"
 #include "writing/removing.h"
 #include "writing/settled_styles.h"
 #include "writing/waiting.h"
@@ -27,9 +28,32 @@ struct RemoveOptions {
   std::chrono::seconds limit = usualLimit;
 };
 
+// Another file with the style's identifier takes its place. Which of the two is not wanted, only the
+// user can tell.
+struct Removal {
+  Removal(const Text& id, const Manager& manager) : file(manager.userStyle(id)) {
+    for (const fs::path& path : filesThatRepeat(id, manager.results()))
+      others.push_back(shownPath(path));
+  }
+
+  void requireOnlyOne() const {
+    if (!others.empty())
+      throw Refused(fmt::format(
+          "{} is left as it is: its identifier is also that of {}; delete the file that is not "
+          "wanted, or answer on a terminal",
+          file.shown(), fmt::join(others, ", ")));
+  }
+
+  RemovableFile file;
+  std::vector<std::string> others;
+};
+
 // Anything but a yes is a no.
-bool isWanted(const RemovableFile& file) {
-  printOnStderr(fmt::format("Remove {}? [y/N] ", file.shown()));
+bool isWanted(const Removal& removal) {
+  std::string question = fmt::format("Remove {}", removal.file.shown());
+  if (!removal.others.empty())
+    question += fmt::format(", so that {} takes its place", printable(removal.others.front()));
+  printOnStderr(question + "? [y/N] ");
   std::string answer;
   if (!std::getline(std::cin, answer)) printOnStderr("\n");
   return answer == "y" || answer == "Y" || answer == "yes";
@@ -49,12 +73,15 @@ int remove(const RemoveOptions& options) {
   const std::vector<Text> ids = idsOf(options);
   const auto manager = settledStyles(options.directories, ids, options.limit);
   // All of them are found before the first is removed.
-  std::vector<RemovableFile> files;
-  files.reserve(ids.size());
-  for (const Text& id : ids) files.emplace_back(manager->userStyle(id));
+  std::vector<Removal> removals;
+  removals.reserve(ids.size());
   const bool asks = !options.yes && canAsk();
-  for (const RemovableFile& file : files)
-    if (!asks || isWanted(file)) file.remove(options.limit);
+  for (const Text& id : ids) {
+    removals.emplace_back(id, *manager);
+    if (!asks) removals.back().requireOnlyOne();
+  }
+  for (const Removal& removal : removals)
+    if (!asks || isWanted(removal)) removal.file.remove(options.limit);
   return exitOk;
 }
 
@@ -70,7 +97,8 @@ void addRemoveCommand(CLI::App& app, Command& chosen) {
       ->disable_flag_override();
   addWaitOption(*command, options->limit);
   command->footer(R"(Prints nothing. On a terminal it asks for each style; anything but y is a no.
-When one of the styles is not found, none is removed.
+When one of the styles is not found, none is removed. An identifier that several files have is refused where nobody is
+asked.
 
 Examples:
   kostyle remove 5b1f7c1e-2f0b-4a57-9d3e-7c1a64f0d201 --user styles/user --yes)");

@@ -5,7 +5,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <system_error>
 #include <vector>
 
 #include "basics/failure.h"
@@ -15,6 +14,7 @@
 #include "printing/style_document.h"
 #include "printing/style_tree.h"
 #include "reading/manager.h"
+#include "reading/named_file.h"
 #include "reading/style_content.h"
 #include "reading/style_file.h"
 
@@ -27,26 +27,7 @@ struct ShowOptions {
   std::vector<std::string> styles;
   StyleDirectories directories;
   bool json = false;
-
-  bool haveDirectories() const { return directories.system || directories.user; }
 };
-
-// Whether an argument is the path of a file. What else has the name may yet be an identifier.
-bool namesFile(const ShowOptions& options, const std::string& argument) {
-  const fs::path path = pathOf(argument);
-  std::error_code error;
-  const fs::file_status status = fs::status(path, error);
-  if (fs::is_regular_file(status)) return true;
-  if (fs::exists(status) && !fs::is_directory(status))
-    throw Refused(fmt::format("{}: not a regular file", argument));
-  if (options.haveDirectories()) return false;
-  if (fs::is_directory(status))
-    throw WrongUse(
-        fmt::format("{}: a directory, not a file; \"kostyle list\" lists its styles", argument));
-  throw WrongUse(fmt::format(
-      "{}: {}; an identifier needs --system or --user", argument,
-      error && error != std::errc::no_such_file_or_directory ? error.message() : "no such file"));
-}
 
 class Shower {
  public:
@@ -55,12 +36,12 @@ class Shower {
   void add(const std::string& argument) {
     if (argument == inputName) {
       addStyle(StyleFile("stdin", readStandardInput()).style(), {"file", "stdin"});
-    } else if (namesFile(options_, argument)) {
+    } else if (namesFile(argument, options_.directories)) {
       const fs::path path = pathOf(argument);
       addStyle(StyleFile(path).style(), {"file", shownPath(path)});
     } else {
       if (!manager_) manager_.emplace(options_.directories);
-      KoStyleStyle* style = manager_->style(fromUtf8(argument));
+      KoStyleStyle* style = namedStyle(argument, *manager_);
       addStyle(style, sourceOf(style));
     }
   }

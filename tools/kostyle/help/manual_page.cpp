@@ -59,7 +59,8 @@ std::string commandText(const CommandDescription& command) {
 
 std::string manualPage(const CommandDescription& tool) {
   std::string text = fmt::format(
-      ".TH KOSTYLE 1 \"\" \"KoStyle {}\" \"User Commands\"\n.SH NAME\n{} \\- {}\n.SH SYNOPSIS\n.B {}\n",
+      ".TH KOSTYLE 1 \"\" \"KoStyle {}\" \"User Commands\"\n.ad l\n.nh\n.SH NAME\n{} \\- {}\n.SH "
+      "SYNOPSIS\n.B {}\n",
       KOSTYLE_VERSION_STRING, tool.name, plain(tool.text), plain(usage(tool)));
   text += ".SH COMMANDS\n";
   for (const CommandDescription& command : tool.commands) text += commandText(command);

@@ -41,14 +41,20 @@ std::string unknownCommand(const CommandDescription& tool, const std::string& na
   std::vector<std::string> known;
   known.reserve(tool.commands.size());
   for (const CommandDescription& command : tool.commands) known.push_back(command.word());
-  const std::string nearest = hint(name, known);
+  const std::string nearest = name == "help"
+                                  ? "; \"kostyle --help\" helps, and so does \"kostyle COMMAND --help\""
+                                  : hint(name, known);
   return fmt::format("there is no command {}{}", inQuotes(name),
                      nearest.empty() ? fmt::format("; there are {}", fmt::join(known, ", ")) : nearest);
 }
 
-std::string unexpected(const CLI::App& app, const CommandDescription& command) {
-  const std::vector<std::string> arguments = app.remaining(true);
+// What stands in front of the command belongs to the tool itself.
+std::string unexpected(const CLI::App& app) {
+  const bool isInFront = !app.remaining().empty();
+  const CLI::App& taker = isInFront ? app : givenCommand(app);
+  const std::vector<std::string> arguments = taker.remaining();
   if (arguments.empty()) return "there is an argument too many";
+  const CommandDescription command = describe(taker);
   const std::string& first = arguments.front();
   if (first.size() > 1 && first.front() == '-') return unknownOption(command, first);
   if (!command.commands.empty()) return unknownCommand(command, first);
@@ -78,14 +84,25 @@ std::string excluded(const CLI::App& given) {
   return "two options do not go together";
 }
 
-// The option that the parser's message names, the longest name first.
+// The option that the parser's message names first, and of several there the longest.
 const CLI::Option* namedOption(const CLI::App& given, const std::string& message) {
   const CLI::Option* found = nullptr;
+  std::size_t first = message.npos;
   for (const CLI::Option* option : given.get_options({})) {
-    const bool isLonger = !found || option->get_name().size() > found->get_name().size();
-    if (isLonger && message.find(option->get_single_name()) != message.npos) found = option;
+    const std::size_t place = message.find(option->get_single_name());
+    if (place == message.npos || place > first) continue;
+    if (place == first && option->get_single_name().size() < found->get_single_name().size()) continue;
+    found = option;
+    first = place;
   }
   return found;
+}
+
+// Some options stand in front of the command as well as behind it.
+const CLI::Option* mistakenOption(const CLI::App& app, const std::string& message) {
+  const CLI::Option* const own = namedOption(givenCommand(app), message);
+  const CLI::Option* const inFront = namedOption(app, message);
+  return own && (!inFront || inFront->results().empty()) ? own : inFront;
 }
 
 std::string wrongCount(const CLI::Option& option, const OptionDescription& description) {
@@ -125,11 +142,11 @@ std::string usageMistake(const CLI::App& app, const CLI::ParseError& error) {
   const auto isOption = [](const std::string& argument) { return argument.rfind("--", 0) == 0; };
   const std::vector<std::string> unknown = app.remaining(true);
   const bool isMisspelt = std::any_of(unknown.begin(), unknown.end(), isOption);
-  if (isMisspelt || dynamic_cast<const CLI::ExtrasError*>(&error)) return unexpected(app, command);
+  if (isMisspelt || dynamic_cast<const CLI::ExtrasError*>(&error)) return unexpected(app);
   if (dynamic_cast<const CLI::RequiredError*>(&error)) return missing(given, command);
   if (dynamic_cast<const CLI::RequiresError*>(&error)) return needed(given);
   if (dynamic_cast<const CLI::ExcludesError*>(&error)) return excluded(given);
-  const CLI::Option* const option = namedOption(given, error.what());
+  const CLI::Option* const option = mistakenOption(app, error.what());
   if (!option) return fmt::format("the arguments are not understood: {}", usage(command));
   const OptionDescription description = describe(*option);
   const bool isCount = dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr;

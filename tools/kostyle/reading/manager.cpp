@@ -116,25 +116,22 @@ std::vector<KoStyleCreationResult*> Manager::results() const {
   return results;
 }
 
-bool Manager::has(const std::vector<Text>& ids) const {
-  const auto all = styles();
-  return std::all_of(ids.begin(), ids.end(), [&](const Text& id) {
-    return std::any_of(all.begin(), all.end(),
-                       [&](KoStyleStyle* style) { return id == Style_id(style); });
-  });
-}
-
-KoStyleStyle* Manager::style(TextView id) const {
+KoStyleStyle* Manager::find(TextView id) const {
   for (KoStyleStyle* style : styles())
     if (id == Style_id(style)) return style;
-  throw Refused(whyUnknown(*this, id));
+  return nullptr;
+}
+
+bool Manager::has(const std::vector<Text>& ids) const {
+  return std::all_of(ids.begin(), ids.end(), [&](const Text& id) { return find(id); });
 }
 
 KoStyleStyle* Manager::userStyle(TextView id) const {
-  KoStyleStyle* found = style(id);
-  if (Style_type(found) != KOSTYLE_KIND_USER)
-    throw Refused(fmt::format("{}: a system style is never changed", toUtf8(id)));
-  return found;
+  KoStyleStyle* const found = find(id);
+  if (!found) throw Refused(whyUnknown(*this, id, "no style has this identifier"));
+  if (Style_type(found) == KOSTYLE_KIND_USER) return found;
+  throw Refused(
+      fmt::format("{}: a system style is never changed{}", toUtf8(id), refusedHolders(*this, id)));
 }
 
 }  // namespace tool

@@ -33,11 +33,11 @@ class Manager {
   /// Whether all identifiers are those of styles.
   bool has(const std::vector<Text>& ids) const;
 
-  /// The style with an identifier; throws Refused when there is none, and says which file stands
-  /// behind that.
-  KoStyleStyle* style(TextView id) const;
+  /// The style with an identifier, or nullptr.
+  KoStyleStyle* find(TextView id) const;
 
-  /// The same among the user styles, which alone may be changed.
+  /// The user style with an identifier: only these may be changed. Throws Refused when there is none,
+  /// and says which file stands behind that.
   KoStyleStyle* userStyle(TextView id) const;
 
  private:

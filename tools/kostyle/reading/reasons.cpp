@@ -7,7 +7,6 @@
 
 #include "basics/failure.h"
 #include "basics/files.h"
-#include "basics/paths.h"
 #include "basics/text.h"
 #include "document/json_document.h"
 
@@ -56,6 +55,15 @@ std::string refusal(const std::string& shown, KoStyleCreationResult* result,
     text += " at " + toUtf8(path);
   }
   return text;
+}
+
+std::vector<fs::path> filesThatRepeat(TextView id, const std::vector<KoStyleCreationResult*>& results) {
+  std::vector<fs::path> files;
+  for (KoStyleCreationResult* result : results)
+    if (StyleCreationResult_error(result) == KOSTYLE_ERROR_DUPLICATE_ID &&
+        id == StyleCreationResult_id(result))
+      files.push_back(pathOf(TextView(StyleCreationResult_filePath(result))));
+  return files;
 }
 
 const char* kindText(int kind) {

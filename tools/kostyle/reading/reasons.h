@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "basics/paths.h"
 #include "document/source_text.h"
 
 namespace tool {
@@ -24,5 +25,8 @@ std::string refusal(const std::string& shown, KoStyleCreationResult* result,
 
 /// A value of enum KoStyleKind.
 const char* kindText(int kind);
+
+/// The files that were refused because they repeat an identifier.
+std::vector<fs::path> filesThatRepeat(TextView id, const std::vector<KoStyleCreationResult*>& results);
 
 }  // namespace tool

@@ -38,10 +38,9 @@ bool holdsWanted(const Strings& wanted, const Strings& values) {
          });
 }
 
-Strings languageTexts(KoStyleStyle* style) {
-  Strings texts;
-  for (const int language : languages(style)) texts.push_back(fmt::format("{}", language));
-  return texts;
+bool hasWantedLanguage(const std::vector<int>& wanted, const std::vector<int>& languages) {
+  return wanted.empty() || std::find_first_of(languages.begin(), languages.end(), wanted.begin(),
+                                              wanted.end()) != languages.end();
 }
 
 Strings effectIds(KoStyleStyle* style) {
@@ -66,7 +65,7 @@ Strings allTexts(KoStyleStyle* style) {
 bool StyleFilter::matches(KoStyleStyle* style) const {
   for (std::size_t i = 0; i < texts.size(); ++i)
     if (!hasWanted(texts[i], values(textLists()[i], style))) return false;
-  return hasWanted(languages, languageTexts(style)) && hasWanted(effects, effectIds(style)) &&
+  return hasWantedLanguage(languages, tool::languages(style)) && hasWanted(effects, effectIds(style)) &&
          holdsWanted(anywhere, allTexts(style));
 }
 
@@ -75,8 +74,12 @@ void addFilterOptions(CLI::App& command, StyleFilter& filter) {
                        const std::string& description) {
     command.add_option("--" + name, wanted, description)->allow_extra_args(false)->type_name(type);
   };
-  add("language", filter.languages, "NUMBER",
-      "Only styles with a language; may be repeated, as the next");
+  command
+      .add_option("--language", filter.languages,
+                  "Only styles with a language; may be repeated, as the next")
+      ->allow_extra_args(false)
+      ->type_name("NUMBER")
+      ->check(CLI::Range(Style_minLangID(), Style_maxLangID()));
   for (std::size_t i = 0; i < textLists().size(); ++i)
     add(textLists()[i].option, filter.texts[i], "TEXT",
         fmt::format("Only styles with one of the {}", textLists()[i].title));

@@ -19,7 +19,7 @@ namespace tool {
 /// A style has to match every option that is given, and of what an option gives several times one. Case
 /// of ASCII letters does not count.
 struct StyleFilter {
-  std::vector<std::string> languages;
+  std::vector<int> languages;
   std::array<std::vector<std::string>, std::tuple_size_v<TextLists>> texts;  // as textLists()
   std::vector<std::string> effects;
   std::vector<std::string> anywhere;  // in name, identifier, vendor, attributes and effects

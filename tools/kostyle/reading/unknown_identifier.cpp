@@ -32,13 +32,9 @@ bool holds(const fs::path& file, TextView id) {
 
 }  // namespace
 
-std::string whyUnknown(const Manager& manager, TextView id) {
+std::string refusedHolders(const Manager& manager, TextView id) {
   const auto styles = manager.styles();
-  std::vector<TextView> known;
-  known.reserve(styles.size());
-  for (KoStyleStyle* style : styles) known.emplace_back(Style_id(style));
-  std::string text =
-      fmt::format("{}: no style has this identifier{}", toUtf8(id), nearNameHint(id, known));
+  std::string text;
   for (KoStyleCreationResult* result : manager.results()) {
     if (StyleCreationResult_error(result) == KOSTYLE_OK) continue;
     const TextView path = StyleCreationResult_filePath(result);
@@ -46,6 +42,16 @@ std::string whyUnknown(const Manager& manager, TextView id) {
       text += fmt::format("; a file that holds it is refused: {}",
                           refusal(pathToUtf8(path), result, styles));
   }
+  return text;
+}
+
+std::string whyUnknown(const Manager& manager, TextView id, const char* what) {
+  const auto styles = manager.styles();
+  std::vector<TextView> known;
+  known.reserve(styles.size());
+  for (KoStyleStyle* style : styles) known.emplace_back(Style_id(style));
+  std::string text =
+      fmt::format("{}: {}{}{}", toUtf8(id), what, nearNameHint(id, known), refusedHolders(manager, id));
   for (const fs::path& path : unopenedFiles(manager.directories(), manager.results()))
     text += fmt::format("; {}", whyUnopened(path));
   return text;

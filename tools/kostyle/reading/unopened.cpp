@@ -18,9 +18,8 @@ bool isStyleFile(const fs::directory_entry& entry) {
   const std::string name = shownPath(entry.path().filename());
   if (name.size() < extension.size()) return false;
   if (name.compare(name.size() - extension.size(), extension.size(), extension) != 0) return false;
-  // A link that leads nowhere is one, a pipe or a device is not.
   std::error_code ignored;
-  return entry.is_regular_file(ignored) || !entry.exists(ignored);
+  return !entry.is_directory(ignored);
 }
 
 // The style files of a directory; the directory itself when it cannot be read to its end.
@@ -55,6 +54,10 @@ std::vector<fs::path> unopenedFiles(const StyleDirectories& directories,
 }
 
 std::string whyUnopened(const fs::path& path) {
+  // A pipe would be waited for.
+  if (!isDirectory(path))
+    if (const std::string why = whyNoRegularFile(path); !why.empty())
+      return fmt::format("{}: {}", shownPath(path), why);
   const std::error_code error = openingError(path);
   return fmt::format("{}: cannot be opened{}{}", shownPath(path), error ? ": " : "",
                      error ? error.message() : "");

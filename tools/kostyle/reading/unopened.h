@@ -1,4 +1,5 @@
-// Style files and directories that the library passes over in silence because they cannot be opened.
+// Style files and directories that the library passes over in silence: they cannot be opened, or are no
+// files to be read.
 #pragma once
 
 #include <kostyle/kostyle.h>
@@ -19,7 +20,7 @@ std::set<fs::path> styleFiles(const StyleDirectories& directories);
 std::vector<fs::path> unopenedFiles(const StyleDirectories& directories,
                                     const std::vector<KoStyleCreationResult*>& results);
 
-/// "FILE: cannot be opened", with the system's reason.
+/// "FILE: " and the reason: the system's, or that the file is no regular one.
 std::string whyUnopened(const fs::path& path);
 
 }  // namespace tool

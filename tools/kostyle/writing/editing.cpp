@@ -35,9 +35,11 @@ std::vector<FileReport> checked(const std::string& name, const std::string& text
   return reports;
 }
 
-bool wantsAgain(bool isUsual) {
+// Who ends the command here instead of answering finds the text where it says.
+bool wantsAgain(const fs::path& text, bool isUsual) {
   if (!canAsk()) return false;
-  printOnStderr(fmt::format("Edit again? {} ", isUsual ? "[Y/n]" : "[y/N]"));
+  printOnStderr(fmt::format("The text is in {}\nEdit again? {} ", printable(shownPath(text)),
+                            isUsual ? "[Y/n]" : "[y/N]"));
   std::string answer;
   if (!std::getline(std::cin, answer)) return false;
   if (answer.empty()) return isUsual;
@@ -96,7 +98,7 @@ class Editing {
       const bool isRefused = countsOf(inCopy).errors > 0;
       // The lines are those of the file that is to be.
       printOnStderr(findingsText(isRefused ? inCopy : checked(shown_, text), false));
-      if (!inCopy.front().findings.empty() && wantsAgain(isRefused)) continue;
+      if (!inCopy.front().findings.empty() && wantsAgain(copy_, isRefused)) continue;
       if (isRefused) throw Refused(fmt::format("{}: left as it is: the text has errors", shown_));
       return text;
     }
@@ -147,7 +149,9 @@ class Editing {
 void editStyle(const fs::path& path, const StyleDirectories& directories,
                std::chrono::milliseconds limit) {
   requireEditor();
-  requireWriteAccess(throughLinks(path));
+  const fs::path file = throughLinks(path);
+  requireWriteAccess(file);
+  requireWritableFolder(file.parent_path());
   Editing(path, directories).run(limit);
 }
 

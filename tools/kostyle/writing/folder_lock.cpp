@@ -18,4 +18,7 @@ FolderLock::FolderLock(const fs::path& folder, std::chrono::milliseconds limit) 
                       shownPath(path), limit.count() / 1000));
 }
 
+// Whether another one holds the file or not, it could be made.
+void requireWritableFolder(const fs::path& folder) { const HeldFile probe(folder / FolderLock::name); }
+
 }  // namespace tool

@@ -21,4 +21,7 @@ class FolderLock {
   std::unique_ptr<HeldFile> file_;
 };
 
+/// Throws Refused when no file can be made in a folder, so that none in it can be replaced.
+void requireWritableFolder(const fs::path& folder);
+
 }  // namespace tool

@@ -21,6 +21,16 @@
 namespace tool {
 namespace {
 
+bool isBare(const EffectContent& effect) { return effect.parameters.empty(); }
+
+// What of a content the library reads again from a file that it wrote.
+StyleContent readBackOf(StyleContent content) {
+  content.vendor.clear();
+  for (ChainContent& chain : content.chains)
+    chain.erase(std::remove_if(chain.begin(), chain.end(), isBare), chain.end());
+  return content;
+}
+
 std::string written(const fs::path& path, const std::string& document, const StyleContent& content,
                     bool pretty) {
   const TemporaryDirectory directory;
@@ -30,8 +40,10 @@ std::string written(const fs::path& path, const std::string& document, const Sty
   directories.user = directory.path();
   const Manager manager(directories);
   MutableStyle style(manager);
-  if (!content.name.empty()) style.setName(content.name);  // otherwise it was too long to be read
-  style.fill(content);
+  requireParameter(content);
+  const StyleContent kept = readBackOf(content);
+  if (!kept.name.empty()) style.setName(kept.name);  // otherwise it was too long to be read
+  style.fill(kept);
   requireWritable(style.handle());
   int error = KOSTYLE_OK;
   MutableStyle_overwrite(style.handle(), content.id.c_str(), pretty, &error);
@@ -43,16 +55,6 @@ std::string written(const fs::path& path, const std::string& document, const Sty
     throw Refused(
         fmt::format("{}: its new form cannot be written: {}", shownPath(path), full.message()));
   return bytes;
-}
-
-bool isBare(const EffectContent& effect) { return effect.parameters.empty(); }
-
-// What the library reads from a file that it wrote with a content.
-StyleContent readBackOf(StyleContent content) {
-  content.vendor.clear();
-  for (ChainContent& chain : content.chains)
-    chain.erase(std::remove_if(chain.begin(), chain.end(), isBare), chain.end());
-  return content;
 }
 
 // An effect that is added stands where the document has a place for it.
@@ -79,11 +81,6 @@ NewContent ownForm(const fs::path& path, const std::string& document, const Styl
                    bool pretty) {
   std::string bytes = written(path, document, style, pretty);
   std::vector<std::string> lost = losses(document, bytes);
-  for (std::size_t chain = 0; chain < chains().size(); ++chain)
-    for (const EffectContent& effect : style.chains[chain])
-      if (isBare(effect))
-        lost.push_back(fmt::format("the {} {} is lost: one without parameters is not read again",
-                                   chains()[chain].option, inQuotes(toUtf8(effect.id))));
   return {std::move(bytes), readBackOf(style), std::move(lost)};
 }
 

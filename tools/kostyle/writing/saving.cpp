@@ -3,6 +3,7 @@
 #include <fmt/core.h>
 #include <kostyle/helpers.h>
 
+#include <algorithm>
 #include <cmath>
 #include <exception>
 #include <system_error>
@@ -52,9 +53,9 @@ void requireWritable(KoStyleParameter* parameter) {
 }
 
 // A full disk is no error to the library either: the file ends too early, and the system is asked why.
-StyleFile writtenFile(const fs::path& path, const TemporaryDirectory& directory) {
+StyleFile writtenFile(const fs::path& path, const std::string& bytes) {
   try {
-    return StyleFile(path, directory);
+    return StyleFile(path, bytes);
   } catch (const Refused&) {
     if (const std::error_code error = writingError(path))
       throw Refused(
@@ -63,20 +64,27 @@ StyleFile writtenFile(const fs::path& path, const TemporaryDirectory& directory)
   }
 }
 
-Losses readAgain(KoStyleStyle* style, const ChainCounts& written, const TemporaryDirectory& directory) {
-  const StyleFile file = writtenFile(pathOf(TextView(Style_path(style))), directory);
+Losses readAgain(const fs::path& path, const std::string& bytes, const ChainCounts& written) {
+  const StyleFile file = writtenFile(path, bytes);
   const ChainCounts read = chainCountsOf(file.style(), &Chain::stored);
   const bool sameNames =
       read.effects < written.effects - written.emptyEffects || read.parameters < written.parameters;
   return {written.emptyEffects > 0, sameNames};
 }
 
-void check(int error, const fs::path& path) {
-  if (error != KOSTYLE_OK)
-    throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
-}
-
 }  // namespace
+
+void requireParameter(const StyleContent& content) {
+  const auto isBare = [](const EffectContent& effect) { return effect.parameters.empty(); };
+  const auto isUseless = [&](const ChainContent& chain) {
+    return std::all_of(chain.begin(), chain.end(), isBare);
+  };
+  const auto isEmpty = [](const ChainContent& chain) { return chain.empty(); };
+  const auto& chains = content.chains;
+  if (std::all_of(chains.begin(), chains.end(), isUseless) &&
+      !std::all_of(chains.begin(), chains.end(), isEmpty))
+    throw Refused("no effect has a parameter: the file could not be read again");
+}
 
 // The library ends the file in front of what JSON cannot hold, without an error.
 void requireWritable(KoStyleStyle* style) {
@@ -90,9 +98,6 @@ void requireWritable(KoStyleStyle* style) {
       for (std::size_t j = 0; j < Effect_numParameter(effect); ++j)
         requireWritable(MutableEffect_parameter(effect, j));
     }
-  const ChainCounts counts = chainCountsOf(style, &Chain::mutableEffect);
-  if (counts.effects > 0 && counts.emptyEffects == counts.effects)
-    throw Refused("no effect has a parameter: the file could not be read again");
 }
 
 void printWritten(TextView id, const fs::path& path) {
@@ -100,21 +105,23 @@ void printWritten(TextView id, const fs::path& path) {
   flushOutput();
 }
 
-Losses saveNew(const MutableStyle& mutableStyle, const fs::path& directory, bool pretty) {
+SavedStyle savedStyle(const StyleContent& content, bool pretty) {
+  const TemporaryDirectory directory;
+  StyleDirectories directories;
+  directories.user = directory.path();
+  const Manager manager(directories);
+  MutableStyle mutableStyle(manager);
+  mutableStyle.setName(content.name);
+  mutableStyle.fill(content);
+  requireParameter(content);
   requireWritable(mutableStyle.handle());
   const ChainCounts counts = chainCountsOf(mutableStyle.handle(), &Chain::mutableEffect);
-  const TemporaryDirectory temporary;
   int error = KOSTYLE_OK;
   KoStyleStyle* style = MutableStyle_save(mutableStyle.handle(), pretty, &error);
-  check(error, directory);
-  try {
-    const Losses losses = readAgain(style, counts, temporary);
-    printWritten(Style_id(style), pathOf(TextView(Style_path(style))));
-    return losses;
-  } catch (...) {
-    UserStyle_remove(style);
-    throw;
-  }
+  if (error != KOSTYLE_OK) throw Refused(KoStyle_codeText(error));
+  const fs::path file = pathOf(TextView(Style_path(style)));
+  const std::string bytes = readBytes(file);
+  return {Style_id(style), bytes, readAgain(file, bytes, counts)};
 }
 
 }  // namespace tool

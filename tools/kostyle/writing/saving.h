@@ -14,11 +14,22 @@ struct Losses {
   bool sameNames;  // effects or parameters whose names readers take for one
 };
 
-/// Writes a new user style to the manager's user directory, reads it again and prints its identifier
-/// and path, a tab between them; or leaves nothing. Throws Refused.
-Losses saveNew(const MutableStyle& mutableStyle, const fs::path& directory, bool pretty);
+/// A new style as the library writes it.
+struct SavedStyle {
+  Text id;
+  std::string bytes;
+  Losses losses;
+};
 
-/// Throws Refused when a file could not hold the mutable style, or could not be read again.
+/// Gives a content an identifier of its own. Throws Refused when the library does not take it, or does
+/// not read it again.
+SavedStyle savedStyle(const StyleContent& content, bool pretty);
+
+/// Throws Refused when the style has effects, but none with a parameter: its file could not be read
+/// again.
+void requireParameter(const StyleContent& content);
+
+/// Throws Refused when a file could not hold the mutable style.
 void requireWritable(KoStyleStyle* mutableStyle);
 
 /// Prints identifier and path, a tab between them. Throws Refused.

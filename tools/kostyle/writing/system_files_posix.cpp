@@ -95,8 +95,16 @@ int openForHolding(const fs::path& path) {
     int number = open(path.c_str(), O_RDONLY | quietly);
     if (number >= 0 || errno != ENOENT) return number;
     number = open(path.c_str(), O_RDONLY | O_CREAT | O_EXCL | quietly, forAll);
+    if (number >= 0) fchmod(number, forAll);  // one that is left behind is opened by every user
     if (number >= 0 || errno != EEXIST) return number;
   }
+}
+
+[[noreturn]] void failToHold(const fs::path& path) {
+  const int error = errno;
+  if (faccessat(AT_FDCWD, path.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
+    fail(path, "cannot be opened", error);
+  fail(path.parent_path(), "no file can be made in it", error);
 }
 
 // The one who held the file before may have deleted it: then it is no longer the one that others find.
@@ -163,7 +171,7 @@ HeldFile::HeldFile(const fs::path& path) : path_(path) {
   for (;;) {
     auto opened = std::make_unique<Open>(openForHolding(path_));
     const int number = opened->file.get();
-    if (number < 0) fail(path_, "cannot be opened");
+    if (number < 0) failToHold(path_);
     if (flock(number, LOCK_EX | LOCK_NB) != 0) {
       if (errno != EWOULDBLOCK && errno != EINTR) fail(path_, "cannot be locked");
       return;

@@ -40,7 +40,8 @@ Number numberOf(std::string_view text, const char* type) {
   const Parsed<Number> parsed = parse<Number>(text);
   if (!parsed.isNumber && hasDecimalComma(std::string(text)))
     throw WrongUse(fmt::format("{}: not a number: the decimal sign is a point, not a comma", text));
-  if (!parsed.isNumber) throw WrongUse(fmt::format("{}: not a value of type {}", text, type));
+  if (!parsed.isNumber)
+    throw WrongUse(fmt::format("{}: not a value of type {}", text.empty() ? "\"\"" : text, type));
   if (!parsed.fits) throw WrongUse(fmt::format("{}: out of the range of type {}", text, type));
   return parsed.value;
 }
