@@ -237,6 +237,16 @@ TEST_F(CatalogTest, RefusesWrongUse) {
   EXPECT_FALSE(fs::exists(page_));
 }
 
+TEST_F(CatalogTest, TakesNoNameThatReplacingNeeds) {
+  for (const char* const name : {"kostyle.new", "kostyle.lock"}) {
+    const fs::path page = directory_ / name;
+    writeFile(page, "mine");
+    expectFailure(runTool(to(page)), 1, "kostyle needs the name itself; give the file another one");
+    EXPECT_EQ(readFile(page), "mine");
+    fs::remove(page);
+  }
+}
+
 #if !defined(_WIN32)
 TEST_F(CatalogTest, WhatIsNoFileIsRefused) {
   ASSERT_EQ(mkfifo((styles_ / "pipe.kostyle").c_str(), 0600), 0);

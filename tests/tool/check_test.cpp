@@ -86,9 +86,55 @@ TEST_F(CheckTest, WarningsCountWhenStrict) {
   const std::string file = argument(put("a.kostyle", documentWith(R"("x":1)")));
   EXPECT_EQ(runCheck({file}).exitCode, 0);
   EXPECT_EQ(runCheck({file, "--strict"}).exitCode, 1);
-  EXPECT_EQ(runCheck({file, "--strict", "--severity", "error"}).exitCode, 1);
+  const Outcome strict = runCheck({file, "--strict", "--severity", "error"});
+  EXPECT_EQ(strict.exitCode, 1);
+  EXPECT_THAT(strict.out, HasSubstr("0 errors, 1 warning, 0 notes in 1 file\n"));
   const std::string noted = argument(put("b.kostyle", documentWith(R"("vendor":"v")")));
   EXPECT_EQ(runCheck({noted, "--strict"}).exitCode, 0);
+}
+
+TEST_F(CheckTest, NamesWhatWasMeantInAnEffectThatIsLeftOut) {
+  const fs::path file = put(
+      "a.kostyle",
+      R"({"id":"S","name":"N","audioEffect":{"R":{"parameters":{"m":1}},"E":{"parameter":{"p":1}}}})");
+  const std::string out = runCheck({argument(file)}).out;
+  EXPECT_THAT(out,
+              HasSubstr("the effect \"R\" has no member \"parameter\" [effect-without-parameter]"));
+  EXPECT_THAT(out, HasSubstr("the member \"parameters\" is unknown; did you mean \"parameter\"?"));
+}
+
+TEST_F(CheckTest, KeepsSoManyFindingsOfAFileAndCountsTheOthers) {
+  std::string members;
+  for (int i = 0; i < 12000; ++i) members += "\"x" + std::to_string(i) + "\":1,";
+  const std::string file = argument(put("a.kostyle", documentWith(members + R"("y":1)")));
+  const std::string out = runCheck({file}).out;
+  EXPECT_THAT(out, HasSubstr("\"x9999\" is unknown"));
+  EXPECT_THAT(out, Not(HasSubstr("\"x10000\" is unknown")));
+  EXPECT_THAT(
+      out, HasSubstr("a.kostyle: 2001 more findings\n0 errors, 12001 warnings, 0 notes in 1 file\n"));
+  const auto json = parseJson(runCheck({file, "--format", "json"}).out);
+  EXPECT_EQ(json["files"][0]["more"].GetInt(), 2001);
+  EXPECT_EQ(json["warnings"].GetInt(), 12001);
+  const auto sarif = parseJson(runCheck({file, "--format", "sarif"}).out);
+  EXPECT_EQ(sarif["runs"][0]["properties"]["more"].GetInt(), 2001);
+  EXPECT_THAT(runCheck({file, "--format", "github"}).out, HasSubstr("::2001 more findings\n"));
+  EXPECT_THAT(runCheck({file, "--severity", "error"}).out, "");
+}
+
+TEST_F(CheckTest, SarifTakesNoTextForLinksAndArguments) {
+  const fs::path file = put("a.kostyle", documentWith(R"-("{0} [click](https://example.org)":1)-"));
+  const auto log = parseJson(runCheck({argument(file), "--format", "sarif"}).out);
+  EXPECT_THAT(log["runs"][0]["results"][0]["message"]["text"].GetString(),
+              StartsWith(R"-(the member "{{0}} [click\](https://example.org)" is unknown)-"));
+}
+
+TEST_F(CheckTest, AFileIsItselfHoweverItIsSpelt) {
+  const fs::path file = put("a.kostyle", document("S", "N"));
+  const Outcome outcome =
+      runCheck({argument(directory.path()), argument(directory.path() / "." / "a.kostyle"),
+                argument(directory.path() / "x" / ".." / "a.kostyle")});
+  expectSuccess(outcome);
+  EXPECT_EQ(outcome.out, "");
 }
 
 TEST_F(CheckTest, TellsWhatIsSevereEnough) {
@@ -125,7 +171,9 @@ TEST_F(CheckTest, SaysWhyAFileIsNotRead) {
   const std::string large = argument(put("large.kostyle", document("I", std::string(3000, ' '))));
   const Outcome tooLarge = runCheck({large, "--max-size", "2k"});
   EXPECT_EQ(tooLarge.exitCode, 1);
-  EXPECT_THAT(tooLarge.out, HasSubstr("the file is larger than 2048 bytes [unreadable-file]"));
+  EXPECT_THAT(
+      tooLarge.out,
+      HasSubstr("the file is larger than 2048 bytes; --max-size allows more [unreadable-file]"));
   EXPECT_EQ(runCheck({large, "--max-size", "1MB"}).exitCode, 0);
 }
 

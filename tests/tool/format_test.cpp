@@ -167,6 +167,19 @@ TEST_F(Format, LosesEffectsThatAreNotReadAgain) {
   expectSuccess(format({"--check", "--compact"}));
 }
 
+TEST_F(Format, TakesManyValues) {
+  std::string genres;
+  std::string parameters;
+  for (int i = 100000; i < 120000; ++i) {
+    genres += (genres.empty() ? "\"" : ",\"") + std::to_string(i) + '"';
+    parameters += (parameters.empty() ? "\"p" : ",\"p") + std::to_string(i) + "\":1";
+  }
+  writeFile(file_, R"({"id":"S","name":"N","filter":{"genres":[)" + genres +
+                       R"(]},"audioEffect":{"E":{"parameter":{)" + parameters + "}}}}");
+  expectSuccess(format({"--compact"}));
+  expectSuccess(format({"--compact", "--check"}));
+}
+
 TEST_F(Format, ChecksWithoutWriting) {
   writeFile(file_, loose);
   const Outcome outcome = format({"--check"});
@@ -247,6 +260,14 @@ TEST_F(Format, OfOneFileAtOnceIsDoneByOne) {
 }
 
 #if !defined(_WIN32)
+TEST_F(Format, EndsWhenNothingCanBePrinted) {
+  writeFile(file_, loose);
+  EXPECT_EQ(runToolWithoutOutput(directory_ / "err", {"format", argument(file_), argument(file_)}), 1);
+  EXPECT_EQ(readFile(directory_ / "err"),
+            "kostyle: the output cannot be written: No space left on device\n");
+  EXPECT_EQ(content(), loose);
+}
+
 TEST_F(Format, KeepsModeAndOwner) {
   writeFile(file_, loose);
   ASSERT_EQ(chmod(file_.c_str(), 0640), 0);

@@ -58,6 +58,14 @@ TEST_F(SetFile, MindsNothingThatIsLeftBehind) {
   EXPECT_THAT(entryNames(user_), ElementsAre("mine.kostyle"));
 }
 
+TEST_F(SetFile, NamesWhatStandsInTheWay) {
+  fs::create_directory(user_ / "kostyle.new");
+  writeFile(user_ / "kostyle.new" / "file", "mine");
+  expectFailure(runTool(rename("X")), 1,
+                printed(user_ / "kostyle.new") + ": stands in the way and cannot be removed: ");
+  expectRenamed("N");
+}
+
 TEST_F(SetFile, SaysThatApplicationsWouldRefuseTheResult) {
   const std::string before = readFile(file_);
   expectFailure(runTool({"set", "S", "--user", argument(user_), "--delete-audio-effect", "E"}), 1,

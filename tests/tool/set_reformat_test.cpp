@@ -52,7 +52,7 @@ TEST_F(SetReformat, NamesWhatIsLost) {
             "kostyle: notice: /audioEffect/Bare is lost: {\"parameter\":{}}\n"
             "kostyle: notice: /audioEffect/E/parameter/q is lost: true\n"
             "kostyle: notice: /audioEffect/E/parameter/p is lost: 2\n"
-            "kostyle: notice: /audioEffect/E/parameter/Tarn is lost: 3\n"
+            "kostyle: notice: /audioEffect/E/parameter/Tarn is renamed to \"Tarn630\"\n"
             "kostyle: notice: /audioEffect/E/parameter/r is rounded: 0.123456789123 to 0.12345679\n"
             "kostyle: notice: /audioEffect/E/note is lost: \"mine\"\n");
   EXPECT_THAT(file(), HasSubstr(R"("Tarn630":3)"));
@@ -84,8 +84,9 @@ TEST_F(SetReformat, RefusesWhatTheLibraryCannotWrite) {
   refused(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p":"\udc41"}}}})",
           "lone surrogate");
   refused(R"({"id":"S","name":"N","filter":{"genres":["a\u0000a","a\u0000b"]},)" + good + "}",
-          "genre \"a\" is refused: empty, or there already");
-  refused(document("S", std::string(101, 'n')), "the name is empty");
+          "genre \"a\" is there already");
+  refused(document("S", std::string(101, 'n')),
+          "the name has more than 100 UTF-16 units; \"kostyle set --name\" gives another");
   expectSuccess(reformat(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p":1e39}}}})",
                          {"--param", "E.p:int=1"}));
   EXPECT_EQ(file(), document("S", "N"));

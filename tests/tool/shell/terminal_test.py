@@ -159,6 +159,16 @@ class TerminalTest(unittest.TestCase):
         self.assertRegex(text, r"^(\r\x1b\[Kchecking 2 of 3 \[#+ +\])+(\r\x1b\[Kchecking 3 of 3 \[#+\])?\r\x1b\[K$")
         self.assertTrue(all(len(part) < 40 for part in text.split("\r\x1b[K")))
 
+    def test_formatting_shows_how_far_it_is(self):
+        self.write("a.kostyle")
+        terminal = self.start("format", "--check", "a.kostyle", "-", "a.kostyle", stdin=subprocess.PIPE, columns=40,
+                              stdout=subprocess.DEVNULL)
+        time.sleep(1)
+        terminal.process.stdin.write(DOCUMENT.format("piped").encode())
+        terminal.process.stdin.close()
+        self.assertEqual(terminal.finish(), 1)
+        self.assertRegex(terminal.text, r"^(\r\x1b\[Kformatting 2 of 3 \[#+ +\])\r\x1b\[K$")
+
     def test_progress_is_for_those_who_want_it(self):
         self.assertEqual(self.slowly_checked("--quiet"), "")
         self.assertEqual(self.slowly_checked(variables={"TERM": "dumb"}), "")

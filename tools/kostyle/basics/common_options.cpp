@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "basics/failure.h"
+#include "basics/size_limit.h"
 #include "basics/text.h"
 
 namespace tool {
@@ -52,12 +53,6 @@ void addCommonOptions(CLI::App& command) {
       ->type_name("SIZE");
 }
 
-std::string tooLarge() {
-  const std::size_t size = commonOptions().maxSize;
-  constexpr std::size_t mebibyte = std::size_t{1} << 20U;
-  const std::string shown = size > 0 && size % mebibyte == 0 ? fmt::format("{} MiB", size / mebibyte)
-                                                             : fmt::format("{} bytes", size);
-  return fmt::format("the file is larger than {}; --max-size allows more", shown);
-}
+std::string tooLarge() { return largerThan(given().maxSize); }
 
 }  // namespace tool

@@ -16,6 +16,11 @@ struct NotEnoughMemory : Refused {
   using Refused::Refused;
 };
 
+/// What was to be printed cannot be: nothing else that is printed can be.
+struct OutputFailed : Refused {
+  using Refused::Refused;
+};
+
 /// The command line is wrong, whatever the styles are.
 struct WrongUse : std::runtime_error {
   using std::runtime_error::runtime_error;

@@ -24,8 +24,8 @@ namespace tool {
 namespace {
 
 [[noreturn]] void failToPrint(int error) {
-  throw Refused(fmt::format("the output cannot be written{}{}", error == 0 ? "" : ": ",
-                            error == 0 ? "" : std::generic_category().message(error)));
+  throw OutputFailed(fmt::format("the output cannot be written{}{}", error == 0 ? "" : ": ",
+                                 error == 0 ? "" : std::generic_category().message(error)));
 }
 
 #if !defined(_WIN32)

@@ -8,7 +8,7 @@ namespace tool {
 /// Makes sure that no file that is opened later takes the place of a standard stream that is closed.
 void holdStandardStreams() noexcept;
 
-/// On the standard output. Throws Refused with the system's reason.
+/// On the standard output. Throws OutputFailed with the system's reason.
 void print(std::string_view utf8);
 
 /// The same for bytes as they are, line ends too.

@@ -32,8 +32,11 @@ Progress::Progress(std::string verb) : verb_(std::move(verb)), next_(Clock::now(
   if (!commonOptions().quiet) width_ = progressWidth();
 }
 
-Progress::~Progress() {
+Progress::~Progress() { erase(); }
+
+void Progress::erase() {
   if (isShown_) printOnStderr(erasedLine);
+  isShown_ = false;
 }
 
 void Progress::tell(std::size_t done, std::size_t all) {

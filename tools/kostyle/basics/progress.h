@@ -19,6 +19,9 @@ class Progress {
 
   void tell(std::size_t done, std::size_t all);
 
+  /// Makes room for what is printed.
+  void erase();
+
  private:
   using Clock = std::chrono::steady_clock;
 

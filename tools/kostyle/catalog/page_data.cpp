@@ -80,7 +80,7 @@ class PageDataWriter {
     const std::vector<Finding> first(findings.begin(),
                                      findings.begin() + static_cast<std::ptrdiff_t>(shown));
     list("findings", first, [this](const Finding& finding) { this->finding(finding); });
-    if (findings.size() > shown) member("more", findings.size() - shown);
+    if (const std::size_t more = findings.size() - shown + numUnkept(file.report)) member("more", more);
     writer_.EndObject();
   }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <new>
+#include <numeric>
 #include <system_error>
 #include <thread>
 
@@ -53,33 +54,28 @@ std::vector<FileReport> checkAll(const std::vector<Input>& inputs, const CheckOp
   return reports;
 }
 
+std::size_t numUnkept(const FileReport& report) {
+  return std::accumulate(report.numUnkept.begin(), report.numUnkept.end(), std::size_t{0});
+}
+
 void dropBelow(Severity least, std::vector<FileReport>& reports) {
   const auto isBelow = [least](const Finding& finding) { return finding.rule->severity < least; };
   for (FileReport& report : reports) {
     auto& findings = report.findings;
     findings.erase(std::remove_if(findings.begin(), findings.end(), isBelow), findings.end());
+    std::fill_n(report.numUnkept.begin(), static_cast<std::size_t>(least), 0);
   }
 }
 
 Counts countsOf(const std::vector<FileReport>& reports) {
-  Counts counts;
-  counts.files = reports.size();
+  std::array<std::size_t, 3> numbers = {};
   for (const FileReport& report : reports) {
-    for (const Finding& finding : report.findings) {
-      switch (finding.rule->severity) {
-        case Severity::error:
-          ++counts.errors;
-          break;
-        case Severity::warning:
-          ++counts.warnings;
-          break;
-        case Severity::note:
-          ++counts.notes;
-          break;
-      }
-    }
+    for (const Finding& finding : report.findings)
+      ++numbers[static_cast<std::size_t>(finding.rule->severity)];
+    for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] += report.numUnkept[i];
   }
-  return counts;
+  const auto [notes, warnings, errors] = numbers;
+  return {reports.size(), errors, warnings, notes};
 }
 
 }  // namespace tool

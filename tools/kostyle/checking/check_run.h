@@ -24,6 +24,9 @@ std::vector<FileReport> checkAll(const std::vector<Input>& inputs, const CheckOp
 /// Takes the findings out that are less than `least`.
 void dropBelow(Severity least, std::vector<FileReport>& reports);
 
+/// How many findings of a file were counted but not kept.
+std::size_t numUnkept(const FileReport& report);
+
 struct Counts {
   std::size_t files = 0;
   std::size_t errors = 0;

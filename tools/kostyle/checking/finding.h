@@ -1,6 +1,7 @@
 // Finding: one thing that was found in one file.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -49,6 +50,7 @@ struct FileReport {
   std::string file;      // as it is shown
   std::string encoding;  // empty when the file could not be read
   std::vector<Finding> findings;
+  std::array<std::size_t, 3> numUnkept = {};  // by severity, of findings beyond those
   Text id;  // what an application tells the style by; empty when it is refused
   std::optional<Place> idPlace;
   Excerpt idExcerpt;

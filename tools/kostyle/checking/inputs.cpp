@@ -14,6 +14,7 @@
 #include <io.h>
 #endif
 
+#include "basics/size_limit.h"
 #include "checking/file_check.h"
 #include "format/style_keys.h"
 #include "manager/file_system.h"
@@ -107,7 +108,7 @@ std::string reasonOf(int error, const char* otherwise) {
 
 std::vector<Input> inputsOf(const std::vector<std::string>& arguments) {
   std::vector<Input> inputs;
-  std::set<Text> named;
+  std::set<fs::path> named;
   std::size_t before = 0;
   for (const std::string& argument : arguments) {
     std::vector<Input> more;
@@ -118,7 +119,10 @@ std::vector<Input> inputsOf(const std::vector<std::string>& arguments) {
     }
     for (Input& input : more) {
       input.order += before;
-      const bool isNew = input.path.empty() || named.insert(input.path).second;
+      // However the same path is spelt; two links are two files to the library.
+      std::error_code ignored;
+      const fs::path spelt = fs::absolute(pathOf(TextView(input.path)), ignored).lexically_normal();
+      const bool isNew = input.path.empty() || named.insert(spelt).second;
       if (isNew) inputs.push_back(std::move(input));
     }
     before += more.size();
@@ -135,8 +139,7 @@ FileReport checkInput(const Input& input, std::size_t maxSize) {
   std::optional<std::string> content = contentOf(file.get(), maxSize);
   if (std::ferror(file.get()) != 0)
     return unreadable(input.shown, reasonOf(errno, "the file cannot be read"));
-  if (!content)
-    return unreadable(input.shown, fmt::format("the file is larger than {} bytes", maxSize));
+  if (!content) return unreadable(input.shown, largerThan(maxSize));
   FileReport report = checkContent(input.shown, std::move(*content));
   if (input.isNamed && !Tesk::KoStyle::hasStyleExtension(input.path)) {
     Finding finding;

@@ -127,7 +127,11 @@ class Walk {
   Finding* visitChild(const Part& child, const JsonValue& value) {
     if (const auto* why = observer_.whyLeftOut(value)) {
       Finding& finding = addLeftOut(reporter_, child, *why);
-      return *why == LeftOut::repeated ? &finding : nullptr;
+      if (*why == LeftOut::repeated) return &finding;
+      // One of its members may have been meant.
+      if (const auto* lookups = observer_.lookupsIn(value); *why == LeftOut::noParameters && lookups)
+        visitKnown(child, value, *lookups);
+      return nullptr;
     }
     const auto& refusals = observer_.refusals();
     const auto isIt = [&value](const auto& refusal) { return refusal.value == &value; };

@@ -8,6 +8,10 @@
 namespace tool {
 
 Finding& Reporter::add(const Rule& rule, Span span, std::string found, std::string outcome) {
+  if (isFull()) {
+    ++report_.numUnkept[static_cast<std::size_t>(rule.severity)];
+    return unkept_;
+  }
   Finding finding;
   finding.rule = &rule;
   finding.place = placeOf(span);
@@ -25,7 +29,7 @@ Finding& Reporter::add(const Rule& rule, const JsonNode& node, bool atKey, std::
   const Span value = manyLines ? startOf(node) : node.span;
   Finding& finding =
       add(rule, atKey && node.isMember() ? node.keySpan : value, std::move(found), std::move(outcome));
-  finding.path = document_.path(node);
+  if (&finding != &unkept_) finding.path = document_.path(node);
   return finding;
 }
 

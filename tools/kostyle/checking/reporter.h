@@ -10,11 +10,15 @@ namespace tool {
 
 class Reporter {
  public:
+  /// So many findings of a file are kept, and others only counted: a hostile file holds millions.
+  static constexpr std::size_t mostFindings = 10000;
+
   Reporter(const JsonDocument& document, FileReport& report) : document_(document), report_(report) {}
 
   const JsonDocument& document() const { return document_; }
 
-  /// The requirement is the rule's sentence, unless it is changed.
+  /// The requirement is the rule's sentence, unless it is changed. What is returned stays where it is
+  /// until the next finding is added.
   Finding& add(const Rule& rule, Span span, std::string found, std::string outcome);
 
   /// About a node, its key when `atKey`.
@@ -28,8 +32,11 @@ class Reporter {
   Span startOf(const JsonNode& node) const;
 
  private:
+  bool isFull() const { return report_.findings.size() >= mostFindings; }
+
   const JsonDocument& document_;
   FileReport& report_;
+  Finding unkept_;
 };
 
 /// A value in a few words: "null", "7", "\"Pop\"", "an array".

@@ -97,7 +97,9 @@ int check(const CheckCommandOptions& options) {
   checkOptions.jobs = options.jobs;
   auto reports = checked(inputsOf(pathsOf(options)), std::move(checkOptions));
   const Counts counts = countsOf(reports);
-  dropBelow(severityOf(options.severity), reports);
+  const Severity severity = severityOf(options.severity);
+  // What decides about the exit code is told.
+  dropBelow(options.strict ? std::min(severity, Severity::warning) : severity, reports);
   print(formatted(reports, options.format));
   return counts.errors > 0 || (options.strict && counts.warnings > 0) ? exitRefused : exitOk;
 }

@@ -10,6 +10,7 @@
 #include "basics/failure.h"
 #include "basics/files.h"
 #include "basics/output.h"
+#include "basics/progress.h"
 #include "basics/terminal.h"
 #include "commands/commands.h"
 #include "document/source_text.h"
@@ -38,13 +39,17 @@ struct FormatOptions {
 
 class Formatter {
  public:
-  explicit Formatter(const FormatOptions& options) : options_(options) {}
+  Formatter(const FormatOptions& options, Progress& progress)
+      : options_(options), progress_(progress) {}
 
   /// False when the file is refused, or is only checked and would change.
   bool format(const std::string& argument) const {
     try {
       return argument == standardStreams ? formatStreams() : formatFile(argument);
+    } catch (const OutputFailed&) {
+      throw;
     } catch (const Refused& error) {
+      progress_.erase();
       printError(error.what());
       return false;
     }
@@ -57,6 +62,7 @@ class Formatter {
                        const std::string& before) const {
     const StyleContent style = contentOf(StyleFile(path, before).style());
     NewContent own = ownFormOrWhyNot(path, shown, before, style);
+    progress_.erase();
     for (const std::string& lost : own.lost)
       (options_.lossy ? notice : printError)(fmt::format("{}: {}", shown, lost));
     if (!options_.lossy && !own.lost.empty())
@@ -124,16 +130,19 @@ class Formatter {
   }
 
   const FormatOptions& options_;
+  Progress& progress_;
 };
 
 int format(const FormatOptions& options) {
   if (std::count(options.files.begin(), options.files.end(), standardStreams) > 1)
     throw WrongUse("the standard input is named twice");
-  const Formatter formatter(options);
+  Progress progress("formatting");
+  const Formatter formatter(options, progress);
   bool isFine = true;
-  for (const std::string& argument : options.files) {
-    if (argument.empty()) throw WrongUse("the path of a file is empty");
-    isFine = formatter.format(argument) && isFine;
+  for (std::size_t i = 0; i < options.files.size(); ++i) {
+    if (options.files[i].empty()) throw WrongUse("the path of a file is empty");
+    progress.tell(i, options.files.size());
+    isFine = formatter.format(options.files[i]) && isFine;
   }
   return isFine ? exitOk : exitRefused;
 }

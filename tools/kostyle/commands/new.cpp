@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <chrono>
 #include <memory>
 
@@ -22,7 +23,12 @@ struct NewOptions {
 
 int create(const NewOptions& options) {
   requireExistingButUser(options.directories);
-  const SavedStyle saved = savedStyle(requestedChange(options.edits, {}).after, options.edits.pretty);
+  const StyleContent content = requestedChange(options.edits, {}).after;
+  const auto isEmpty = [](const ChainContent& chain) { return chain.empty(); };
+  if (std::all_of(content.chains.begin(), content.chains.end(), isEmpty))
+    throw Refused(
+        "the style has no effect; --audio-effect EFFECT --param EFFECT.NAME=VALUE gives it one");
+  const SavedStyle saved = savedStyle(content, options.edits.pretty);
   const auto verify = [&](const std::string& bytes) {
     if (bytes != saved.bytes) throw Refused("the new file cannot be read back as it was written");
   };

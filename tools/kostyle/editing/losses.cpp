@@ -3,14 +3,27 @@
 #include <fmt/core.h>
 
 #include <cstdlib>
+#include <map>
 #include <set>
+#include <tuple>
 
 #include "basics/text.h"
 #include "basics/value.h"
 #include "document/json_document.h"
+#include "format/style_keys.h"
 
 namespace tool {
 namespace {
+
+// Values that are alike can stand for each other. Objects and lists are compared by themselves.
+using Likeness = std::tuple<JsonKind, double, Text>;
+
+Likeness likeness(const JsonDocument& document, const JsonNode& node) {
+  const double number =
+      node.kind == JsonKind::real ? double{static_cast<float>(node.number)} : node.number;
+  return {node.kind, node.isNumber() ? number : 0,
+          node.isString() ? Text(document.text(node)) : Text()};
+}
 
 class LossSearch {
  public:
@@ -38,15 +51,6 @@ class LossSearch {
     losses_.push_back(fmt::format("{} is lost: {}", whole_.path(node), shown(node)));
   }
 
-  // Members of one key are told apart by their values; one of them can be in the other document.
-  bool areAlike(const JsonNode& node, const JsonNode& other) const {
-    if (node.kind != other.kind) return false;
-    if (node.isString()) return whole_.text(node) == written_.text(other);
-    if (node.kind == JsonKind::real)
-      return static_cast<float>(node.number) == static_cast<float>(other.number);
-    return !node.isNumber() || node.number == other.number;
-  }
-
   // Digits that no float has: neither in full nor in its shortest form.
   static bool isRounded(const JsonNode& node) {
     if (node.kind != JsonKind::real) return false;
@@ -63,27 +67,40 @@ class LossSearch {
                                     floatText(static_cast<float>(node.number))));
   }
 
+  // Members of one key are told apart by their values; one of them can be in the other document.
   void compareObjects(const JsonNode& object, const JsonNode& other) {
-    std::set<const JsonNode*> matched;
+    std::map<Text, const JsonNode*> left;
+    for (const JsonNode& member : other) left.emplace(written_.key(member), &member);
+    const bool isRenaming = holdsParameters(object);
     for (const JsonNode& member : object) {
-      const JsonNode* const found = written_.member(other, whole_.key(member));
-      if (found && areAlike(member, *found) && matched.insert(found).second) {
-        compare(member, *found);
-      } else {
+      const TextView key = whole_.key(member);
+      const TextView name = isRenaming ? Tesk::KoStyle::key::parameterName(key) : key;
+      const auto found = left.find(Text(name));
+      if (found == left.end() || !(likeness(whole_, member) == likeness(written_, *found->second))) {
         lose(member);
+        continue;
       }
+      if (name != key)
+        losses_.push_back(
+            fmt::format("{} is renamed to {}", whole_.path(member), inQuotes(toUtf8(name))));
+      compare(member, *found->second);
+      left.erase(found);
     }
   }
 
-  // Their order means nothing, and a value counts once.
+  // The order of a list means nothing, and a value counts once.
   void compareLists(const JsonNode& list, const JsonNode& other) {
-    std::set<const JsonNode*> matched;
-    for (const JsonNode& element : list) {
-      bool isThere = false;
-      for (const JsonNode& candidate : other)
-        isThere = isThere || (areAlike(element, candidate) && matched.insert(&candidate).second);
-      if (!isThere) lose(element);
-    }
+    std::set<Likeness> left;
+    for (const JsonNode& element : other) left.insert(likeness(written_, element));
+    for (const JsonNode& element : list)
+      if (left.erase(likeness(whole_, element)) == 0) lose(element);
+  }
+
+  // Of an effect of a chain.
+  bool holdsParameters(const JsonNode& object) const {
+    std::size_t depth = 0;
+    for (const JsonNode* at = &object; at->parent(); at = at->parent()) ++depth;
+    return depth == 3 && whole_.key(object) == Tesk::KoStyle::key::parameter;
   }
 
   const JsonDocument& whole_;

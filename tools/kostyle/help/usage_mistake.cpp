@@ -42,7 +42,7 @@ std::string unknownCommand(const CommandDescription& tool, const std::string& na
   known.reserve(tool.commands.size());
   for (const CommandDescription& command : tool.commands) known.push_back(command.word());
   const std::string nearest = name == "help"
-                                  ? "; \"kostyle --help\" helps, and so does \"kostyle COMMAND --help\""
+                                  ? R"(; "kostyle --help" helps, and so does "kostyle COMMAND --help")"
                                   : hint(name, known);
   return fmt::format("there is no command {}{}", inQuotes(name),
                      nearest.empty() ? fmt::format("; there are {}", fmt::join(known, ", ")) : nearest);

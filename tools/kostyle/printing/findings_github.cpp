@@ -45,6 +45,9 @@ std::string findingsGithub(const std::vector<FileReport>& reports) {
           to, ",title={}::{}\n", finding.rule->id,
           message(fmt::format("{}: {}; {}", headline(finding), finding.requirement, finding.outcome)));
     }
+    if (const std::size_t more = numUnkept(report))
+      fmt::format_to(to, "::notice file={}::{} more findings\n", property(printable(report.file)),
+                     more);
   }
   return text;
 }

@@ -46,6 +46,7 @@ void writeReport(JsonWriter& writer, const FileReport& report) {
   writer.StartArray();
   for (const Finding& finding : report.findings) writeFinding(writer, finding);
   writer.EndArray();
+  if (const std::size_t more = numUnkept(report)) writeMember(writer, "more", more);
   writer.EndObject();
 }
 

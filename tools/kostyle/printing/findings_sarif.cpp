@@ -37,10 +37,23 @@ std::string uriOf(std::string path) {
   return uri;
 }
 
+// In a message braces hold the place of an argument, and brackets with parentheses behind them make a
+// link. What authors of styles write is neither.
+std::string plainMessage(std::string_view text) {
+  std::string plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char byte = text[i];
+    if (byte == '{' || byte == '}') plain += byte;
+    if (byte == ']' && i + 1 < text.size() && text[i + 1] == '(') plain += '\\';
+    plain += byte;
+  }
+  return plain;
+}
+
 void writeMessage(JsonWriter& writer, const char* key, std::string_view text) {
   writer.Key(key);
   writer.StartObject();
-  writeMember(writer, "text", text);
+  writeMember(writer, "text", plainMessage(text));
   writer.EndObject();
 }
 
@@ -135,6 +148,13 @@ void writeDriver(JsonWriter& writer) {
   writer.EndObject();
 }
 
+void writeMore(JsonWriter& writer, std::size_t more) {
+  writer.Key("properties");
+  writer.StartObject();
+  writeMember(writer, "more", more);
+  writer.EndObject();
+}
+
 }  // namespace
 
 std::string findingsSarif(const std::vector<FileReport>& reports) {
@@ -150,9 +170,13 @@ std::string findingsSarif(const std::vector<FileReport>& reports) {
   writeMember(writer, "columnKind", "unicodeCodePoints");
   writer.Key("results");
   writer.StartArray();
-  for (const FileReport& report : reports)
+  std::size_t more = 0;
+  for (const FileReport& report : reports) {
     for (const Finding& finding : report.findings) writeResult(writer, report.file, finding);
+    more += numUnkept(report);
+  }
   writer.EndArray();
+  if (more > 0) writeMore(writer, more);
   writer.EndObject();
   writer.EndArray();
   writer.EndObject();

@@ -12,6 +12,23 @@ class TextForm {
  public:
   explicit TextForm(bool colors) : colors_(colors) {}
 
+  void add(const FileReport& report) {
+    for (const Finding& finding : report.findings) add(report, finding);
+    if (const std::size_t number = numUnkept(report))
+      addLine("{}: {}", printable(report.file), counted(number, "more finding"));
+  }
+
+  void addSummary(const Counts& counts) {
+    if (counts.errors + counts.warnings + counts.notes == 0) return;
+    addLine("{}, {}, {} in {}", counted(counts.errors, "error"), counted(counts.warnings, "warning"),
+            counted(counts.notes, "note"), counted(counts.files, "file"));
+  }
+
+  const std::string& text() const { return text_; }
+
+ private:
+  static constexpr int numberWidth = 5;
+
   void add(const FileReport& report, const Finding& finding) {
     const Severity severity = finding.rule->severity;
     addLine("{}{}: {}{}", bold(where(report.file, finding.place)),
@@ -27,17 +44,6 @@ class TextForm {
               printable(related.text));
     }
   }
-
-  void addSummary(const Counts& counts) {
-    if (counts.errors + counts.warnings + counts.notes == 0) return;
-    addLine("{}, {}, {} in {}", counted(counts.errors, "error"), counted(counts.warnings, "warning"),
-            counted(counts.notes, "note"), counted(counts.files, "file"));
-  }
-
-  const std::string& text() const { return text_; }
-
- private:
-  static constexpr int numberWidth = 5;
 
   template <class... Values>
   void addLine(fmt::format_string<Values...> format, Values&&... values) {
@@ -78,8 +84,7 @@ class TextForm {
 
 std::string findingsText(const std::vector<FileReport>& reports, bool colors) {
   TextForm form(colors);
-  for (const FileReport& report : reports)
-    for (const Finding& finding : report.findings) form.add(report, finding);
+  for (const FileReport& report : reports) form.add(report);
   form.addSummary(countsOf(reports));
   return form.text();
 }

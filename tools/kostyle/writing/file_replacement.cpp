@@ -14,11 +14,14 @@ namespace {
 
 constexpr const char* newName = "kostyle.new";
 
-// Where new content is written in a folder. What stands in the way otherwise will be told.
+// Where new content is written in a folder.
 fs::path clearedPlace(const fs::path& folder) {
   fs::path path = folder / newName;
-  std::error_code ignored;
-  fs::remove(path, ignored);
+  std::error_code error;
+  fs::remove(path, error);
+  if (error && fs::exists(fs::symlink_status(path)))
+    throw Refused(fmt::format("{}: stands in the way and cannot be removed: {}", shownPath(path),
+                              error.message()));
   return path;
 }
 

@@ -2,8 +2,9 @@
 
 #include <fmt/core.h>
 
+#include <algorithm>
+
 #include "basics/failure.h"
-#include "reading/attributes.h"
 #include "reading/parameter_value.h"
 #include "writing/requested_change.h"
 
@@ -32,8 +33,7 @@ void MutableStyle::fill(const StyleContent& content) {
   for (const int language : content.languages)
     if (!MutableStyle_addLanguage(style_, language)) refuseLanguage(language);
   for (std::size_t list = 0; list < textLists().size(); ++list)
-    for (const Text& text : content.texts[list])
-      if (!textLists()[list].add(style_, text.c_str())) refuseText(textLists()[list], text);
+    addTexts(textLists()[list], content.texts[list]);
   for (std::size_t chain = 0; chain < chains().size(); ++chain)
     for (const EffectContent& effect : content.chains[chain]) {
       const std::size_t end = chains()[chain].count(style_);
@@ -41,6 +41,14 @@ void MutableStyle::fill(const StyleContent& content) {
       if (!added) refuseEffect(chains()[chain], effect.id);
       fillEffect(added, effect);
     }
+}
+
+void MutableStyle::addTexts(const TextList& list, const std::vector<Text>& texts) {
+  for (const Text& text : texts) {
+    if (list.add(style_, text.c_str())) continue;
+    if (std::count(texts.begin(), texts.end(), text) > 1) refuseAsPresent(list.option, text);
+    refuseText(list, text);
+  }
 }
 
 void requireTaken(const StyleChange& change) {

@@ -4,6 +4,7 @@
 #include <kostyle/kostyle.h>
 
 #include "editing/style_content.h"
+#include "reading/attributes.h"
 #include "reading/manager.h"
 
 namespace tool {
@@ -21,6 +22,8 @@ class MutableStyle {
   void fill(const StyleContent& content);
 
  private:
+  void addTexts(const TextList& list, const std::vector<Text>& texts);
+
   KoStyleStyle* style_;
 };
 

@@ -42,7 +42,11 @@ std::string written(const fs::path& path, const std::string& document, const Sty
   MutableStyle style(manager);
   requireParameter(content);
   const StyleContent kept = readBackOf(content);
-  if (!kept.name.empty()) style.setName(kept.name);  // otherwise it was too long to be read
+  if (kept.name.empty())
+    throw Refused(
+        fmt::format("the name has more than {} UTF-16 units; \"kostyle set --name\" gives another",
+                    static_cast<int>(KOSTYLE_MAX_NAME_LENGTH)));
+  style.setName(kept.name);
   style.fill(kept);
   requireWritable(style.handle());
   int error = KOSTYLE_OK;

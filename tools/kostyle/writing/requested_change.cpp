@@ -89,7 +89,8 @@ class Request {
     for (const int language : edits_.deletedLanguages)
       if (!take(languages, language)) throw Refused(fmt::format("language {} is not there", language));
     for (const int language : edits_.languages) {
-      if (contains(languages, language)) refuseLanguage(language);
+      if (contains(languages, language))
+        throw Refused(fmt::format("language {} is there already", language));
       languages.push_back(language);
     }
     result_.change.languages = {edits_.deletedLanguages, edits_.languages};
@@ -107,7 +108,7 @@ class Request {
     }
     for (const std::string& argument : edits_.texts[list]) {
       change.added.push_back(content(argument));
-      if (contains(texts, change.added.back())) refuseText(textLists()[list], change.added.back());
+      if (contains(texts, change.added.back())) refuseAsPresent(option, change.added.back());
       texts.push_back(change.added.back());
     }
   }
@@ -128,7 +129,7 @@ class Request {
     }
     for (const std::string& argument : edits_.effects[chain]) {
       const Text id = content(argument);
-      if (find(id) != effects.end()) refuseEffect(chains()[chain], id);
+      if (find(id) != effects.end()) refuseAsPresent(chains()[chain].option, id);
       effects.push_back({{id, {}}, true, {}, {}});
     }
   }
@@ -189,6 +190,18 @@ class Request {
     effect.change.removed.push_back(name);
   }
 
+  static Value assignedValue(const std::string& argument, const Assignment& assignment,
+                             const ParameterContent* present) {
+    try {
+      if (!assignment.type.empty()) return valueOfType(assignment.value, assignment.type);
+      return present ? valueLike(present->value, assignment.value) : valueByForm(assignment.value);
+    } catch (const WrongUse& error) {
+      throw WrongUse(fmt::format("{}: {}", argument, error.what()));
+    } catch (const Refused& error) {
+      throw Refused(fmt::format("{}: {}", argument, error.what()));
+    }
+  }
+
   void assignParameter(const std::string& argument) {
     content(argument);
     std::string rest = argument;
@@ -199,10 +212,7 @@ class Request {
       throw WrongUse(fmt::format("{}: the parameter is given twice", argument));
     if (name.empty()) throw Refused(fmt::format("{}: the parameter's name is empty", argument));
     ParameterContent* const present = effect.find(name);
-    const bool isGiven = !assignment.type.empty();
-    const Value value = isGiven   ? valueOfType(assignment.value, assignment.type)
-                        : present ? valueLike(present->value, assignment.value)
-                                  : valueByForm(assignment.value);
+    const Value value = assignedValue(argument, assignment, present);
     if (present) {
       if (areSame(present->value, value)) return;
       present->value = value;
@@ -246,18 +256,20 @@ RequestedChange requestedChange(const StyleEdits& edits, const StyleContent& bef
 }
 
 void refuseLanguage(int language) {
-  throw Refused(fmt::format("language {} is refused: not {} to {}, or there already", language,
-                            Style_minLangID(), Style_maxLangID()));
+  throw Refused(fmt::format("language {} is refused: not {} to {}", language, Style_minLangID(),
+                            Style_maxLangID()));
+}
+
+void refuseAsPresent(const char* option, TextView text) {
+  throw Refused(fmt::format("{} {} is there already", option, inQuotes(toUtf8(text))));
 }
 
 void refuseText(const TextList& list, TextView text) {
-  throw Refused(fmt::format("{} {} is refused: {}, or there already", list.option,
-                            inQuotes(toUtf8(text)), list.mistake));
+  throw Refused(fmt::format("{} {} is refused: {}", list.option, inQuotes(toUtf8(text)), list.mistake));
 }
 
 void refuseEffect(const Chain& chain, TextView id) {
-  throw Refused(
-      fmt::format("{} {} is refused: empty, or there already", chain.option, inQuotes(toUtf8(id))));
+  throw Refused(fmt::format("{} {} is refused: empty", chain.option, inQuotes(toUtf8(id))));
 }
 
 }  // namespace tool

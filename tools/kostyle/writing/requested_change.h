@@ -15,7 +15,9 @@ struct RequestedChange {
 /// value is for it to say.
 RequestedChange requestedChange(const StyleEdits& edits, const StyleContent& before);
 
-/// That the library does not take a value, or that it is there already.
+[[noreturn]] void refuseAsPresent(const char* option, TextView text);
+
+/// That the library does not take a value.
 [[noreturn]] void refuseLanguage(int language);
 [[noreturn]] void refuseText(const TextList& list, TextView text);
 [[noreturn]] void refuseEffect(const Chain& chain, TextView id);
