@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <iostream>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -74,8 +75,15 @@ inline int runTo(const fs::path& out, const fs::path& err, const std::string& pr
   startup.hStdOutput = createInherited(out);
   startup.hStdError = createInherited(err);
   PROCESS_INFORMATION process{};
-  const bool started = CreateProcessW(application.c_str(), commandLine.data(), nullptr, nullptr, TRUE,
-                                      0, nullptr, nullptr, &startup, &process);
+  // Of some ten thousand programs Wine does not start one (error 1359), and does so a moment later.
+  bool started = false;
+  DWORD error = ERROR_SUCCESS;
+  for (int attempts = 3; !started && attempts > 0; --attempts) {
+    if (error != ERROR_SUCCESS) Sleep(500);
+    started = CreateProcessW(application.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0,
+                             nullptr, nullptr, &startup, &process);
+    if (!started) error = GetLastError();
+  }
   DWORD exitCode = 0;
   if (started) {
     WaitForSingleObject(process.hProcess, INFINITE);
@@ -86,7 +94,9 @@ inline int runTo(const fs::path& out, const fs::path& err, const std::string& pr
   if (!in.empty()) CloseHandle(startup.hStdInput);
   CloseHandle(startup.hStdOutput);
   CloseHandle(startup.hStdError);
-  if (!started) throw std::runtime_error("cannot start " + program);
+  if (!started)
+    throw std::runtime_error("cannot start " + program + ": error " + std::to_string(error));
+  if (error != ERROR_SUCCESS) std::cerr << program << " did not start at once: error " << error << '\n';
   return static_cast<int>(exitCode);
 }
 
