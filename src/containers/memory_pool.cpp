@@ -39,10 +39,30 @@ MemoryPool::~MemoryPool() {
     unpoison(chunk + 1, chunk->size);
     ::operator delete(chunk);
   }
+  while (LargeBlock* const block = large_) {
+    large_ = block->next;
+    unpoison(block + 1, block->size);
+    ::operator delete(block);
+  }
+}
+
+void* MemoryPool::allocateLarge(std::size_t bytes) {
+  auto* const block =
+      new (::operator new(sizeof(LargeBlock) + bytes)) LargeBlock{nullptr, large_, bytes, 0};
+  if (large_) large_->previous = block;
+  large_ = block;
+  return block + 1;
+}
+
+void MemoryPool::deallocateLarge(void* memory) noexcept {
+  LargeBlock* const block = static_cast<LargeBlock*>(memory) - 1;
+  if (block->next) block->next->previous = block->previous;
+  (block->previous ? block->previous->next : large_) = block->next;
+  ::operator delete(block);
 }
 
 void* MemoryPool::allocate(std::size_t bytes) {
-  if (bytes > largest) return ::operator new(bytes);
+  if (bytes > largest) return allocateLarge(bytes);
   const std::size_t size = sizeNumber(bytes);
   FreeBlock*& free = free_[size];
   if (FreeBlock* const block = free) {
@@ -58,7 +78,8 @@ void* MemoryPool::allocate(std::size_t bytes) {
 }
 
 void MemoryPool::deallocate(void* block, std::size_t bytes) noexcept {
-  if (bytes > largest) return ::operator delete(block);
+  if (isAbandoned_) return;
+  if (bytes > largest) return deallocateLarge(block);
   const std::size_t size = sizeNumber(bytes);
   FreeBlock*& free = free_[size];
   unpoison(block, sizeof(FreeBlock));

@@ -3,7 +3,7 @@
 //
 // A block that is given back is used again for the next one of its size. There are few sizes, and they
 // grow by steps, so that what is changed again and again takes at most a few times its largest size.
-// Large blocks are the system's own.
+// Large blocks are the system's own, and counted among the pool's.
 #pragma once
 
 #include <array>
@@ -21,8 +21,12 @@ class MemoryPool {
   MemoryPool(const MemoryPool&) = delete;
   MemoryPool& operator=(const MemoryPool&) = delete;
 
-  /// Large blocks must be given back by then; small ones go with the pool.
+  /// All blocks go with the pool.
   ~MemoryPool();
+
+  /// From now on nothing need be given back, since the pool is about to go: giving back does nothing.
+  void abandon() noexcept { isAbandoned_ = true; }
+  bool isAbandoned() const noexcept { return isAbandoned_; }
 
   /// A block aligned for pointers. Throws std::bad_alloc.
   void* allocate(std::size_t bytes);
@@ -39,14 +43,31 @@ class MemoryPool {
     std::size_t size;
   };
 
+  // In front of a large block.
+  struct LargeBlock {
+    LargeBlock* previous;
+    LargeBlock* next;
+    std::size_t size;
+    std::size_t unused;  // keeps the block aligned
+  };
+
   void addChunk();
+  void* allocateLarge(std::size_t bytes);
+  void deallocateLarge(void* memory) noexcept;
 
   std::array<FreeBlock*, numSizes> free_ = {};  // by size
   std::byte* next_ = nullptr;                   // what is left of the newest chunk
   std::byte* end_ = nullptr;
   Chunk* chunks_ = nullptr;
+  LargeBlock* large_ = nullptr;
   std::size_t total_ = 0;
+  bool isAbandoned_ = false;
 };
+
+/// Whether what objects of a type hold is memory of their pool alone: when that is abandoned, they need
+/// not be destroyed.
+template <class Type>
+inline constexpr bool goesWithPool = false;
 
 /// Memory of a pool, or the system's where there is no pool.
 template <class Type>

@@ -253,15 +253,21 @@ class OwnedSequence {
     body_->insertKey(slot);
   }
 
-  /// Destroys all elements, from the first to the last, and gives their memory back.
+  /// Destroys all elements, from the first to the last, and gives their memory back. Those that hold
+  /// memory of the pool alone go with it when it is abandoned.
   void clear() noexcept {
     if (!body_) return;
-    for (SlotNumber slot = slotAt(0); slot != noSlot; slot = body_->order.next(slot))
-      body_->elements.erase(slot);
+    const bool areGone = goesWithPool<Element> && pool() && pool()->isAbandoned();
+    if (!areGone) eraseAll();
     freeBody();
   }
 
  private:
+  void eraseAll() noexcept {
+    for (SlotNumber slot = slotAt(0); slot != noSlot; slot = body_->order.next(slot))
+      body_->elements.erase(slot);
+  }
+
   void freeBody() noexcept {
     body_->~Body();
     memory_.deallocate(std::exchange(body_, nullptr), 1);

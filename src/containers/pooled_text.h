@@ -54,4 +54,7 @@ class PooledText {
   Block* block_ = nullptr;
 };
 
+template <>
+inline constexpr bool goesWithPool<PooledText> = true;
+
 }  // namespace Tesk::KoStyle

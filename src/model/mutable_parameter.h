@@ -49,4 +49,7 @@ class MutableParameter final : public IMutableParameter {
   float valueFloat_ = 0;
 };
 
+template <>
+inline constexpr bool goesWithPool<MutableParameter> = true;
+
 }  // namespace Tesk::KoStyle

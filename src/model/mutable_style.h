@@ -13,6 +13,11 @@
 namespace Tesk::KoStyle {
 
 struct MutableContent {
+  MutableContent() = default;
+  MutableContent(const MutableContent&) = delete;
+  MutableContent& operator=(const MutableContent&) = delete;
+  ~MutableContent() { pool.abandon(); }
+
   MemoryPool pool;  // of the lists and chains
   Text name;
   Attributes<SortedTexts> attributes{&pool};

@@ -66,6 +66,31 @@ TEST(MemoryPool, KeepsSmallBlocksCloseToEachOther) {
   EXPECT_EQ(second - first, 32);
 }
 
+// A leak is found by the sanitizers.
+TEST(MemoryPool, LargeBlocksGoWithIt) {
+  MemoryPool pool;
+  std::vector<void*> blocks;
+  for (std::size_t i = 0; i < 5; ++i)
+    blocks.push_back(std::memset(pool.allocate(5000), static_cast<int>(i), 5000));
+  for (const std::size_t i : {2u, 0u, 4u}) pool.deallocate(blocks[i], 5000);
+  for (const std::size_t i : {1u, 3u})
+    EXPECT_EQ(static_cast<unsigned char*>(blocks[i])[4999], static_cast<unsigned char>(i));
+}
+
+TEST(MemoryPool, TakesNothingBackOnceItIsAbandoned) {
+  MemoryPool pool;
+  EXPECT_FALSE(pool.isAbandoned());
+  void* const small = pool.allocate(40);
+  auto* const large = static_cast<unsigned char*>(pool.allocate(5000));
+  pool.abandon();
+  EXPECT_TRUE(pool.isAbandoned());
+  pool.deallocate(small, 40);
+  EXPECT_NE(pool.allocate(40), small);
+  pool.deallocate(large, 5000);
+  large[4999] = 7;
+  EXPECT_EQ(large[4999], 7);
+}
+
 #if defined(__SANITIZE_ADDRESS__)
 
 TEST(MemoryPoolDeathTest, ABlockThatIsGivenBackMustNotBeTouched) {

@@ -345,5 +345,44 @@ TEST(OwnedSequence, WalksAHundredThousandElementsByNeighbour) {
   EXPECT_EQ(items.begin(), items.end());
 }
 
+struct Counted {
+  explicit Counted(int& deaths) : deaths_(deaths) {}
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+  ~Counted() { ++deaths_; }
+
+  int& deaths_;
+};
+
+struct CountedInPool : Counted {
+  using Counted::Counted;
+};
+
+}  // namespace
+
+template <>
+inline constexpr bool goesWithPool<CountedInPool> = true;
+
+namespace {
+
+template <class Element>
+int deathsOfThree(bool isAbandoned) {
+  int deaths = 0;
+  MemoryPool pool;
+  OwnedSequence<Element, Element> sequence(&pool);
+  for (int i = 0; i < 3; ++i) sequence.append(sequence.makeNode(deaths));
+  if (isAbandoned) pool.abandon();
+  sequence.clear();
+  EXPECT_TRUE(sequence.empty());
+  return deaths;
+}
+
+TEST(OwnedSequence, LeavesElementsThatGoWithThePoolToIt) {
+  EXPECT_EQ(deathsOfThree<Counted>(false), 3);
+  EXPECT_EQ(deathsOfThree<Counted>(true), 3);
+  EXPECT_EQ(deathsOfThree<CountedInPool>(false), 3);
+  EXPECT_EQ(deathsOfThree<CountedInPool>(true), 0);
+}
+
 }  // namespace
 }  // namespace Tesk::KoStyle
