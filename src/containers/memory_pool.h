@@ -3,7 +3,7 @@
 //
 // A block that is given back is used again for the next one of its size. There are few sizes, and they
 // grow by steps, so that what is changed again and again takes at most a few times its largest size.
-// Large blocks are the system's own, and counted among the pool's.
+// Large blocks are the system's own, and go with the pool too.
 #pragma once
 
 #include <array>
