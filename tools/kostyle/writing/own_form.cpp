@@ -31,7 +31,7 @@ StyleContent readBackOf(StyleContent content) {
   return content;
 }
 
-std::string written(const fs::path& path, const std::string& document, const StyleContent& content,
+std::string written(const fs::path& path, const std::string& document, const StyleContent& kept,
                     bool pretty) {
   const TemporaryDirectory directory;
   const fs::path rewritten = directory.path() / "style.kostyle";
@@ -40,8 +40,6 @@ std::string written(const fs::path& path, const std::string& document, const Sty
   directories.user = directory.path();
   const Manager manager(directories);
   MutableStyle style(manager);
-  requireParameter(content);
-  const StyleContent kept = readBackOf(content);
   if (kept.name.empty())
     throw Refused(
         fmt::format("the name has more than {} UTF-16 units; \"kostyle set --name\" gives another",
@@ -50,7 +48,7 @@ std::string written(const fs::path& path, const std::string& document, const Sty
   style.fill(kept);
   requireWritable(style.handle());
   int error = KOSTYLE_OK;
-  MutableStyle_overwrite(style.handle(), content.id.c_str(), pretty, &error);
+  MutableStyle_overwrite(style.handle(), kept.id.c_str(), pretty, &error);
   if (error != KOSTYLE_OK)
     throw Refused(fmt::format("{}: {}", shownPath(path), KoStyle_codeText(error)));
   std::string bytes = readBytes(rewritten);
@@ -83,9 +81,11 @@ StyleContent contentRead(const fs::path& path, const std::string& bytes) {
 
 NewContent ownForm(const fs::path& path, const std::string& document, const StyleContent& style,
                    bool pretty) {
-  std::string bytes = written(path, document, style, pretty);
+  requireParameter(style);
+  StyleContent kept = readBackOf(style);
+  std::string bytes = written(path, document, kept, pretty);
   std::vector<std::string> lost = losses(document, bytes);
-  return {std::move(bytes), readBackOf(style), std::move(lost)};
+  return {std::move(bytes), std::move(kept), std::move(lost)};
 }
 
 void requireStyle(const fs::path& path, const std::string& bytes, const StyleContent& style,
