@@ -39,6 +39,7 @@ class MutableEffect : public virtual IMutableEffect {
   bool move(const std::size_t& index) final;
   IMutableParameter* addParameter(const Char* name) final;
 
+  EffectKind kind() const noexcept { return kind_; }
   TextView wholeId() const noexcept { return id_; }
   ParameterList& parameters() noexcept { return parameters_; }
   const ParameterList& parameters() const noexcept { return parameters_; }

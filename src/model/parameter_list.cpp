@@ -38,7 +38,7 @@ void ParameterList::destroy(MutableParameter& parameter) noexcept {
 // A stable sort that moves the renamed parameters only: the others are in order already. A renamed one
 // belongs among the others of its name as near as possible to where it stands.
 void ParameterList::sort() {
-  if (renamed_.empty()) return;
+  if (isSorted()) return;
   struct Move {
     MutableParameter* parameter;
     std::size_t position;  // among all, then among the parameters that stay, then its target there

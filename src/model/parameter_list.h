@@ -34,6 +34,9 @@ class ParameterList {
   }
   bool containsName(TextView name) const noexcept { return parameters_.findKey(name) != nullptr; }
 
+  /// Whether no parameter was renamed since the list was sorted last.
+  bool isSorted() const noexcept { return renamed_.empty(); }
+
   /// Appends a new parameter of an effect and sorts. Null when the name is here already.
   MutableParameter* append(MutableEffect& parent, TextView name);
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "model/content_freezer.h"
+
 namespace Tesk::KoStyle {
 
 void StyleBuilder::clear() noexcept {
@@ -22,12 +24,6 @@ StyleBuilder::Adding StyleBuilder::addText(Attribute attribute, TextView text) {
   return Adding::added;
 }
 
-void StyleBuilder::reserve(std::size_t effects, std::size_t parameters) {
-  effects_.reserve(effects);
-  parameters_.reserve(parameters);
-  parameterKeys_.reserve(parameters);
-}
-
 bool StyleBuilder::addEffect(EffectKind kind, TextView id) {
   if (!effects_.empty() && effects_.back().kind == kind && equalTexts(effects_.back().name, id))
     return false;
@@ -37,7 +33,9 @@ bool StyleBuilder::addEffect(EffectKind kind, TextView id) {
 
 StoredContent StyleBuilder::freeze(const Style& style) {
   StoredContent content;
-  freezeTexts(content);
+  freezeIdentity(content, id_, path_);
+  freezeTexts(content, vendor_, name_, orderTexts());
+  content.attributes.languages = languages_;
   takeEffects(EffectKind::audio);
   takeEffects(EffectKind::midi);
   orderParameters();
@@ -45,33 +43,21 @@ StoredContent StyleBuilder::freeze(const Style& style) {
   return content;
 }
 
-void StyleBuilder::freezeTexts(StoredContent& content) {
+StyleBuilder::TextLists StyleBuilder::orderTexts() {
   listed_.clear();
-  std::array<std::size_t, textAttributes.size()> ends = {};
+  std::array<std::size_t, textAttributes.size()> sizes = {};
   for (std::size_t list = 0; list < texts_.size(); ++list) {
     keys_.clear();
     addKeys(keys_, texts_[list].begin(), texts_[list].end());
     sortDistinct(keys_, 0);
     for (const NameKey& key : keys_) listed_.push_back(key.item->name);
-    ends[list] = listed_.size();
+    sizes[list] = keys_.size();
   }
-  FrozenTextBlock identity(0, unitsOf(id_) + unitsOf(path_));
-  content.id = identity.add(id_);
-  content.path = identity.add(path_);
-
-  std::size_t units = unitsOf(vendor_) + unitsOf(name_);
-  for (const TextView text : listed_) units += unitsOf(text);
-  FrozenTextBlock block(listed_.size(), units);
-  content.vendor = block.add(vendor_);
-  content.name = block.add(name_);
-  content.attributes.languages = languages_;
-  const TextView* texts = listed_.data();
-  for (std::size_t list = 0; list < ends.size(); ++list) {
-    const TextView* const end = listed_.data() + ends[list];
-    content.attributes.lists[list] =
-        block.addList(FrozenRange(texts, static_cast<std::size_t>(end - texts)));
-    texts = end;
-  }
+  TextLists lists;
+  const TextView* first = listed_.data();
+  for (std::size_t list = 0; list < lists.size(); first += sizes[list++])
+    lists[list] = {first, sizes[list]};
+  return lists;
 }
 
 // Takes the first effect of each identifier into a chain.
@@ -140,59 +126,25 @@ std::vector<std::size_t> StyleBuilder::repeatedTexts(Attribute attribute) const 
   return repeated;
 }
 
-void StyleBuilder::freezeEffects(StoredContent& content, const Style& style) {
-  const std::size_t numParameters = parameterKeys_.size();
-  const std::size_t numAudio = countTaken(EffectKind::audio);
-  const std::size_t numMidi = countTaken(EffectKind::midi);
-  const std::size_t numUnits = countEffectUnits();
-  FrozenBlock block(numParameters * sizeof(Parameter) + numAudio * sizeof(AudioEffect) +
-                    numMidi * sizeof(MidiEffect) + numUnits * sizeof(Char));
-  FrozenArray parameters(block.take<Parameter>(numParameters));
-  FrozenArray audioEffects(block.take<AudioEffect>(numAudio));
-  FrozenArray midiEffects(block.take<MidiEffect>(numMidi));
-  Char* texts = block.take<Char>(numUnits);
-  content.audioEffects = freezeChain(EffectKind::audio, style, audioEffects, parameters, texts);
-  content.midiEffects = freezeChain(EffectKind::midi, style, midiEffects, parameters, texts);
-  content.block.swap(block);
-}
-
-std::size_t StyleBuilder::countTaken(EffectKind kind) const noexcept {
-  const auto isTaken = [kind](const EffectEntry& effect) {
-    return effect.taken && effect.kind == kind;
-  };
-  return static_cast<std::size_t>(std::count_if(effects_.begin(), effects_.end(), isTaken));
-}
-
-std::size_t StyleBuilder::countEffectUnits() const noexcept {
-  std::size_t units = 0;
+void StyleBuilder::freezeEffects(StoredContent& content, const Style& style) const {
+  EffectSizes sizes;
   for (const EffectEntry& effect : effects_) {
-    if (effect.taken) units += unitsOf(effect.name);
+    if (effect.taken) sizes.addEffect(effect.kind, effect.name);
   }
-  for (const NameKey& key : parameterKeys_) {
-    const ParameterValue& value = static_cast<const ParameterEntry*>(key.item)->value;
-    units += unitsOf(key.item->name) + value.text.size() + (value.type == ParameterType::text ? 1 : 0);
+  for (const NameKey& key : parameterKeys_) sizes.addParameter(key.item->name, valueOf(key));
+
+  EffectFreezer freezer(style, sizes);
+  for (const EffectEntry& effect : effects_) {
+    if (!effect.taken) continue;
+    freezer.addEffect(effect.kind, effect.name, effect.numKeys);
+    for (std::size_t i = effect.firstKey; i < effect.firstKey + effect.numKeys; ++i)
+      freezer.addParameter(parameterKeys_[i].item->name, valueOf(parameterKeys_[i]));
   }
-  return units;
+  freezer.moveTo(content);
 }
 
-template <class EffectType>
-FrozenRange<EffectType> StyleBuilder::freezeChain(EffectKind kind, const Style& style,
-                                                  FrozenArray<EffectType> chain,
-                                                  FrozenArray<Parameter>& parameters,
-                                                  Char*& texts) const {
-  for (const EffectEntry& entry : effects_) {
-    if (!entry.taken || entry.kind != kind) continue;
-    const FrozenRange<Parameter> range(parameters.end(), entry.numKeys);
-    const Effect& effect = chain.emplace(style, appendText(texts, entry.name), range);
-    for (std::size_t i = entry.firstKey; i < entry.firstKey + entry.numKeys; ++i) {
-      const auto& parameter = *static_cast<const ParameterEntry*>(parameterKeys_[i].item);
-      const TextView name = appendText(texts, parameter.name);
-      ParameterValue value = parameter.value;
-      if (value.type == ParameterType::text) value.text = appendText(texts, value.text);
-      parameters.emplace(effect, name, value);
-    }
-  }
-  return chain.range();
+const ParameterValue& StyleBuilder::valueOf(const NameKey& key) noexcept {
+  return static_cast<const ParameterEntry*>(key.item)->value;
 }
 
 }  // namespace Tesk::KoStyle

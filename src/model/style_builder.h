@@ -43,9 +43,6 @@ class StyleBuilder {
   }
   Adding addText(Attribute attribute, TextView text);
 
-  /// Takes memory ahead.
-  void reserve(std::size_t effects, std::size_t parameters);
-
   /// An effect without parameters. The identifier must not be empty. False when it is that of the
   /// effect before it, which stays the last one.
   bool addEffect(EffectKind kind, TextView id);
@@ -78,17 +75,14 @@ class StyleBuilder {
     std::size_t numKeys = 0;
   };
 
-  void freezeTexts(StoredContent& content);
+  using TextLists = std::array<FrozenRange<const TextView>, textAttributes.size()>;
+
+  TextLists orderTexts();
   void takeEffects(EffectKind kind);
   void orderParameters();
-  void freezeEffects(StoredContent& content, const Style& style);
+  void freezeEffects(StoredContent& content, const Style& style) const;
   std::size_t endOfParameters(std::size_t effect) const noexcept;
-  std::size_t countTaken(EffectKind kind) const noexcept;
-  std::size_t countEffectUnits() const noexcept;
-  template <class EffectType>
-  FrozenRange<EffectType> freezeChain(EffectKind kind, const Style& style,
-                                      FrozenArray<EffectType> chain, FrozenArray<Parameter>& parameters,
-                                      Char*& texts) const;
+  static const ParameterValue& valueOf(const NameKey& key) noexcept;
 
   TextView id_;
   TextView path_;

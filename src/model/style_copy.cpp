@@ -1,44 +1,92 @@
 #include "model/style_copy.h"
 
 #include <cstddef>
+#include <vector>
 
-#include "model/style_builder.h"
+#include "model/content_freezer.h"
+#include "model/name_order.h"
 
 namespace Tesk::KoStyle {
 namespace {
 
-std::size_t countParameters(const MutableChain& chain) {
-  std::size_t count = 0;
-  for (const MutableEffect& effect : chain) count += effect.parameters().size();
-  return count;
-}
-
-void copyChain(EffectKind kind, const MutableChain& chain, StyleBuilder& builder) {
-  for (const MutableEffect& effect : chain) {
-    builder.addEffect(kind, effect.wholeId());
-    for (const MutableParameter& parameter : effect.parameters())
-      builder.addParameter(parameter.wholeName(), parameter.value());
+// The effects of a mutable style, and of their parameters those that a stored style takes, as it orders
+// them.
+class TakenEffects {
+ public:
+  explicit TakenEffects(const MutableStyle& style) {
+    addChain(style.audioEffects());
+    addChain(style.midiEffects());
   }
-}
+
+  void freeze(const Style& target, StoredContent& content) const {
+    EffectFreezer freezer(target, sizes_);
+    auto parameter = parameters_.begin();
+    for (const Taken& taken : effects_) {
+      freezer.addEffect(taken.effect->kind(), taken.effect->wholeId(), taken.numParameters);
+      for (std::size_t i = 0; i < taken.numParameters; ++i, ++parameter)
+        freezer.addParameter((*parameter)->wholeName(), (*parameter)->value());
+    }
+    freezer.moveTo(content);
+  }
+
+ private:
+  struct Taken {
+    const MutableEffect* effect;
+    std::size_t numParameters;
+  };
+
+  void addChain(const MutableChain& chain) {
+    effects_.reserve(effects_.size() + chain.size());
+    for (const MutableEffect& effect : chain) {
+      const std::size_t first = parameters_.size();
+      addParameters(effect.parameters());
+      effects_.push_back({&effect, parameters_.size() - first});
+      sizes_.addEffect(effect.kind(), effect.wholeId());
+      for (std::size_t i = first; i < parameters_.size(); ++i)
+        sizes_.addParameter(parameters_[i]->wholeName(), parameters_[i]->value());
+    }
+  }
+
+  // Renaming can give several parameters one name, of which the first is taken.
+  void addParameters(const ParameterList& parameters) {
+    if (!parameters.isSorted()) return addInOrder(parameters);
+    const MutableParameter* previous = nullptr;
+    for (const MutableParameter& parameter : parameters) {
+      if (!previous || !equalTexts(previous->wholeName(), parameter.wholeName()))
+        parameters_.push_back(&parameter);
+      previous = &parameter;
+    }
+  }
+
+  void addInOrder(const ParameterList& parameters) {
+    struct Entry : Named {
+      const MutableParameter* parameter;
+    };
+    std::vector<Entry> entries;
+    for (const MutableParameter& parameter : parameters)
+      entries.push_back({{parameter.wholeName()}, &parameter});
+    NameKeys keys;
+    addKeys(keys, entries.begin(), entries.end());
+    sortDistinct(keys, 0);
+    for (const NameKey& key : keys)
+      parameters_.push_back(static_cast<const Entry*>(key.item)->parameter);
+  }
+
+  std::vector<Taken> effects_;
+  std::vector<const MutableParameter*> parameters_;
+  EffectSizes sizes_;
+};
 
 }  // namespace
 
 StoredContent copyFromMutableStyle(const MutableStyle& style, const Style& target, TextView id,
                                    TextView path) {
-  StyleBuilder builder;
-  builder.setId(id);
-  builder.setPath(path);
-  builder.setName(style.wholeName());
-  for (std::size_t i = 0; i < style.numLanguage(); ++i) builder.addLanguage(style.language(i));
-  for (const Attribute attribute : textAttributes) {
-    for (const TextView text : style.attributes()[attribute]) builder.addText(attribute, text);
-  }
-  const MutableChain& audio = style.audioEffects();
-  const MutableChain& midi = style.midiEffects();
-  builder.reserve(audio.size() + midi.size(), countParameters(audio) + countParameters(midi));
-  copyChain(EffectKind::audio, audio, builder);
-  copyChain(EffectKind::midi, midi, builder);
-  return builder.freeze(target);
+  StoredContent content;
+  freezeIdentity(content, id, path);
+  freezeTexts(content, TextView(), style.wholeName(), style.attributes().lists);
+  content.attributes.languages = style.attributes().languages;
+  TakenEffects(style).freeze(target, content);
+  return content;
 }
 
 }  // namespace Tesk::KoStyle
