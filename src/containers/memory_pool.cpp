@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "platform/poison.h"
+#include "platform/prefetch.h"
 
 namespace Tesk::KoStyle {
 
@@ -44,6 +45,14 @@ MemoryPool::~MemoryPool() {
     unpoison(block + 1, block->size);
     ::operator delete(block);
   }
+}
+
+void MemoryPool::prefetch() const noexcept {
+  if (!chunks_) return;
+  const auto* const newest = reinterpret_cast<const std::byte*>(chunks_ + 1);
+  platform::prefetch(newest, static_cast<std::size_t>(next_ - newest));
+  for (const Chunk* chunk = chunks_->next; chunk; chunk = chunk->next)
+    platform::prefetch(chunk + 1, chunk->size);
 }
 
 void* MemoryPool::allocateLarge(std::size_t bytes) {

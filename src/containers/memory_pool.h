@@ -24,6 +24,9 @@ class MemoryPool {
   /// All blocks go with the pool.
   ~MemoryPool();
 
+  /// Asks for all small blocks ahead, since they are about to be read.
+  void prefetch() const noexcept;
+
   /// From now on nothing need be given back, since the pool is about to go: giving back does nothing.
   void abandon() noexcept { isAbandoned_ = true; }
   bool isAbandoned() const noexcept { return isAbandoned_; }

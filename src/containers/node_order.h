@@ -47,6 +47,15 @@ class NodeOrder {
     return isTree() ? tree_->previous(node) : place(node) == 0 ? none : nodes_[place(node) - 1];
   }
 
+  // A node some places after or before another of an order that is a tree; none where that is not worth
+  // while.
+  Node after(Node node, std::size_t places) const noexcept {
+    return isTree() ? tree_->after(node, places) : none;
+  }
+  Node before(Node node, std::size_t places) const noexcept {
+    return isTree() ? tree_->before(node, places) : none;
+  }
+
   /// Inserts a node that is not in the order, before another; at the end before none.
   void insertBefore(Node after, Node node) noexcept;
 

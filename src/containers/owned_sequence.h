@@ -170,13 +170,17 @@ class OwnedSequence {
   /// The element after another; null at the end and when the other is not here.
   Element* next(const Interface* element) const noexcept {
     const SlotNumber slot = find(element);
-    return slot == noSlot ? nullptr : elementIn(body_->order.next(slot));
+    if (slot == noSlot) return nullptr;
+    prefetch(body_->order.after(slot, ahead), body_->order.after(slot, 2 * ahead));
+    return elementIn(body_->order.next(slot));
   }
 
   /// The element before another; null at the front and when the other is not here.
   Element* previous(const Interface* element) const noexcept {
     const SlotNumber slot = find(element);
-    return slot == noSlot ? nullptr : elementIn(body_->order.previous(slot));
+    if (slot == noSlot) return nullptr;
+    prefetch(body_->order.before(slot, ahead), body_->order.before(slot, 2 * ahead));
+    return elementIn(body_->order.previous(slot));
   }
 
   /// An element with this key, or null. Which one, when several have it, is not specified.
@@ -235,6 +239,13 @@ class OwnedSequence {
     return {*body_, slot};
   }
 
+  /// Moves an element of this sequence to a position, which is counted without it.
+  void move(const Interface* element, std::size_t position) noexcept {
+    const SlotNumber slot = find(element);
+    body_->order.erase(slot);
+    body_->order.insertBefore(slotAt(position), slot);
+  }
+
   /// Destroys an element; false when it is not here.
   bool destroy(const Interface* element) noexcept {
     if (!contains(element)) return false;
@@ -271,6 +282,14 @@ class OwnedSequence {
   void freeBody() noexcept {
     body_->~Body();
     memory_.deallocate(std::exchange(body_, nullptr), 1);
+  }
+
+  // A walk will come to what stands so many places from where it is when that has arrived.
+  static constexpr std::size_t ahead = 8;
+
+  void prefetch(SlotNumber slot, SlotNumber farther) const noexcept {
+    if (slot != noSlot) body_->elements.prefetchElement(slot);
+    if (farther != noSlot) body_->elements.prefetchEntry(farther);
   }
 
   static SlotNumber release(NodeHandle& handle) noexcept {

@@ -1,145 +1,270 @@
 #include "containers/rank_tree.h"
 
+#include <new>
+#include <numeric>
+
 namespace Tesk::KoStyle {
-namespace {
 
-constexpr std::size_t balanceRatio = 3;   // one side may weigh up to this many times the other
-constexpr std::size_t rotationRatio = 2;  // an inner child from this ratio on takes a double rotation
-
-}  // namespace
-
-// One more than the size: the pair of ratios above keeps its balance proof for this weight.
-std::size_t RankTree::weight(Node node) const noexcept { return sizeOf(node) + 1; }
-
-void RankTree::updateSize(Node node) noexcept {
-  Link& link = links_[node];
-  link.size = static_cast<Node>(1 + sizeOf(link.left) + sizeOf(link.right));
+void RankTree::reserve(std::size_t count) {
+  if (count <= places_.size()) return;
+  std::size_t pages = 0;
+  for (std::size_t held = count; pages == 0 || held > 1; pages += held) held = (held - 1) / least + 1;
+  if (pages > none / fanout) throw std::bad_alloc();
+  pages_.reserve(pages);
+  places_.resize(count, none);
 }
 
 RankTree::Node RankTree::at(std::size_t position) const noexcept {
-  Node node = root_;
-  while (node != none) {
-    const Link& link = links_[node];
-    const std::size_t before = sizeOf(link.left);
-    if (position == before) return node;
-    if (position < before) {
-      node = link.left;
-    } else {
-      position -= before + 1;
-      node = link.right;
-    }
+  if (position >= size_) return none;
+  const Page* page = &pages_[root_];
+  while (page->level > 0) {
+    std::size_t child = 0;
+    for (; position >= page->sizes[child]; ++child) position -= page->sizes[child];
+    page = &pages_[page->ids[child]];
   }
-  return none;
+  return page->ids[position];
 }
 
 std::size_t RankTree::position(Node node) const noexcept {
-  if (node == none) return size();
-  std::size_t position = sizeOf(links_[node].left);
-  for (Node parent = links_[node].parent; parent != none; parent = links_[node].parent) {
-    if (links_[parent].right == node) position += 1 + sizeOf(links_[parent].left);
-    node = parent;
+  if (node == none) return size_;
+  const Spot spot = spotOf(node);
+  std::size_t position = spot.index;
+  for (PageNumber page = spot.page; page != root_; page = pages_[page].parent) {
+    const auto& sizes = pages_[pages_[page].parent].sizes;
+    position += std::accumulate(sizes.begin(), sizes.begin() + indexInParent(page), std::size_t{0});
   }
   return position;
 }
 
+// Where the last page is full, one that follows it takes what comes at the end, so that pages stay full
+// when nodes come in order.
 void RankTree::insertBefore(Node after, Node node) noexcept {
-  const Node before = after == none ? last() : links_[after].previous;
-  links_[node] = Link();
-  links_[node].size = 1;
-  join(before, node);
-  join(node, after);
-  // One of the two has no child where the new node belongs.
-  const bool belowAfter = after != none && links_[after].left == none;
-  const Node parent = belowAfter ? after : before;
-  links_[node].parent = parent;
-  if (parent == none) {
-    root_ = node;
-  } else {
-    (belowAfter ? links_[parent].left : links_[parent].right) = node;
+  if (root_ == none) root_ = takePage(0);
+  const bool atEnd = after == none;
+  Spot spot = atEnd ? Spot{lastLeaf(), 0} : spotOf(after);
+  if (atEnd) spot.index = pages_[spot.page].count;
+  if (pages_[spot.page].count == fanout) {
+    const PageNumber right = split(spot.page, atEnd);
+    const std::uint32_t kept = pages_[spot.page].count;
+    if (atEnd || spot.index > kept) spot = {right, spot.index - kept};
   }
-  rebalanceUpwards(parent);
+  insertAt(spot, node);
+  countUpwards(spot, 1);
+  ++size_;
 }
 
 void RankTree::erase(Node node) noexcept {
-  if (links_[node].left != none && links_[node].right != none) swapWithSuccessor(node);
-  const Link link = links_[node];
-  join(link.previous, link.next);
-  attach(link.parent, node, link.left != none ? link.left : link.right);
-  rebalanceUpwards(link.parent);
-  links_[node] = Link();
+  const Spot spot = spotOf(node);
+  places_[node] = none;
+  eraseAt(spot);
+  countUpwards(spot, UINT32_MAX);
+  --size_;
+  shrink(spot.page);
 }
 
-RankTree::Node RankTree::last() const noexcept { return size() == 0 ? none : at(size() - 1); }
-
-void RankTree::join(Node before, Node after) noexcept {
-  if (before != none) links_[before].next = after;
-  if (after != none) links_[after].previous = before;
+std::uint32_t RankTree::indexInParent(PageNumber page) const noexcept {
+  const auto& ids = pages_[pages_[page].parent].ids;
+  return static_cast<std::uint32_t>(std::find(ids.begin(), ids.end(), page) - ids.begin());
 }
 
-// Puts `replacement` where `old` hangs below `parent`, or at the root.
-void RankTree::attach(Node parent, Node old, Node replacement) noexcept {
-  if (parent == none) {
-    root_ = replacement;
+RankTree::PageNumber RankTree::lastLeaf() const noexcept {
+  PageNumber page = root_;
+  while (pages_[page].level > 0) page = pages_[page].last();
+  return page;
+}
+
+RankTree::PageNumber RankTree::takePage(std::uint16_t level) noexcept {
+  PageNumber page = free_;
+  if (page == none) {
+    page = static_cast<PageNumber>(pages_.size());
+    pages_.emplace_back();
   } else {
-    (links_[parent].left == old ? links_[parent].left : links_[parent].right) = replacement;
+    free_ = pages_[page].next;
+    pages_[page] = Page();
   }
-  if (replacement != none) links_[replacement].parent = parent;
+  pages_[page].level = level;
+  return page;
 }
 
-// Lifts a node, which is the `rising` child of another, above it.
-RankTree::Node RankTree::rotate(Node upper, Node lower, Side rising, Side falling) noexcept {
-  attach(links_[upper].parent, upper, lower);
-  const Node passedOn = links_[lower].*falling;
-  links_[upper].*rising = passedOn;
-  if (passedOn != none) links_[passedOn].parent = upper;
-  links_[lower].*falling = upper;
-  links_[upper].parent = lower;
-  updateSize(upper);
-  updateSize(lower);
-  return lower;
+void RankTree::freePage(PageNumber page) noexcept {
+  pages_[page].next = free_;
+  free_ = page;
 }
 
-RankTree::Node RankTree::balanceSide(Node node, Side light, Side heavy) noexcept {
-  Node child = links_[node].*heavy;
-  if (child == none || weight(child) <= balanceRatio * weight(links_[node].*light)) return node;
-  const Node inner = links_[child].*light;
-  if (inner != none && weight(inner) >= rotationRatio * weight(links_[child].*heavy)) {
-    child = rotate(child, inner, light, heavy);
+void RankTree::insertAt(Spot spot, std::uint32_t id) noexcept {
+  Page& page = pages_[spot.page];
+  const auto makeRoom = [&](auto& array) {
+    std::copy_backward(array.begin() + spot.index, array.begin() + page.count,
+                       array.begin() + page.count + 1);
+  };
+  makeRoom(page.ids);
+  if (page.level > 0) {
+    makeRoom(page.sizes);
+    makeRoom(page.firsts);
   }
-  return rotate(node, child, heavy, light);
+  page.ids[spot.index] = id;
+  ++page.count;
+  settle(spot.page, spot.index);
 }
 
-void RankTree::rebalanceUpwards(Node node) noexcept {
-  while (node != none) {
-    updateSize(node);
-    node = balanceSide(node, &Link::left, &Link::right);
-    node = balanceSide(node, &Link::right, &Link::left);
-    node = links_[node].parent;
+void RankTree::eraseAt(Spot spot) noexcept {
+  Page& page = pages_[spot.page];
+  const auto close = [&](auto& array) {
+    std::copy(array.begin() + spot.index + 1, array.begin() + page.count, array.begin() + spot.index);
+  };
+  close(page.ids);
+  if (page.level > 0) {
+    close(page.sizes);
+    close(page.firsts);
+  }
+  --page.count;
+  settle(spot.page, spot.index);
+}
+
+// Moves what stands in a page from an index on to the end of another of its level.
+void RankTree::moveTail(PageNumber from, std::uint32_t first, PageNumber to) noexcept {
+  Page& source = pages_[from];
+  Page& target = pages_[to];
+  const std::uint32_t settled = target.count;
+  const auto append = [&](const auto& array, auto& end) {
+    std::copy(array.begin() + first, array.begin() + source.count, end.begin() + settled);
+  };
+  append(source.ids, target.ids);
+  append(source.sizes, target.sizes);
+  append(source.firsts, target.firsts);
+  target.count = static_cast<std::uint16_t>(settled + source.count - first);
+  source.count = static_cast<std::uint16_t>(first);
+  settle(to, settled);
+}
+
+// Tells what stands in a page from an index on where it stands.
+void RankTree::settle(PageNumber page, std::uint32_t first) noexcept {
+  const Page& settled = pages_[page];
+  for (std::uint32_t index = first; index < settled.count; ++index) {
+    if (settled.level == 0) {
+      places_[settled.ids[index]] = page * fanout + index;
+    } else {
+      pages_[settled.ids[index]].parent = page;
+    }
   }
 }
 
-// Exchanges the places of a node with two children and of the node after it, which has no left child.
-void RankTree::swapWithSuccessor(Node node) noexcept {
-  const Node successor = links_[node].next;
-  const Link before = links_[node];
-  const Link after = links_[successor];
-  attach(before.parent, node, successor);
-  links_[successor].size = before.size;
-  links_[successor].left = before.left;
-  links_[before.left].parent = successor;
-  if (after.parent == node) {
-    links_[successor].right = node;
-    links_[node].parent = successor;
+// Brings up to date what a page's parent says of it.
+void RankTree::count(PageNumber page) noexcept {
+  const Page& counted = pages_[page];
+  const auto sizes = counted.sizes.begin();
+  Page& parent = pages_[counted.parent];
+  const std::uint32_t index = indexInParent(page);
+  parent.sizes[index] =
+      counted.level == 0 ? counted.count : std::accumulate(sizes, sizes + counted.count, 0U);
+  parent.firsts[index] = counted.first();
+}
+
+// The same for all pages above one that nodes came to or left, which changed at an index.
+void RankTree::countUpwards(Spot changed, std::uint32_t difference) noexcept {
+  bool isFirst = changed.index == 0;
+  for (PageNumber page = changed.page; page != root_; page = pages_[page].parent) {
+    Page& parent = pages_[pages_[page].parent];
+    const std::uint32_t index = indexInParent(page);
+    parent.sizes[index] += difference;
+    if (isFirst) parent.firsts[index] = pages_[page].first();
+    isFirst = isFirst && index == 0;
+  }
+}
+
+void RankTree::addRoot() noexcept {
+  const PageNumber page = root_;
+  root_ = takePage(static_cast<std::uint16_t>(pages_[page].level + 1));
+  insertAt({root_, 0}, page);
+  count(page);
+}
+
+// Moves half of a full page to a new one that follows it; at the end of the order nothing. There is
+// room for it in the parent before, so that what is counted above stays right.
+RankTree::PageNumber RankTree::split(PageNumber page, bool atEnd) noexcept {
+  if (page == root_) addRoot();
+  PageNumber parent = pages_[page].parent;
+  if (pages_[parent].count == fanout) {
+    const PageNumber uncle = split(parent, atEnd);
+    parent = atEnd ? uncle : pages_[page].parent;
+  }
+  const PageNumber right = takePage(pages_[page].level);
+  moveTail(page, atEnd ? fanout : least, right);
+  if (pages_[page].level == 0) link(page, right);
+  insertAt({parent, atEnd ? pages_[parent].count : indexInParent(page) + 1}, right);
+  count(page);
+  count(right);
+  return right;
+}
+
+void RankTree::link(PageNumber leaf, PageNumber after) noexcept {
+  const PageNumber next = pages_[leaf].next;
+  pages_[after].previous = leaf;
+  pages_[after].next = next;
+  pages_[leaf].next = after;
+  if (next != none) pages_[next].previous = after;
+}
+
+// Takes a page that nothing stands in any more out of its parent.
+void RankTree::erasePage(PageNumber page) noexcept {
+  const Page& erased = pages_[page];
+  if (erased.previous != none) pages_[erased.previous].next = erased.next;
+  if (erased.next != none) pages_[erased.next].previous = erased.previous;
+  const PageNumber parent = erased.parent;
+  eraseAt({parent, indexInParent(page)});
+  freePage(page);
+  shrink(parent);
+}
+
+// Joins a page that something was taken from with a neighbour, or takes one from there, when less than
+// half of it is left. Only the last page of a level can be without a neighbour below the same parent.
+void RankTree::shrink(PageNumber page) noexcept {
+  if (page == root_) return shrinkRoot();
+  if (pages_[page].count >= least) return;
+  const Page& parent = pages_[pages_[page].parent];
+  if (parent.count == 1) {
+    if (pages_[page].count == 0) erasePage(page);
+    return;
+  }
+  const std::uint32_t index = std::max(indexInParent(page), 1U);
+  const PageNumber left = parent.ids[index - 1];
+  const PageNumber right = parent.ids[index];
+  const std::uint32_t leftCount = pages_[left].count;
+  const std::uint32_t rightCount = pages_[right].count;
+  if (leftCount + rightCount <= fanout) {
+    moveTail(right, 0, left);
+    count(left);
+    erasePage(right);
+    return;
+  }
+  if (leftCount < rightCount) {
+    moveOne({right, 0}, {left, leftCount});
   } else {
-    links_[successor].right = before.right;
-    links_[before.right].parent = successor;
-    links_[after.parent].left = node;
-    links_[node].parent = after.parent;
+    moveOne({left, leftCount - 1}, {right, 0});
   }
-  links_[node].left = none;
-  links_[node].right = after.right;
-  links_[node].size = after.size;
-  if (after.right != none) links_[after.right].parent = node;
+  count(left);
+  count(right);
+}
+
+void RankTree::moveOne(Spot from, Spot to) noexcept {
+  const Page& source = pages_[from.page];
+  const std::uint32_t id = source.ids[from.index];
+  const std::uint32_t size = source.sizes[from.index];
+  const Node first = source.firsts[from.index];
+  eraseAt(from);
+  insertAt(to, id);
+  pages_[to.page].sizes[to.index] = size;
+  pages_[to.page].firsts[to.index] = first;
+}
+
+void RankTree::shrinkRoot() noexcept {
+  while (pages_[root_].level > 0 && pages_[root_].count == 1) {
+    freePage(root_);
+    root_ = pages_[root_].ids[0];
+  }
+  if (pages_[root_].count > 0) return;
+  freePage(root_);
+  root_ = none;
 }
 
 }  // namespace Tesk::KoStyle

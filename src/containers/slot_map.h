@@ -17,6 +17,7 @@
 
 #include "containers/memory_pool.h"
 #include "platform/poison.h"
+#include "platform/prefetch.h"
 
 namespace Tesk::KoStyle {
 
@@ -48,6 +49,14 @@ class SlotMap {
 
   /// The element of a filled slot.
   Element& operator[](SlotNumber slot) const noexcept { return *entries_[slot].element; }
+
+  // An element is asked for by its entry, which must be at hand by then.
+  void prefetchEntry(SlotNumber slot) const noexcept {
+    platform::prefetch(&entries_[slot], sizeof(Entry));
+  }
+  void prefetchElement(SlotNumber slot) const noexcept {
+    platform::prefetch(entries_[slot].element, sizeof(Storage));
+  }
 
   /// Makes an element in an empty slot. Its constructor must not make another here.
   template <class Class, class... Arguments>

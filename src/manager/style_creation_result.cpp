@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "containers/frozen_range.h"
+#include "platform/prefetch.h"
 
 namespace Tesk::KoStyle {
 
@@ -15,7 +16,11 @@ StyleCreationResult::StyleCreationResult(CreationResults& list, FrozenText fileP
       outcome_(std::move(outcome)) {}
 
 StyleCreationResult* StyleCreationResult::neighbour(std::ptrdiff_t step) const {
-  return FrozenRange<StyleCreationResult>(list_->data(), list_->size()).neighbour(*this, step);
+  constexpr std::ptrdiff_t ahead = 8;  // a walk comes there when it has arrived
+  const FrozenRange<StyleCreationResult> results(list_->data(), list_->size());
+  if (const auto* const later = results.neighbour(*this, ahead * step))
+    platform::prefetch(later, sizeof *later);
+  return results.neighbour(*this, step);
 }
 
 }  // namespace Tesk::KoStyle

@@ -78,6 +78,7 @@ IUserStyle* saveNewStyle(StyleManager& manager, MutableStyle& style, bool pretty
   };
   if (*style.name() == 0) return fail(KOSTYLE_ERROR_ARGUMENT_MISSING);
   if (!manager.listsMutableStyle(&style)) return fail(KOSTYLE_ERROR_FOREIGN_MUTABLE_STYLE);
+  style.pool().prefetch();
   if (!ensureDirectory(manager.userStyleDirPath()))
     return fail(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
 

@@ -16,8 +16,7 @@ IMutableStyle* MutableEffect::parent() const { return &parent_; }
 bool MutableEffect::move(const std::size_t& index) {
   MutableChain& effects = chain();
   if (!effects.contains(this)) return false;
-  const std::size_t target = std::min(index, effects.size() - 1);
-  if (target != effects.position(this)) effects.insert(target, effects.extract(this));
+  effects.move(this, std::min(index, effects.size() - 1));
   return true;
 }
 

@@ -39,6 +39,19 @@ INSTANTIATE_TEST_SUITE_P(MovingMiddle, RankTreeDepth,
 INSTANTIATE_TEST_SUITE_P(BothEndsInTurn, RankTreeDepth,
                          ::testing::Values([](std::size_t i) { return i % 2 ? i : 0; }));
 
+TEST(RankTree, FindsWhatStandsSomePlacesAway) {
+  constexpr Node count = 1000;
+  RankTree tree = withRoomFor<RankTree>(count);
+  for (Node node = 0; node < count; ++node) insert(tree, node / 2, node);  // half full pages
+  for (std::size_t places = 1; places <= RankTree::reach; ++places) {
+    for (std::size_t position = 0; position < count; ++position) {
+      EXPECT_EQ(tree.after(tree.at(position), places), tree.at(position + places));
+      EXPECT_EQ(tree.before(tree.at(position), places),
+                position < places ? RankTree::none : tree.at(position - places));
+    }
+  }
+}
+
 TEST(RankTree, TakesAHundredThousandNodesOutInAnyOrder) {
   Nodes nodes(100000);
   std::iota(nodes.begin(), nodes.end(), 0);
