@@ -127,6 +127,7 @@ Text makeUuid() {
   bytes[6] = static_cast<unsigned char>((bytes[6] & 0x0FU) | 0x40U);
   bytes[8] = static_cast<unsigned char>((bytes[8] & 0x3FU) | 0x80U);
   Text uuid;
+  uuid.reserve(36);
   for (const unsigned char byte : bytes) {
     constexpr char digits[] = "0123456789abcdef";
     const std::size_t length = uuid.size();
