@@ -63,8 +63,10 @@ void RankTree::erase(Node node) noexcept {
 }
 
 std::uint32_t RankTree::indexInParent(PageNumber page) const noexcept {
-  const auto& ids = pages_[pages_[page].parent].ids;
-  return static_cast<std::uint32_t>(std::find(ids.begin(), ids.end(), page) - ids.begin());
+  const Page& parent = pages_[pages_[page].parent];
+  if (parent.last() == page) return parent.count - 1U;
+  return static_cast<std::uint32_t>(std::find(parent.ids.begin(), parent.ids.end(), page) -
+                                    parent.ids.begin());
 }
 
 RankTree::PageNumber RankTree::lastLeaf() const noexcept {
@@ -152,7 +154,7 @@ void RankTree::settle(PageNumber page, std::uint32_t first) noexcept {
 // Brings up to date what a page's parent says of it.
 void RankTree::count(PageNumber page) noexcept {
   const Page& counted = pages_[page];
-  const auto sizes = counted.sizes.begin();
+  const auto* const sizes = counted.sizes.data();
   Page& parent = pages_[counted.parent];
   const std::uint32_t index = indexInParent(page);
   parent.sizes[index] =

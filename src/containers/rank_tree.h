@@ -83,6 +83,10 @@ class RankTree {
   Node partitionPoint(Before before) const {
     if (root_ == none) return none;
     const Page* page = &pages_[root_];
+    if (page->level > 0) {  // nodes often come in order, or in the reverse of it, and belong at an end
+      if (before(pages_[lastLeaf()].last())) return none;
+      if (!before(page->first())) return page->first();
+    }
     while (page->level > 0) {
       const auto* const firsts = page->firsts.data();
       const auto* const child = std::partition_point(firsts + 1, firsts + page->count, before) - 1;
