@@ -48,10 +48,9 @@ MemoryPool::~MemoryPool() {
 }
 
 void MemoryPool::prefetch() const noexcept {
-  if (!chunks_) return;
-  const auto* const newest = reinterpret_cast<const std::byte*>(chunks_ + 1);
-  platform::prefetch(newest, static_cast<std::size_t>(next_ - newest));
-  for (const Chunk* chunk = chunks_->next; chunk; chunk = chunk->next)
+  constexpr std::size_t cache = 64 << 10;
+  if (total_ > cache) return;
+  for (const Chunk* chunk = chunks_; chunk; chunk = chunk->next)
     platform::prefetch(chunk + 1, chunk->size);
 }
 

@@ -24,7 +24,8 @@ class MemoryPool {
   /// All blocks go with the pool.
   ~MemoryPool();
 
-  /// Asks for all small blocks ahead, since they are about to be read.
+  /// Asks for the small blocks ahead, since they are about to be read; for none when they are more than
+  /// the cache next to the processor holds.
   void prefetch() const noexcept;
 
   /// From now on nothing need be given back, since the pool is about to go: giving back does nothing.

@@ -47,8 +47,9 @@ class NodeOrder {
     return isTree() ? tree_->previous(node) : place(node) == 0 ? none : nodes_[place(node) - 1];
   }
 
-  // A node some places after or before another of an order that is a tree; none where that is not worth
-  // while.
+  // The node so many places, up to `reach`, after or before another; none past the ends, and in an
+  // order of a few, where neighbours are at hand.
+  static constexpr std::size_t reach = RankTree::reach;
   Node after(Node node, std::size_t places) const noexcept {
     return isTree() ? tree_->after(node, places) : none;
   }

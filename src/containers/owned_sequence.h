@@ -239,7 +239,8 @@ class OwnedSequence {
     return {*body_, slot};
   }
 
-  /// Moves an element of this sequence to a position, which is counted without it.
+  /// Moves an element of this sequence to a position, which is counted without it; past the end it
+  /// becomes the last.
   void move(const Interface* element, std::size_t position) noexcept {
     const SlotNumber slot = find(element);
     body_->order.erase(slot);
@@ -286,6 +287,7 @@ class OwnedSequence {
 
   // A walk will come to what stands so many places from where it is when that has arrived.
   static constexpr std::size_t ahead = 8;
+  static_assert(2 * ahead <= NodeOrder::reach);
 
   void prefetch(SlotNumber slot, SlotNumber farther) const noexcept {
     if (slot != noSlot) body_->elements.prefetchElement(slot);

@@ -139,7 +139,7 @@ void RankTree::moveTail(PageNumber from, std::uint32_t first, PageNumber to) noe
   settle(to, settled);
 }
 
-// Tells what stands in a page from an index on where it stands.
+// Writes down for all from an index on where they stand: a node's place, a page's parent.
 void RankTree::settle(PageNumber page, std::uint32_t first) noexcept {
   const Page& settled = pages_[page];
   for (std::uint32_t index = first; index < settled.count; ++index) {
@@ -152,7 +152,7 @@ void RankTree::settle(PageNumber page, std::uint32_t first) noexcept {
 }
 
 // Brings up to date what a page's parent says of it.
-void RankTree::count(PageNumber page) noexcept {
+void RankTree::updateInParent(PageNumber page) noexcept {
   const Page& counted = pages_[page];
   const auto* const sizes = counted.sizes.data();
   Page& parent = pages_[counted.parent];
@@ -162,7 +162,7 @@ void RankTree::count(PageNumber page) noexcept {
   parent.firsts[index] = counted.first();
 }
 
-// The same for all pages above one that nodes came to or left, which changed at an index.
+// The same for all pages above one where a node came or went; unsigned, the difference wraps to -1.
 void RankTree::countUpwards(Spot changed, std::uint32_t difference) noexcept {
   bool isFirst = changed.index == 0;
   for (PageNumber page = changed.page; page != root_; page = pages_[page].parent) {
@@ -178,11 +178,12 @@ void RankTree::addRoot() noexcept {
   const PageNumber page = root_;
   root_ = takePage(static_cast<std::uint16_t>(pages_[page].level + 1));
   insertAt({root_, 0}, page);
-  count(page);
+  updateInParent(page);
 }
 
-// Moves half of a full page to a new one that follows it; at the end of the order nothing. There is
-// room for it in the parent before, so that what is counted above stays right.
+// Moves half of a full page to a new one that follows it. At the end of the order nothing moves, and
+// the new page, like a new parent of it, is empty until the node comes. A full parent is split first:
+// since no node comes or goes in between, what is counted further up stays right.
 RankTree::PageNumber RankTree::split(PageNumber page, bool atEnd) noexcept {
   if (page == root_) addRoot();
   PageNumber parent = pages_[page].parent;
@@ -194,8 +195,8 @@ RankTree::PageNumber RankTree::split(PageNumber page, bool atEnd) noexcept {
   moveTail(page, atEnd ? fanout : least, right);
   if (pages_[page].level == 0) link(page, right);
   insertAt({parent, atEnd ? pages_[parent].count : indexInParent(page) + 1}, right);
-  count(page);
-  count(right);
+  updateInParent(page);
+  updateInParent(right);
   return right;
 }
 
@@ -235,7 +236,7 @@ void RankTree::shrink(PageNumber page) noexcept {
   const std::uint32_t rightCount = pages_[right].count;
   if (leftCount + rightCount <= fanout) {
     moveTail(right, 0, left);
-    count(left);
+    updateInParent(left);
     erasePage(right);
     return;
   }
@@ -244,8 +245,8 @@ void RankTree::shrink(PageNumber page) noexcept {
   } else {
     moveOne({left, leftCount - 1}, {right, 0});
   }
-  count(left);
-  count(right);
+  updateInParent(left);
+  updateInParent(right);
 }
 
 void RankTree::moveOne(Spot from, Spot to) noexcept {

@@ -20,6 +20,13 @@ class RankTree {
   using Node = std::uint32_t;
   static constexpr Node none = UINT32_MAX;
 
+  RankTree() = default;
+  RankTree(const RankTree&) = delete;  // a copy would not have the room
+  RankTree& operator=(const RankTree&) = delete;
+  RankTree(RankTree&&) = default;  // what was moved from may only be destroyed
+  RankTree& operator=(RankTree&&) = delete;
+  ~RankTree() = default;
+
   /// Makes room for the nodes whose numbers are less than `count`. Others must not be inserted.
   void reserve(std::size_t count);
 
@@ -134,7 +141,7 @@ class RankTree {
   void moveTail(PageNumber from, std::uint32_t first, PageNumber to) noexcept;
   void moveOne(Spot from, Spot to) noexcept;
   void settle(PageNumber page, std::uint32_t first) noexcept;
-  void count(PageNumber page) noexcept;
+  void updateInParent(PageNumber page) noexcept;
   void countUpwards(Spot changed, std::uint32_t difference) noexcept;
   void addRoot() noexcept;
   PageNumber split(PageNumber page, bool atEnd) noexcept;

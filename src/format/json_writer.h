@@ -37,9 +37,16 @@ class FileOutput {
 
   /// Puts units up to one that needs more than a byte or an escape. Gives where it stands.
   const Char* putPlain(const Char* units, const Char* end) noexcept {
-    const auto count = static_cast<std::size_t>(end - units);
-    if (count >= four && count <= sizeof block_) units += putByFours(units, count);
-    for (; units != end && isPlain(*units); ++units) Put(static_cast<char>(*units));
+    while (units != end) {
+      const bool roomForFour = end - units >= four && sizeof block_ - size_ >= four;
+      if (roomForFour && areFourPlain(units)) {
+        for (int i = 0; i < four; ++i) block_[size_++] = static_cast<char>(*units++);
+      } else if (isPlain(*units)) {
+        Put(static_cast<char>(*units++));
+      } else {
+        break;
+      }
+    }
     return units;
   }
 
@@ -51,23 +58,8 @@ class FileOutput {
     return unit >= ' ' && unit < 0x80 && unit != '"' && unit != '\\';
   }
 
-  // Puts units while four at a time are plain, the last four together with some of those before them:
-  // so texts of any length take no loop over single ones. Gives how many.
-  std::size_t putByFours(const Char* units, std::size_t count) noexcept {
-    if (sizeof block_ - size_ < count) Flush();
-    std::size_t put = 0;
-    while (put < count) {
-      const std::size_t next = std::min(put, count - four);
-      if (!areFourPlain(units + next)) break;
-      for (std::size_t i = next; i < next + four; ++i) block_[size_ + i] = static_cast<char>(units[i]);
-      put = next + four;
-    }
-    size_ += put;
-    return put;
-  }
-
-  // Looks at four units as one number. A sum carries into the bit 0x80 of a unit when the unit is not
-  // less than what the other part lacks to 0x80.
+  // The same of four units that are looked at as one number. A sum carries into the bit 0x80 of a unit
+  // when the unit is not less than what the other part lacks to 0x80.
   static bool areFourPlain(const Char* units) noexcept {
     constexpr std::uint64_t each = 0x0001000100010001;
     std::uint64_t all = 0;
@@ -79,7 +71,7 @@ class FileOutput {
     return (all & 0xFF80 * each) == 0 && (plain & 0x80 * each) == 0x80 * each;
   }
 
-  static constexpr std::size_t four = 4;
+  static constexpr int four = 4;
 
   std::FILE* const file_;
   std::size_t size_ = 0;

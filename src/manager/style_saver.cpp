@@ -104,6 +104,7 @@ IUserStyle* overwriteStyle(StyleManager& manager, const Char* targetID, MutableS
   UserStyle* const user = manager.findUserStyle(targetID);
   if (!user) return fail(KOSTYLE_ERROR_USER_STYLE_NOT_FOUND);
   if (!manager.listsMutableStyle(&style)) return fail(KOSTYLE_ERROR_FOREIGN_MUTABLE_STYLE);
+  style.pool().prefetch();
   if (!ensureDirectory(manager.userStyleDirPath()))
     return fail(KOSTYLE_ERROR_USER_DIRECTORY_NOT_CREATABLE);
 

@@ -1,6 +1,6 @@
 // StoredContent: all that a stored style holds, frozen into three blocks: identifier and path, which
 // creation results share; the texts that an overwrite leaves in place where they keep their value; and
-// what it replaces as a whole. StyleBuilder makes it.
+// what it replaces as a whole. content_freezer.h fills it.
 #pragma once
 
 #include "containers/frozen_array.h"

@@ -294,7 +294,7 @@ TEST(OwnedSequence, AgreesWithAVectorThroughRandomChanges) {
   std::vector<Item*> reference;
   const auto at = [&](std::size_t i) { return reference.begin() + static_cast<std::ptrdiff_t>(i); };
   for (int step = 0; step < 20000; ++step) {
-    const std::size_t action = reference.empty() ? 0 : below(5);
+    const std::size_t action = reference.empty() ? 0 : below(6);
     if (action <= 1 && reference.size() < 300) {
       const std::size_t position = below(reference.size() + 3);
       Item& item = insert(items, position, anyName());
@@ -306,6 +306,13 @@ TEST(OwnedSequence, AgreesWithAVectorThroughRandomChanges) {
     } else if (action == 3) {
       Item& item = *reference[below(reference.size())];
       items.modifyKey(&item, [&, name = anyName()]() mutable { item.setName(std::move(name)); });
+    } else if (action == 4) {
+      const std::size_t from = below(reference.size());
+      const std::size_t to = below(reference.size() + 3);  // its own place and past the end too
+      Item* const item = reference[from];
+      items.move(item, to);
+      reference.erase(at(from));
+      reference.insert(at(std::min(to, reference.size())), item);
     } else if (!reference.empty()) {
       const std::size_t from = below(reference.size());
       Item* const item = reference[from];

@@ -149,6 +149,22 @@ TEST_F(Save, KeepsTheFirstOfParametersOfOneNameAndSortsThem) {
   EXPECT_EQ(valueOf(reread(saved)).chains[0][0].parameters, expected);
 }
 
+TEST_F(Save, KeepsTheFirstOfParametersOfOneNameThatAddingSorted) {
+  KoStyleStyle* style = host.createMutableStyle("N");
+  KoStyleEffect* effect = MutableStyle_audioEffect(style, 0);
+  KoStyleParameter* q = MutableEffect_addParameter(effect, KOSTYLE_TEXT("q"));
+  MutableParameter_setValueString(q, KOSTYLE_TEXT("second"));
+  MutableParameter_setName(q, KOSTYLE_TEXT("p"));
+  MutableEffect_addParameter(effect, KOSTYLE_TEXT("a"));
+  KoStyleStyle* saved = test::Host::save(style);
+  EXPECT_NE(test::readFile(test::Host::fileOf(saved)).find(R"({"a":0,"p":1,"p":"second"})"),
+            std::string::npos);
+  const std::vector<ParameterValue> expected{ParameterValue::ofInt(text("a"), 0),
+                                             ParameterValue::ofInt(text("p"), 1)};
+  EXPECT_EQ(valueOf(saved).chains[0][0].parameters, expected);
+  EXPECT_EQ(valueOf(reread(saved)).chains[0][0].parameters, expected);
+}
+
 TEST_F(Save, WritesANameThatReadingReplaces) {
   KoStyleStyle* style = host.createMutableStyle("N");
   MutableEffect_addParameter(MutableStyle_audioEffect(style, 0), KOSTYLE_TEXT("Tarn"));

@@ -12,28 +12,26 @@
 namespace Tesk::KoStyle {
 namespace {
 
-constexpr RankTree::Node count = 5000;
-
 // Where the next node goes, of so many.
 using Place = std::function<std::size_t(std::size_t)>;
 
 class RankTreeMemory : public ::testing::TestWithParam<Place> {};
 
 TEST_P(RankTreeMemory, IsReserved) {
+  std::mt19937 random(1);
   RankTree tree;
-  tree.reserve(count);
-  bool failed = false;
-  test::runsOutOfMemory(0, failed, [&] {
-    std::mt19937 random(1);
-    for (int round = 0; round < 3; ++round) {
-      for (RankTree::Node node = 0; node < count; ++node) {
+  for (RankTree::Node room = 1; room <= 5000; room += 1 + room % 3 * room / 4) {
+    tree.reserve(room);
+    bool failed = false;
+    test::runsOutOfMemory(0, failed, [&] {
+      for (RankTree::Node node = 0; node < room; ++node) {
         if (!tree.contains(node)) tree.insertBefore(tree.at(GetParam()(tree.size())), node);
       }
-      for (int i = 0; i < 4000; ++i) tree.erase(tree.at(random() % tree.size()));
-    }
-  });
-  EXPECT_FALSE(failed);
-  EXPECT_EQ(tree.size(), count - 4000u);
+      for (RankTree::Node i = 0; i < room / 2; ++i) tree.erase(tree.at(random() % tree.size()));
+    });
+    EXPECT_FALSE(failed);
+    EXPECT_EQ(tree.size(), room - room / 2);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Everywhere, RankTreeMemory,
