@@ -41,9 +41,12 @@ class PageCase(unittest.TestCase):
         self.driver.get(self.page.url)
 
     def all(self, selector):
-        """The elements that are shown, wherever one has scrolled to."""
-        return self.driver.execute_script(
-            "return [...document.querySelectorAll(arguments[0])].filter((found) => found.checkVisibility())", selector)
+        """The elements that are shown, wherever one has scrolled to. What came into view has no text before it is
+        drawn, so this waits for the next frame."""
+        return self.driver.execute_async_script("""
+            const [selector, done] = arguments;
+            const shown = () => [...document.querySelectorAll(selector)].filter((found) => found.checkVisibility());
+            requestAnimationFrame(() => setTimeout(() => done(shown())));""", selector)
 
     def one(self, selector):
         found = self.all(selector)
