@@ -149,10 +149,12 @@ class OtherTemporaryPath {
 
 /// Printed lines end in \n on every system.
 inline std::string readPrinted(const fs::path& path) {
-  std::string text = readFile(path);
-  for (std::size_t end = text.find("\r\n"); end != text.npos; end = text.find("\r\n", end))
-    text.erase(end, 1);
-  return text;
+  const std::string text = readFile(path);
+  std::string printed;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text.compare(i, 2, "\r\n") != 0) printed += text[i];
+  }
+  return printed;
 }
 
 /// Expects that the program leaves no temporary file.
