@@ -9,8 +9,8 @@
 namespace Tesk::KoStyle {
 namespace {
 
-struct Item {
-  explicit Item(int value) : number(value) {
+struct Numbered {
+  explicit Numbered(int value) : number(value) {
     if (value < 0) throw std::invalid_argument("negative");
   }
   int number;
@@ -23,18 +23,18 @@ class SlotMapTest : public testing::Test {
   }
 
   SlotNumber add(int number) {
-    slots.push_back(map.emplace<Item>(number));
+    slots.push_back(map.emplace<Numbered>(number));
     return slots.back();
   }
 
-  SlotMap<Item> map;
+  SlotMap<Numbered> map;
   std::vector<SlotNumber> slots;
 };
 
 TEST_F(SlotMapTest, HasNoSlotAtFirst) {
   EXPECT_EQ(map.capacity(), 0u);
   EXPECT_TRUE(map.empty());
-  const Item loose(1);
+  const Numbered loose(1);
   EXPECT_EQ(map.slotAt(&loose), noSlot);
   EXPECT_EQ(map.slotAt(nullptr), noSlot);
 }
@@ -44,16 +44,16 @@ TEST_F(SlotMapTest, FindsTheSlotOfEachAddress) {
     const SlotNumber slot = add(i);
     EXPECT_LT(slot, map.capacity());
   }
-  std::vector<const Item*> places;
+  std::vector<const Numbered*> places;
   for (const SlotNumber slot : slots) places.push_back(&map[slot]);
   for (int i = 1000; i < 3000; ++i) add(i);
   for (std::size_t i = 0; i < places.size(); ++i) {
     EXPECT_EQ(&map[slots[i]], places[i]) << "elements do not move";
     EXPECT_EQ(places[i]->number, static_cast<int>(i));
     EXPECT_EQ(map.slotAt(places[i]), slots[i]);
-    EXPECT_EQ(map.slotAt(reinterpret_cast<const char*>(places[i]) + sizeof(Item) - 1), slots[i]);
+    EXPECT_EQ(map.slotAt(reinterpret_cast<const char*>(places[i]) + sizeof(Numbered) - 1), slots[i]);
   }
-  const Item loose(1);
+  const Numbered loose(1);
   EXPECT_EQ(map.slotAt(&loose), noSlot);
 }
 
@@ -71,7 +71,7 @@ TEST_F(SlotMapTest, FillsAnEmptySlotBeforeItTakesMemory) {
 TEST_F(SlotMapTest, AFailedConstructorLeavesTheSlotEmpty) {
   const SlotNumber first = add(1);
   const std::size_t capacity = map.capacity();
-  for (int i = 0; i < 100; ++i) EXPECT_THROW(map.emplace<Item>(-1), std::invalid_argument);
+  for (int i = 0; i < 100; ++i) EXPECT_THROW(map.emplace<Numbered>(-1), std::invalid_argument);
   EXPECT_EQ(map.capacity(), capacity);
   EXPECT_NE(add(2), first);
   EXPECT_EQ(map[first].number, 1);
@@ -97,7 +97,7 @@ TEST_F(SlotMapDeathTest, AnEmptySlotMustNotBeTouched) {
   map.erase(slots.back());
   slots.pop_back();
   EXPECT_DEATH(static_cast<void>(*number), "use-after-poison");
-  EXPECT_THROW(map.emplace<Item>(-1), std::invalid_argument);
+  EXPECT_THROW(map.emplace<Numbered>(-1), std::invalid_argument);
   EXPECT_DEATH(static_cast<void>(*number), "use-after-poison");
   add(3);
   EXPECT_EQ(*number, 3);

@@ -27,23 +27,23 @@ int sign(int number) { return (number > 0) - (number < 0); }
 
 TEST(TextOrder, IsThatOfTextView) {
   const std::vector<Text> texts = someTexts();
-  for (const TextView a : texts) {
-    for (const TextView b : texts) {
-      ASSERT_EQ(sign(compareTexts(a, b)), sign(a.compare(b)));
-      ASSERT_EQ(equalTexts(a, b), a == b);
+  for (const TextView first : texts) {
+    for (const TextView second : texts) {
+      ASSERT_EQ(sign(compareTexts(first, second)), sign(first.compare(second)));
+      ASSERT_EQ(equalTexts(first, second), first == second);
     }
   }
 }
 
 TEST(TextOrder, AFrontNeverContradictsIt) {
   const std::vector<Text> texts = someTexts();
-  for (const TextView a : texts) {
-    for (const TextView b : texts) {
-      if (frontOf(a) < frontOf(b)) {
-        ASSERT_LT(a.compare(b), 0);
+  for (const TextView first : texts) {
+    for (const TextView second : texts) {
+      if (frontOf(first) < frontOf(second)) {
+        ASSERT_LT(first.compare(second), 0);
       }
-      if (a == b) {
-        ASSERT_EQ(frontOf(a), frontOf(b));
+      if (first == second) {
+        ASSERT_EQ(frontOf(first), frontOf(second));
       }
     }
   }

@@ -16,14 +16,14 @@ using test::placesOf;
 using test::propertyTextsOf;
 
 // Texts that are too long to lie in the object of a string.
-const std::string longText(40, 'x');
+const std::string filler(40, 'x');
 
 class LastingText : public testing::Test {
  protected:
   void SetUp() override { ASSERT_NE(style, nullptr); }
 
   static std::string fullDocument() {
-    return R"({"id":"u)" + longText + R"(","name":"name )" + longText + R"(","vendor":")" + longText +
+    return R"({"id":"u)" + filler + R"(","name":"name )" + filler + R"(","vendor":")" + filler +
            R"(","filter":{"languages":[1],"singerGroups":["a","b"],"singerIDs":["1234567890123456"],)"
            R"("genres":["g","h"],"subGenres":["s","t"],"colors":["c"]},)"
            R"("audioEffect":{"E":{"parameter":{"p":1,"q":"text"}}},"midiEffect":{"M":{"parameter":{"p":0.5}}}})";
@@ -52,8 +52,8 @@ class LastingText : public testing::Test {
   }
 
   test::Host host;
-  KoStyleStyle* style = host.addUserStyle("u" + longText, fullDocument());
-  test::fs::path file = host.user / ("u" + longText + ".kostyle");
+  KoStyleStyle* style = host.addUserStyle("u" + filler, fullDocument());
+  test::fs::path file = host.user / ("u" + filler + ".kostyle");
 };
 
 TEST_F(LastingText, IsAllThatAnEditorDoesNotChange) {

@@ -13,12 +13,12 @@
 
 namespace {
 
-struct Row {
+struct Call {
   const char* name;
   void (*check)();
 };
 
-const KoStyleChar* const word = KOSTYLE_TEXT("word");
+const KoStyleChar* const anyText = KOSTYLE_TEXT("word");
 
 // Each of these expects the default of a function for the null handle and some valid arguments.
 template <auto Function, class... Arguments>
@@ -48,7 +48,7 @@ void isFalse() {
 }
 template <auto Function>
 void falseForText() {
-  EXPECT_FALSE(Function(nullptr, word));
+  EXPECT_FALSE(Function(nullptr, anyText));
 }
 template <auto Function>
 void falseForNull() {
@@ -66,7 +66,7 @@ void makesNoManager() {
   EXPECT_EQ(error, KOSTYLE_ERROR_APP_ID_MISSING);
 }
 
-const Row rows[] = {
+const Call calls[] = {
     {"CreateStyleManager", makesNoManager<CreateStyleManager>},
     {"Module_createStyleManager", makesNoManager<Module_createStyleManager>},
     {"HasStyleManager", isFalse<HasStyleManager>},
@@ -144,9 +144,9 @@ const Row rows[] = {
     {"MutableStyle_addColor", falseForText<MutableStyle_addColor>},
     {"MutableStyle_deleteColor", falseForText<MutableStyle_deleteColor>},
     {"MutableStyle_insertAudioEffect",
-     [] { givesNull<MutableStyle_insertAudioEffect>(std::size_t{0}, word); }},
+     [] { givesNull<MutableStyle_insertAudioEffect>(std::size_t{0}, anyText); }},
     {"MutableStyle_insertMidiEffect",
-     [] { givesNull<MutableStyle_insertMidiEffect>(std::size_t{0}, word); }},
+     [] { givesNull<MutableStyle_insertMidiEffect>(std::size_t{0}, anyText); }},
     {"MutableStyle_save",
      [] {
        int error = 77;
@@ -156,7 +156,7 @@ const Row rows[] = {
     {"MutableStyle_overwrite",
      [] {
        int error = 77;
-       givesNull<MutableStyle_overwrite>(word, false, &error);
+       givesNull<MutableStyle_overwrite>(anyText, false, &error);
        EXPECT_EQ(error, 77);
      }},
 
@@ -190,7 +190,7 @@ const Row rows[] = {
     {"MutableEffect_parent", null<MutableEffect_parent>},
     {"MutableEffect_parameter", nullAt<MutableEffect_parameter>},
     {"MutableEffect_move", [] { EXPECT_FALSE(MutableEffect_move(nullptr, 0)); }},
-    {"MutableEffect_addParameter", [] { givesNull<MutableEffect_addParameter>(word); }},
+    {"MutableEffect_addParameter", [] { givesNull<MutableEffect_addParameter>(anyText); }},
     {"MutableAudioEffect_next", null<MutableAudioEffect_next>},
     {"MutableAudioEffect_prev", null<MutableAudioEffect_prev>},
     {"MutableMidiEffect_next", null<MutableMidiEffect_next>},
@@ -212,20 +212,20 @@ const Row rows[] = {
     {"MutableParameter_setName", falseForText<MutableParameter_setName>},
     {"MutableParameter_setValueInt", [] { MutableParameter_setValueInt(nullptr, 1); }},
     {"MutableParameter_setValueFloat", [] { MutableParameter_setValueFloat(nullptr, 1); }},
-    {"MutableParameter_setValueString", [] { MutableParameter_setValueString(nullptr, word); }},
+    {"MutableParameter_setValueString", [] { MutableParameter_setValueString(nullptr, anyText); }},
 };
 
 TEST(NullHandle, TableHasARowForEveryExport) {
   std::set<std::string> names;
-  for (const Row& row : rows) EXPECT_TRUE(names.insert(row.name).second) << row.name;
+  for (const Call& call : calls) EXPECT_TRUE(names.insert(call.name).second) << call.name;
   EXPECT_EQ(names.size(), 124u);
   EXPECT_EQ(names, test::exportedNames());
 }
 
 TEST(NullHandle, GivesTheDefaultOfEveryExport) {
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
-    row.check();
+  for (const Call& call : calls) {
+    SCOPED_TRACE(call.name);
+    call.check();
   }
 }
 

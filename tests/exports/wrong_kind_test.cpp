@@ -13,7 +13,7 @@
 
 namespace {
 
-const KoStyleChar* const word = KOSTYLE_TEXT("word");
+const KoStyleChar* const someText = KOSTYLE_TEXT("word");
 
 // Expects the default of a function for a handle.
 template <class Handle>
@@ -58,25 +58,26 @@ const std::vector<Row<KoStyleStyle>>& styleRows() {
       {"MutableStyle_destroy", unsaved, nothing<S>(MutableStyle_destroy)},
       {"MutableStyle_audioEffect", unsaved, null<S>(MutableStyle_audioEffect, 0u)},
       {"MutableStyle_midiEffect", unsaved, null<S>(MutableStyle_midiEffect, 0u)},
-      {"MutableStyle_setName", unsaved, isFalse<S>(MutableStyle_setName, word)},
+      {"MutableStyle_setName", unsaved, isFalse<S>(MutableStyle_setName, someText)},
       {"MutableStyle_addLanguage", unsaved, isFalse<S>(MutableStyle_addLanguage, 4)},
       {"MutableStyle_deleteLanguage", unsaved, isFalse<S>(MutableStyle_deleteLanguage, 1)},
-      {"MutableStyle_addSingerGroup", unsaved, isFalse<S>(MutableStyle_addSingerGroup, word)},
+      {"MutableStyle_addSingerGroup", unsaved, isFalse<S>(MutableStyle_addSingerGroup, someText)},
       {"MutableStyle_deleteSingerGroup", unsaved,
        isFalse<S>(MutableStyle_deleteSingerGroup, KOSTYLE_TEXT("held"))},
       {"MutableStyle_addSingerID", unsaved,
        isFalse<S>(MutableStyle_addSingerID, KOSTYLE_TEXT("0123456789abcdef"))},
       {"MutableStyle_deleteSingerID", unsaved,
        isFalse<S>(MutableStyle_deleteSingerID, KOSTYLE_TEXT("fedcba9876543210"))},
-      {"MutableStyle_addGenre", unsaved, isFalse<S>(MutableStyle_addGenre, word)},
+      {"MutableStyle_addGenre", unsaved, isFalse<S>(MutableStyle_addGenre, someText)},
       {"MutableStyle_deleteGenre", unsaved, isFalse<S>(MutableStyle_deleteGenre, KOSTYLE_TEXT("held"))},
-      {"MutableStyle_addSubGenre", unsaved, isFalse<S>(MutableStyle_addSubGenre, word)},
+      {"MutableStyle_addSubGenre", unsaved, isFalse<S>(MutableStyle_addSubGenre, someText)},
       {"MutableStyle_deleteSubGenre", unsaved,
        isFalse<S>(MutableStyle_deleteSubGenre, KOSTYLE_TEXT("held"))},
-      {"MutableStyle_addColor", unsaved, isFalse<S>(MutableStyle_addColor, word)},
+      {"MutableStyle_addColor", unsaved, isFalse<S>(MutableStyle_addColor, someText)},
       {"MutableStyle_deleteColor", unsaved, isFalse<S>(MutableStyle_deleteColor, KOSTYLE_TEXT("held"))},
-      {"MutableStyle_insertAudioEffect", unsaved, null<S>(MutableStyle_insertAudioEffect, 0u, word)},
-      {"MutableStyle_insertMidiEffect", unsaved, null<S>(MutableStyle_insertMidiEffect, 0u, word)},
+      {"MutableStyle_insertAudioEffect", unsaved,
+       null<S>(MutableStyle_insertAudioEffect, 0u, someText)},
+      {"MutableStyle_insertMidiEffect", unsaved, null<S>(MutableStyle_insertMidiEffect, 0u, someText)},
       {"MutableStyle_save", unsaved,
        [](S* style) {
          int error = 77;
@@ -107,7 +108,7 @@ const std::vector<Row<KoStyleEffect>>& effectRows() {
       {"MutableEffect_parent", unsaved, null<E>(MutableEffect_parent)},
       {"MutableEffect_parameter", unsaved, null<E>(MutableEffect_parameter, 0u)},
       {"MutableEffect_move", unsaved, isFalse<E>(MutableEffect_move, 0u)},
-      {"MutableEffect_addParameter", unsaved, null<E>(MutableEffect_addParameter, word)},
+      {"MutableEffect_addParameter", unsaved, null<E>(MutableEffect_addParameter, someText)},
       {"MutableAudioEffect_next", {"mutable audio"}, null<E>(MutableAudioEffect_next)},
       {"MutableAudioEffect_prev", {"mutable audio"}, null<E>(MutableAudioEffect_prev)},
       {"MutableMidiEffect_next", {"mutable midi"}, null<E>(MutableMidiEffect_next)},
@@ -127,10 +128,11 @@ const std::vector<Row<KoStyleParameter>>& parameterRows() {
       {"MutableParameter_parent", unsaved, null<P>(MutableParameter_parent)},
       {"MutableParameter_next", unsaved, null<P>(MutableParameter_next)},
       {"MutableParameter_prev", unsaved, null<P>(MutableParameter_prev)},
-      {"MutableParameter_setName", unsaved, isFalse<P>(MutableParameter_setName, word)},
+      {"MutableParameter_setName", unsaved, isFalse<P>(MutableParameter_setName, someText)},
       {"MutableParameter_setValueInt", unsaved, nothing<P>(MutableParameter_setValueInt, 9)},
       {"MutableParameter_setValueFloat", unsaved, nothing<P>(MutableParameter_setValueFloat, 9.f)},
-      {"MutableParameter_setValueString", unsaved, nothing<P>(MutableParameter_setValueString, word)},
+      {"MutableParameter_setValueString", unsaved,
+       nothing<P>(MutableParameter_setValueString, someText)},
   };
   return rows;
 }

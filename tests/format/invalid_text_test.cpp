@@ -16,7 +16,7 @@ using test::Text;
 using namespace std::string_literals;
 
 /// The value of a text parameter that is written like this.
-Text valueOf(const std::string& written) {
+Text textOf(const std::string& written) {
   return parametersOf("\"p\":\"" + written + "\"").at(0).string;
 }
 
@@ -36,9 +36,9 @@ std::u32string documentWithText(std::u32string_view content) {
 }
 
 TEST(SurrogateEscapes, PairsMakeOneCodePoint) {
-  EXPECT_EQ(valueOf(R"(\uD83D\uDE00)"), test::text("\xF0\x9F\x98\x80"));
-  EXPECT_EQ(valueOf(R"(\ud800\udc00)"), test::text("\xF0\x90\x80\x80"));
-  EXPECT_EQ(valueOf(R"(\uDBFF\uDFFF)"), test::text("\xF4\x8F\xBF\xBF"));
+  EXPECT_EQ(textOf(R"(\uD83D\uDE00)"), test::text("\xF0\x9F\x98\x80"));
+  EXPECT_EQ(textOf(R"(\ud800\udc00)"), test::text("\xF0\x90\x80\x80"));
+  EXPECT_EQ(textOf(R"(\uDBFF\uDFFF)"), test::text("\xF4\x8F\xBF\xBF"));
 }
 
 TEST(SurrogateEscapes, AHighOneAloneIsASyntaxError) {
@@ -49,17 +49,17 @@ TEST(SurrogateEscapes, AHighOneAloneIsASyntaxError) {
 }
 
 TEST(SurrogateEscapes, ALowOneAloneIsKept) {
-  EXPECT_EQ(valueOf(R"(\uDC00)"), units({0xDC00}));
-  EXPECT_EQ(valueOf(R"(a\uDFFFb)"), units({'a', 0xDFFF, 'b'}));
-  EXPECT_EQ(valueOf(R"(\uDE00\uD83D\uDE00)"), units({0xDE00, 0xD83D, 0xDE00}));
+  EXPECT_EQ(textOf(R"(\uDC00)"), units({0xDC00}));
+  EXPECT_EQ(textOf(R"(a\uDFFFb)"), units({'a', 0xDFFF, 'b'}));
+  EXPECT_EQ(textOf(R"(\uDE00\uD83D\uDE00)"), units({0xDE00, 0xD83D, 0xDE00}));
 }
 
 TEST(Utf8, EncodedSurrogatesAreRefused) {
   for (const char* bytes :
        {"\xED\xA0\x80", "\xED\xAF\xBF", "\xED\xB0\x80", "\xED\xBF\xBF", "\xED\xA0\xBD\xED\xB8\x80"})
     EXPECT_EQ(parseErrorWith(bytes), KOSTYLE_PARSE_ENCODING_INVALID);
-  EXPECT_EQ(valueOf("\xED\x9F\xBF"), units({0xD7FF}));
-  EXPECT_EQ(valueOf("\xEE\x80\x80"), units({0xE000}));
+  EXPECT_EQ(textOf("\xED\x9F\xBF"), units({0xD7FF}));
+  EXPECT_EQ(textOf("\xEE\x80\x80"), units({0xE000}));
 }
 
 TEST(Utf8, OverlongFormsAreRefused) {
@@ -67,16 +67,16 @@ TEST(Utf8, OverlongFormsAreRefused) {
        {"\xC0\x80"s, "\xC0\xAF"s, "\xC1\xBF"s, "\xE0\x80\x80"s, "\xE0\x9F\xBF"s, "\xF0\x80\x80\x80"s,
         "\xF0\x8F\xBF\xBF"s, "\xE0\x80\xAF"s})
     EXPECT_EQ(parseErrorWith(bytes), KOSTYLE_PARSE_ENCODING_INVALID);
-  EXPECT_EQ(valueOf("\xC2\x80"), units({0x80}));
-  EXPECT_EQ(valueOf("\xE0\xA0\x80"), units({0x800}));
-  EXPECT_EQ(valueOf("\xF0\x90\x80\x80"), units({0xD800, 0xDC00}));
+  EXPECT_EQ(textOf("\xC2\x80"), units({0x80}));
+  EXPECT_EQ(textOf("\xE0\xA0\x80"), units({0x800}));
+  EXPECT_EQ(textOf("\xF0\x90\x80\x80"), units({0xD800, 0xDC00}));
 }
 
 TEST(Utf8, CodePointsPast10FFFFAreRefused) {
   for (const char* bytes : {"\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xF7\xBF\xBF\xBF",
                             "\xF8\x88\x80\x80\x80", "\xFC\x84\x80\x80\x80\x80", "\xFE", "\xFF"})
     EXPECT_EQ(parseErrorWith(bytes), KOSTYLE_PARSE_ENCODING_INVALID);
-  EXPECT_EQ(valueOf("\xF4\x8F\xBF\xBF"), units({0xDBFF, 0xDFFF}));
+  EXPECT_EQ(textOf("\xF4\x8F\xBF\xBF"), units({0xDBFF, 0xDFFF}));
 }
 
 TEST(Utf8, BrokenSequencesAreRefused) {
@@ -138,7 +138,7 @@ TEST(Utf32, NumbersPast10FFFFAreRefused) {
 }
 
 TEST(Escapes, AreReadInAnyCase) {
-  EXPECT_EQ(valueOf(R"(\u00E4\u00e4\u20aC)"), test::text("\xC3\xA4\xC3\xA4\xE2\x82\xAC"));
+  EXPECT_EQ(textOf(R"(\u00E4\u00e4\u20aC)"), test::text("\xC3\xA4\xC3\xA4\xE2\x82\xAC"));
 }
 
 TEST(Escapes, OthersAreSyntaxErrors) {
@@ -154,7 +154,7 @@ TEST(Escapes, OthersAreSyntaxErrors) {
 TEST(ControlCharacters, InATextAreSyntaxErrors) {
   for (char control = 1; control < 0x20; ++control)
     EXPECT_EQ(parseErrorWith(std::string(1, control)), KOSTYLE_PARSE_ESCAPE_INVALID) << int{control};
-  EXPECT_EQ(valueOf("\x7F"), units({0x7F}));
+  EXPECT_EQ(textOf("\x7F"), units({0x7F}));
 }
 
 /// What a host sees of texts with U+0000 in them ends there; they are kept and written whole.

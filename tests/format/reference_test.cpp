@@ -126,16 +126,16 @@ TEST(Reference, ComputesNumbers) {
         .at(0)
         .parameters;
   };
-  const auto p = text("p");
+  const auto name = text("p");
   using testing::ElementsAre;
-  EXPECT_THAT(parameterOf("-2147483648"), ElementsAre(ParameterValue::ofInt(p, INT32_MIN)));
+  EXPECT_THAT(parameterOf("-2147483648"), ElementsAre(ParameterValue::ofInt(name, INT32_MIN)));
   EXPECT_THAT(parameterOf("2147483648"), testing::IsEmpty());
   EXPECT_THAT(parameterOf("18446744073709551615"), testing::IsEmpty());
   EXPECT_THAT(parameterOf("18446744073709551616"),
-              ElementsAre(ParameterValue::ofFloat(p, 18446744073709551616.f)));
-  EXPECT_THAT(parameterOf("0.1"), ElementsAre(ParameterValue::ofFloat(p, 0.1f)));
-  EXPECT_THAT(parameterOf("-0.0"), ElementsAre(ParameterValue::ofFloat(p, -0.0f)));
-  EXPECT_THAT(parameterOf("-25e-1"), ElementsAre(ParameterValue::ofFloat(p, -2.5f)));
+              ElementsAre(ParameterValue::ofFloat(name, 18446744073709551616.f)));
+  EXPECT_THAT(parameterOf("0.1"), ElementsAre(ParameterValue::ofFloat(name, 0.1f)));
+  EXPECT_THAT(parameterOf("-0.0"), ElementsAre(ParameterValue::ofFloat(name, -0.0f)));
+  EXPECT_THAT(parameterOf("-25e-1"), ElementsAre(ParameterValue::ofFloat(name, -2.5f)));
   EXPECT_TRUE(parameterOf("123456789012345e7").at(0).exact);
   EXPECT_FALSE(parameterOf("1234567890123456e7").at(0).exact);
   EXPECT_FALSE(parameterOf("1e23").at(0).exact);

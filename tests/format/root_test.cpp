@@ -142,12 +142,12 @@ TEST(Root, VendorIsTakenWhenItIsAString) {
 TEST(Root, UnknownKeysAreIgnoredAtEveryLevel) {
   const auto plain = styleOf(
       R"({"id":"I","name":"N","audioEffect":{"E":{"parameter":{"p":1}}},"filter":{"genres":["g"]}})");
-  const auto rich = styleOf(
+  const auto withMore = styleOf(
       R"({"x":1,"id":"I","Vendor":"V","name":"N","audioeffect":{"F":{"parameter":{}}},
           "audioEffect":{"E":{"script":"s","y":[1,{"z":null}],"parameter":{"p":1}}},"parameter":{"q":2},
           "genres":["h"],"filter":{"genres":["g"],"Genres":["h"],"moods":["m"],"languages ":[1]},
           "script":"s","path":"p","type":1,"":{"id":"J"}})");
-  EXPECT_EQ(rich, plain);
+  EXPECT_EQ(withMore, plain);
 }
 
 TEST(Root, OfDuplicateMembersTheFirstCounts) {

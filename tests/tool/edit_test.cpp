@@ -16,7 +16,7 @@ const std::string indented =
     "{\n    \"id\": \"S\",\n    \"name\": \"N\",\n    \"audioEffect\": {\n        \"E\": {\n"
     "            \"parameter\": {\n                \"p\": 1\n            }\n        }\n    }\n}\n";
 
-std::string replaced(std::string text, const std::string& part, const std::string& by) {
+std::string replacedAll(std::string text, const std::string& part, const std::string& by) {
   for (std::size_t at = text.find(part); at != text.npos; at = text.find(part, at + by.size()))
     text.replace(at, part.size(), by);
   return text;
@@ -102,7 +102,7 @@ TEST_F(Edit, KeepsATextThatIsTooLargeToBeReadBack) {
 }
 
 TEST_F(Edit, ShowsADocumentInOneLineWithMany) {
-  const std::string text = replaced(indented, "1", "2");
+  const std::string text = replacedAll(indented, "1", "2");
   expectWritten(editTo(text));
   EXPECT_EQ(shown(), indented);
   EXPECT_EQ(readFile(file_), text.substr(0, text.size() - 1));
@@ -125,29 +125,29 @@ TEST_F(Edit, LeavesLinesAsTheyAre) {
       "{ \"id\": \"S\",\n\t\"name\":  \"N\", \"audioEffect\": {\"E\": {\"parameter\":\n{\"p\": "
       "0.40}}}}\n\n";
   writeFile(file_, lines);
-  expectWritten(editTo(replaced(lines, "\"N\"", "\"M\"")));
+  expectWritten(editTo(replacedAll(lines, "\"N\"", "\"M\"")));
   EXPECT_EQ(shown(), lines);
-  EXPECT_EQ(readFile(file_), replaced(lines, "\"N\"", "\"M\""));
+  EXPECT_EQ(readFile(file_), replacedAll(lines, "\"N\"", "\"M\""));
 }
 
 TEST_F(Edit, KeepsEncodingMarkAndLineEnds) {
-  const std::string other = replaced(indented, "\"N\"", u8"\"Nachtfähre 港 😀\"");
+  const std::string other = replacedAll(indented, "\"N\"", u8"\"Nachtfähre 港 😀\"");
   const std::vector<std::string> ends{"\n", "\r\n", "\r"};
   std::size_t next = 0;
   for (const Encoding encoding : allEncodings())
     for (const bool mark : {false, true}) {
       const std::string& end = ends[next++ % ends.size()];
-      writeFile(file_, encoded(replaced(indented, "\n", end), encoding, mark));
+      writeFile(file_, encoded(replacedAll(indented, "\n", end), encoding, mark));
       expectWritten(editTo(other));
       EXPECT_EQ(shown(), indented);
-      EXPECT_EQ(readFile(file_), encoded(replaced(other, "\n", end), encoding, mark));
+      EXPECT_EQ(readFile(file_), encoded(replacedAll(other, "\n", end), encoding, mark));
     }
 }
 
 TEST_F(Edit, TakesWhatEditorsDoToTexts) {
   writeFile(file_, indented);
-  const std::string other = replaced(indented, "1", "2");
-  for (const std::string& saved : {replaced(other, "\n", "\r\n"), "\xEF\xBB\xBF" + other,
+  const std::string other = replacedAll(indented, "1", "2");
+  for (const std::string& saved : {replacedAll(other, "\n", "\r\n"), "\xEF\xBB\xBF" + other,
                                    encoded(other, Encoding::utf16le, true)}) {
     writeFile(file_, indented);
     expectWritten(editTo(saved));
@@ -156,9 +156,9 @@ TEST_F(Edit, TakesWhatEditorsDoToTexts) {
 }
 
 TEST_F(Edit, MixedLineEndsStay) {
-  const std::string mixed = replaced(indented, "\"name\": \"N\",\n", "\"name\": \"N\",\r\n");
+  const std::string mixed = replacedAll(indented, "\"name\": \"N\",\n", "\"name\": \"N\",\r\n");
   writeFile(file_, mixed);
-  const std::string other = replaced(mixed, "1", "2");
+  const std::string other = replacedAll(mixed, "1", "2");
   expectWritten(editTo(other));
   EXPECT_EQ(shown(), mixed);
   EXPECT_EQ(readFile(file_), other);
@@ -176,7 +176,7 @@ TEST_F(Edit, WritesNothingWhenNothingChanges) {
 }
 
 TEST_F(Edit, KeepsATextWithErrors) {
-  const std::string text = replaced(indented, "\"p\": 1", "\"p\": ");
+  const std::string text = replacedAll(indented, "\"p\": 1", "\"p\": ");
   const Outcome outcome = editTo(text);
   EXPECT_THAT(outcome.err, HasSubstr("mine.kostyle:8:13: error: "));
   EXPECT_THAT(outcome.err, HasSubstr("1 error, 0 warnings, 0 notes in 1 file\n"));
@@ -184,7 +184,7 @@ TEST_F(Edit, KeepsATextWithErrors) {
 }
 
 TEST_F(Edit, TellsWarningsAndWrites) {
-  const std::string text = replaced(indented, "\"name\"", "\"nmae\": 1,\n    \"name\"");
+  const std::string text = replacedAll(indented, "\"name\"", "\"nmae\": 1,\n    \"name\"");
   const Outcome outcome = editTo(text);
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_THAT(outcome.err,
@@ -210,7 +210,7 @@ TEST_F(Edit, RefusesBytesThatAreNoText) {
 }
 
 TEST_F(Edit, RefusesWhatAnotherProgramHasChanged) {
-  const std::string text = replaced(indented, "1", "2");
+  const std::string text = replacedAll(indented, "1", "2");
   const std::string save = saving(text);
 #if defined(_WIN32)
   const std::string editor =
@@ -227,7 +227,7 @@ TEST_F(Edit, RefusesWhatAnotherProgramHasChanged) {
 TEST_F(Edit, RefusesAnIdentifierThatAnotherHas) {
   const fs::path other = folder_ / "other.kostyle";
   writeFile(other, document("T", "Other"));
-  const std::string text = replaced(indented, "\"S\"", "\"T\"");
+  const std::string text = replacedAll(indented, "\"S\"", "\"T\"");
   for (const Arguments& directories : {Arguments{}, {"--user", argument(folder_)}}) {
     const Outcome outcome = editWith(saving(text), Arguments{"edit", argument(file_)} + directories);
     EXPECT_THAT(outcome.err, HasSubstr("other.kostyle has the identifier \"T\""));
@@ -243,7 +243,7 @@ TEST_F(Edit, RefusesAnIdentifierThatAnotherHas) {
 
 TEST_F(Edit, TakesAnIdentifier) {
   expectWritten(
-      editWith(saving(replaced(indented, "1", "2")), {"edit", "S", "--user", argument(folder_)}));
+      editWith(saving(replacedAll(indented, "1", "2")), {"edit", "S", "--user", argument(folder_)}));
   expectFailure(editWith("false", {"edit", "S", "--system", argument(folder_)}), 1,
                 "a system style is never changed");
 }
@@ -293,7 +293,7 @@ TEST_F(Edit, KeepsALink) {
   std::error_code error;
   fs::create_symlink(target, file_, error);
   if (error) GTEST_SKIP() << "links cannot be made here: " << error.message();
-  expectWritten(editTo(replaced(indented, "1", "2")));
+  expectWritten(editTo(replacedAll(indented, "1", "2")));
   EXPECT_TRUE(fs::is_symlink(file_));
   EXPECT_THAT(readFile(target), HasSubstr("\"p\": 2"));
 }
@@ -312,7 +312,7 @@ TEST_F(Edit, KeepsTheTextOfAnEditorThatIsKilled) {
 
 TEST_F(Edit, KeepsTheTextWhenTheFileMayNotBeReplaced) {
   if (std::system("command -v setpriv > /dev/null") != 0) GTEST_SKIP() << "setpriv is missing";
-  const std::string text = replaced(indented, "1", "2");
+  const std::string text = replacedAll(indented, "1", "2");
   const std::string command = saving(text);
   writeFile(directory_ / "closing", "chmod 555 '" + argument(folder_) + "'; " + command + " \"$1\"");
   const OtherVariable editor("VISUAL", "sh '" + argument(directory_ / "closing") + "'");
@@ -340,12 +340,12 @@ TEST_F(Edit, BeginsNoTextThatCannotBeWritten) {
 }
 
 TEST_F(Edit, KeepsTheTextWhenNothingCanBePrinted) {
-  const OtherVariable visual("VISUAL", saving(replaced(indented, "1", "2")));
+  const OtherVariable visual("VISUAL", saving(replacedAll(indented, "1", "2")));
   const OtherTemporaryPath temporary(temporary_);
   const fs::path err = directory_ / "err";
   const int exitCode = runToolWithoutOutput(err, {"edit", argument(file_)});
   expectKept({exitCode, "", readFile(err)}, "the output cannot be written",
-             replaced(indented, "1", "2"));
+             replacedAll(indented, "1", "2"));
 }
 
 /// What the tool prints to a terminal at which these lines are typed.
@@ -391,7 +391,7 @@ class EditAtTerminal : public Edit {
 };
 
 TEST_F(EditAtTerminal, EditsAgainWhenAsked) {
-  const std::string good = replaced(indented, "1", "2");
+  const std::string good = replacedAll(indented, "1", "2");
   const Outcome outcome = editInTurn({"{", "[", good}, "\ny\n");
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_THAT(outcome.out, HasSubstr("Edit again? [Y/n] "));
@@ -401,13 +401,13 @@ TEST_F(EditAtTerminal, EditsAgainWhenAsked) {
 
 TEST_F(EditAtTerminal, GivesUpWhenAsked) {
   Outcome outcome = editInTurn({"{", "["}, "n\n");
-  outcome.err = replaced(outcome.out, "\r\n", "\n");
+  outcome.err = replacedAll(outcome.out, "\r\n", "\n");
   outcome.out.clear();
   expectKept(outcome, "the text has errors", "{");
 }
 
 TEST_F(EditAtTerminal, WritesWarningsUnlessAsked) {
-  const std::string warned = replaced(indented, "\"name\"", "\"nmae\": 1,\n    \"name\"");
+  const std::string warned = replacedAll(indented, "\"name\"", "\"nmae\": 1,\n    \"name\"");
   const Outcome outcome = editInTurn({warned}, "\n");
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_THAT(outcome.out, HasSubstr("Edit again? [y/N] "));

@@ -27,7 +27,7 @@ class New : public testing::Test {
   const fs::path user_ = directory_ / "made" / fs::u8path("ユーザー");
 };
 
-const Arguments effect{"--audio-effect", "E", "--param", "E.p=1"};
+const Arguments anEffect{"--audio-effect", "E", "--param", "E.p=1"};
 
 TEST_F(New, WritesAStyleThatTheLibraryReads) {
   const Outcome outcome = create({"--name",         "Nachtfahrt 夜",
@@ -71,12 +71,12 @@ TEST_F(New, WritesAStyleThatTheLibraryReads) {
 }
 
 TEST_F(New, WritesCompactOrPretty) {
-  const Outcome compact = create(Arguments{"--name", "N"} + effect);
+  const Outcome compact = create(Arguments{"--name", "N"} + anEffect);
   const std::string id = compact.out.substr(0, compact.out.find('\t'));
   EXPECT_EQ(readFile(user_ / (id + ".kostyle")),
             R"({"id":")" + id + R"(","name":"N","audioEffect":{"E":{"parameter":{"p":1}}}})");
-  const Outcome pretty = create(Arguments{"--name", "N", "--pretty"} + effect);
-  const std::string other = pretty.out.substr(0, pretty.out.find('\t'));
+  const Outcome laidOut = create(Arguments{"--name", "N", "--pretty"} + anEffect);
+  const std::string other = laidOut.out.substr(0, laidOut.out.find('\t'));
   EXPECT_THAT(readFile(user_ / (other + ".kostyle")), HasSubstr("\",\n    \"name\": \"N\",\n"));
 }
 
@@ -148,7 +148,7 @@ TEST_F(New, SaysThatParametersAreLost) {
 TEST_F(New, TakesTextsAsTheyAre) {
   expectSuccess(create(Arguments{"--name", "--", "--genre", "[a,b]", "--genre", "{}", "--genre", "%%",
                                  "--genre", "a\"b\\", "--genre", "-x"} +
-                       effect));
+                       anEffect));
   const auto style = written();
   EXPECT_STREQ(style["name"].GetString(), "--");
   EXPECT_THAT(texts(style["genres"]),
@@ -158,12 +158,12 @@ TEST_F(New, TakesTextsAsTheyAre) {
 TEST_F(New, AcceptsTheLongestName) {
   std::string name;
   for (int i = 0; i < 50; ++i) name += "𝄞";
-  expectSuccess(create(Arguments{"--name", name} + effect));
+  expectSuccess(create(Arguments{"--name", name} + anEffect));
   EXPECT_EQ(written()["name"].GetString(), name);
 }
 
 TEST_F(New, SaysThatEffectsWithoutParametersAreLost) {
-  const Outcome outcome = create(Arguments{"--name", "N", "--midi-effect", "Bare"} + effect);
+  const Outcome outcome = create(Arguments{"--name", "N", "--midi-effect", "Bare"} + anEffect);
   EXPECT_EQ(outcome.exitCode, 0);
   EXPECT_THAT(outcome.err, HasSubstr("notice: effects without parameters"));
   EXPECT_EQ(written()["midiEffects"].Size(), 0u);
@@ -176,11 +176,11 @@ TEST_F(New, RefusalWritesNothing) {
     const char* why;
   };
   const Arguments named{"--name", "N"};
-  const Arguments good = named + effect;
+  const Arguments good = named + anEffect;
   const Case cases[] = {
-      {effect, 2, "--name is required"},
-      {Arguments{"--name", ""} + effect, 1, "name \"\" is refused"},
-      {Arguments{"--name", std::string(101, 'n')} + effect, 1, "not 1 to 100 UTF-16 units long"},
+      {anEffect, 2, "--name is required"},
+      {Arguments{"--name", ""} + anEffect, 1, "name \"\" is refused"},
+      {Arguments{"--name", std::string(101, 'n')} + anEffect, 1, "not 1 to 100 UTF-16 units long"},
       {good + Arguments{"--name", "M"}, 2, "--name"},
       {named, 1, "the style has no effect; --audio-effect EFFECT --param"},
       {named + Arguments{"--audio-effect", "E"}, 1, "no effect has a parameter"},
@@ -232,18 +232,18 @@ TEST_F(New, RefusalLeavesDirectoriesThatWereThere) {
 TEST_F(New, RefusesUserDirectoriesThatCannotBe) {
   const auto file = directory_ / "file";
   writeFile(file, "x");
-  expectFailure(runTool(Arguments{"new", "--user", argument(file), "--name", "N"} + effect), 2,
+  expectFailure(runTool(Arguments{"new", "--user", argument(file), "--name", "N"} + anEffect), 2,
                 "not a directory");
-  expectFailure(runTool(Arguments{"new", "--user", argument(file / "below"), "--name", "N"} + effect),
+  expectFailure(runTool(Arguments{"new", "--user", argument(file / "below"), "--name", "N"} + anEffect),
                 1, "the user directory cannot be created: ");
-  expectFailure(runTool(Arguments{"new", "--name", "N"} + effect), 2, "--user is required");
+  expectFailure(runTool(Arguments{"new", "--name", "N"} + anEffect), 2, "--user is required");
 }
 
 TEST_F(New, WaitsForAnotherThatChangesTheFolder) {
   fs::create_directories(user_);
   const HeldLock held(user_ / "kostyle.lock");
   ASSERT_TRUE(held.isOpen());
-  expectFailure(create(Arguments{"--name", "N", "--wait", "0"} + effect), 1,
+  expectFailure(create(Arguments{"--name", "N", "--wait", "0"} + anEffect), 1,
                 "another kostyle is changing files of this folder");
   EXPECT_THAT(entryNames(user_), ElementsAre("kostyle.lock"));
 }
@@ -253,16 +253,16 @@ TEST_F(New, RefusesTextThatIsNoUtf8) {
   for (const char* option : {"--genre", "--audio-effect", "--name"})
     expectFailure(
         create(Arguments{option, "a\xFF"} +
-               (std::string(option) == "--name" ? effect : Arguments{"--name", "N"} + effect)),
+               (std::string(option) == "--name" ? anEffect : Arguments{"--name", "N"} + anEffect)),
         2, "not valid UTF-8");
-  expectFailure(create(Arguments{"--name", "N", "--param", "E.x=\xED\xA0\x80"} + effect), 2,
+  expectFailure(create(Arguments{"--name", "N", "--param", "E.x=\xED\xA0\x80"} + anEffect), 2,
                 "not valid UTF-8");
   EXPECT_TRUE(fs::is_empty(directory_.path()));
 }
 
 TEST_F(New, LeavesNothingOnAFullDisk) {
   const Outcome outcome =
-      runToolOnFullDisk(0, Arguments{"new", "--user", argument(user_), "--name", "N"} + effect);
+      runToolOnFullDisk(0, Arguments{"new", "--user", argument(user_), "--name", "N"} + anEffect);
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_THAT(outcome.out, HasSubstr(": the file cannot be written: File too large\n"));
   EXPECT_TRUE(fs::is_empty(directory_.path()));
@@ -271,7 +271,7 @@ TEST_F(New, LeavesNothingOnAFullDisk) {
 TEST_F(New, LeavesNothingWhenItCannotPrint) {
   const TemporaryDirectory other;
   EXPECT_EQ(runToolWithoutOutput(other / "err",
-                                 Arguments{"new", "--user", argument(user_), "--name", "N"} + effect),
+                                 Arguments{"new", "--user", argument(user_), "--name", "N"} + anEffect),
             1);
   EXPECT_THAT(readFile(other / "err"), HasSubstr("the output cannot be written"));
   EXPECT_TRUE(fs::is_empty(directory_.path()));
@@ -279,7 +279,7 @@ TEST_F(New, LeavesNothingWhenItCannotPrint) {
 
 TEST_F(New, NeedsATemporaryDirectory) {
   expectFailure(runToolInScript(R"(TMPDIR=/nowhere exec "$0" "$@")",
-                                Arguments{"new", "--user", argument(user_), "--name", "N"} + effect),
+                                Arguments{"new", "--user", argument(user_), "--name", "N"} + anEffect),
                 1, "no temporary directory: ");
   EXPECT_TRUE(fs::is_empty(directory_.path()));
 }
@@ -287,7 +287,7 @@ TEST_F(New, NeedsATemporaryDirectory) {
 TEST_F(New, NeedsAWorkingDirectoryForARelativePath) {
   const auto gone = directory_.folder("gone");
   expectFailure(runToolInScript(R"(cd "${@: -1}" && rmdir "${@: -1}" && exec "$0" "${@:1:$#-1}")",
-                                Arguments{"new", "--user", "here", "--name", "N"} + effect +
+                                Arguments{"new", "--user", "here", "--name", "N"} + anEffect +
                                     Arguments{argument(gone)}),
                 1, "here: no working directory: ");
   EXPECT_TRUE(fs::is_empty(directory_.path()));

@@ -18,10 +18,10 @@ class SetReformat : public testing::Test {
   const fs::path file_ = user_ / "mine.kostyle";
 };
 
-const std::string good = R"("audioEffect":{"E":{"parameter":{"p":1}}})";
+const std::string aChain = R"("audioEffect":{"E":{"parameter":{"p":1}}})";
 
 TEST_F(SetReformat, WritesTheCompactForm) {
-  expectSuccess(reformat("{ \"name\": \"N\", \"id\": \"S\",\n" + good + "}\n"));
+  expectSuccess(reformat("{ \"name\": \"N\", \"id\": \"S\",\n" + aChain + "}\n"));
   EXPECT_EQ(file(), document("S", "N"));
 }
 
@@ -77,13 +77,13 @@ TEST_F(SetReformat, RefusesWhatTheLibraryCannotWrite) {
     EXPECT_EQ(file(), text);
   };
   refused(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p":1e39}}}})", "infinite");
-  refused(R"({"id":"S","name":"a\udc41",)" + good + "}", "lone surrogate");
-  refused(R"({"id":"S","name":"N","filter":{"colors":["a\udc41"]},)" + good + "}", "lone surrogate");
+  refused(R"({"id":"S","name":"a\udc41",)" + aChain + "}", "lone surrogate");
+  refused(R"({"id":"S","name":"N","filter":{"colors":["a\udc41"]},)" + aChain + "}", "lone surrogate");
   refused(R"({"id":"S","name":"N","audioEffect":{"E\udc41":{"parameter":{"p":1}}}})", "lone surrogate");
   refused(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p\udc41":1}}}})", "lone surrogate");
   refused(R"({"id":"S","name":"N","audioEffect":{"E":{"parameter":{"p":"\udc41"}}}})",
           "lone surrogate");
-  refused(R"({"id":"S","name":"N","filter":{"genres":["a\u0000a","a\u0000b"]},)" + good + "}",
+  refused(R"({"id":"S","name":"N","filter":{"genres":["a\u0000a","a\u0000b"]},)" + aChain + "}",
           "genre \"a\" is there already");
   refused(document("S", std::string(101, 'n')),
           "the name has more than 100 UTF-16 units; \"kostyle set --name\" gives another");

@@ -12,14 +12,14 @@ class Show : public testing::Test {
   const fs::path user_ = directory_.folder("user");
 };
 
-constexpr const char* wholeStyle = R"({"id":"S1","name":"Whole","vendor":"Ours",
+constexpr const char* shownStyle = R"({"id":"S1","name":"Whole","vendor":"Ours",
   "filter":{"languages":[0,2],"singerGroups":["Choir","Duo"],"singerIDs":["0123456789abcdef"],
             "genres":["Pop"],"colors":["red"]},
   "audioEffect":{"EQ":{"parameter":{"gain":0.1,"band":-3,"mode":"say \"hi\"\n"}},"Dry":{"parameter":{}}},
   "midiEffect":{"Arp":{"parameter":{"rate":2.0}}}})";
 
 TEST_F(Show, PrintsStyleAsTree) {
-  writeFile(system_ / "one.kostyle", wholeStyle);
+  writeFile(system_ / "one.kostyle", shownStyle);
   const Outcome outcome = runTool({"show", "S1", "--system", argument(system_)});
   expectSuccess(outcome);
   EXPECT_EQ(outcome.out,
@@ -48,7 +48,7 @@ TEST_F(Show, PrintsStyleAsTree) {
 }
 
 TEST_F(Show, PrintsAStyleAsItsFileHoldsIt) {
-  writeFile(user_ / "one.kostyle", wholeStyle);
+  writeFile(user_ / "one.kostyle", shownStyle);
   const Outcome outcome = runTool({"show", "S1", "--user", argument(user_), "--json"});
   expectSuccess(outcome);
   EXPECT_EQ(outcome.out, R"({
@@ -103,7 +103,7 @@ TEST_F(Show, PrintsWhatCanBeReadAgain) {
   for (const char* folder : {"system", "user"})
     for (const auto& entry : fs::directory_iterator(exampleStyles() / folder))
       files.push_back(entry.path());
-  writeFile(user_ / "whole.kostyle", wholeStyle);
+  writeFile(user_ / "whole.kostyle", shownStyle);
   files.push_back(user_ / "whole.kostyle");
   writeFile(
       user_ / "odd.kostyle",
