@@ -9,11 +9,19 @@
 namespace Tesk::KoStyle {
 namespace {
 
+std::size_t countParameters(const MutableChain& chain) noexcept {
+  std::size_t count = 0;
+  for (const MutableEffect& effect : chain) count += effect.parameters().size();
+  return count;
+}
+
 // The effects of a mutable style, and of their parameters those that a stored style takes, as it orders
 // them.
 class TakenEffects {
  public:
   explicit TakenEffects(const MutableStyle& style) {
+    effects_.reserve(style.audioEffects().size() + style.midiEffects().size());
+    parameters_.reserve(countParameters(style.audioEffects()) + countParameters(style.midiEffects()));
     addChain(style.audioEffects());
     addChain(style.midiEffects());
   }
@@ -36,7 +44,6 @@ class TakenEffects {
   };
 
   void addChain(const MutableChain& chain) {
-    effects_.reserve(effects_.size() + chain.size());
     for (const MutableEffect& effect : chain) {
       const std::size_t first = parameters_.size();
       addParameters(effect.parameters());

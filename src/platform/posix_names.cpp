@@ -76,9 +76,8 @@ bool isStrayByte(std::uint32_t unit) {
 
 Text textFromName(std::string_view name) {
   const std::string_view ascii = name.substr(0, countAscii(name));
-  Text text;
+  Text text(ascii.begin(), ascii.end());
   text.reserve(name.size());
-  text.assign(ascii.begin(), ascii.end());
   name.remove_prefix(ascii.size());
   while (!name.empty()) {
     const Sequence sequence = decodeSequence(name);
@@ -95,9 +94,8 @@ Text textFromName(std::string_view name) {
 
 std::optional<std::string> nameFromText(TextView text) {
   const TextView ascii = text.substr(0, countAscii(text));
-  std::string bytes;
+  std::string bytes(ascii.begin(), ascii.end());
   bytes.reserve(text.size());
-  bytes.assign(ascii.begin(), ascii.end());
   for (std::size_t i = bytes.size(); i < text.size(); ++i) {
     const std::uint32_t unit = text[i];
     if (isHighSurrogate(unit) && i + 1 < text.size() && isLowSurrogate(text[i + 1])) {
