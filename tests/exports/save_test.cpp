@@ -19,6 +19,7 @@ using test::text;
 using test::utf8;
 using test::valueOf;
 using testing::ElementsAre;
+using testing::HasSubstr;
 
 /// The text with an h for each lower-case hexadecimal digit.
 std::string shapeOf(std::string id) {
@@ -35,6 +36,15 @@ class Save : public testing::Test {
     const std::string id = utf8(Style_id(saved));
     EXPECT_EQ(StyleManager_readUserStyles(host.manager), KOSTYLE_OK);
     return host.userStyle(id);
+  }
+
+  /// Saves, and expects parameters in the file, and in the style that stays and in the one reread.
+  void expectSaved(KoStyleStyle* style, const std::string& written,
+                   const std::vector<ParameterValue>& parameters) {
+    KoStyleStyle* saved = test::Host::save(style);
+    EXPECT_THAT(test::readFile(test::Host::fileOf(saved)), HasSubstr(written));
+    EXPECT_EQ(valueOf(saved).chains[0][0].parameters, parameters);
+    EXPECT_EQ(valueOf(reread(saved)).chains[0][0].parameters, parameters);
   }
 
   test::Host host;
@@ -140,13 +150,8 @@ TEST_F(Save, KeepsTheFirstOfParametersOfOneNameAndSortsThem) {
   MutableParameter_setName(MutableEffect_parameter(effect, 0), KOSTYLE_TEXT("z"));
   MutableParameter_setName(q, KOSTYLE_TEXT("z"));
   MutableParameter_setName(r, KOSTYLE_TEXT("a"));
-  KoStyleStyle* saved = test::Host::save(style);
-  EXPECT_NE(test::readFile(test::Host::fileOf(saved)).find(R"({"z":1,"z":"second","a":0})"),
-            std::string::npos);
-  const std::vector<ParameterValue> expected{ParameterValue::ofInt(text("a"), 0),
-                                             ParameterValue::ofInt(text("z"), 1)};
-  EXPECT_EQ(valueOf(saved).chains[0][0].parameters, expected);
-  EXPECT_EQ(valueOf(reread(saved)).chains[0][0].parameters, expected);
+  expectSaved(style, R"({"z":1,"z":"second","a":0})",
+              {ParameterValue::ofInt(text("a"), 0), ParameterValue::ofInt(text("z"), 1)});
 }
 
 TEST_F(Save, KeepsTheFirstOfParametersOfOneNameThatAddingSorted) {
@@ -156,13 +161,8 @@ TEST_F(Save, KeepsTheFirstOfParametersOfOneNameThatAddingSorted) {
   MutableParameter_setValueString(q, KOSTYLE_TEXT("second"));
   MutableParameter_setName(q, KOSTYLE_TEXT("p"));
   MutableEffect_addParameter(effect, KOSTYLE_TEXT("a"));
-  KoStyleStyle* saved = test::Host::save(style);
-  EXPECT_NE(test::readFile(test::Host::fileOf(saved)).find(R"({"a":0,"p":1,"p":"second"})"),
-            std::string::npos);
-  const std::vector<ParameterValue> expected{ParameterValue::ofInt(text("a"), 0),
-                                             ParameterValue::ofInt(text("p"), 1)};
-  EXPECT_EQ(valueOf(saved).chains[0][0].parameters, expected);
-  EXPECT_EQ(valueOf(reread(saved)).chains[0][0].parameters, expected);
+  expectSaved(style, R"({"a":0,"p":1,"p":"second"})",
+              {ParameterValue::ofInt(text("a"), 0), ParameterValue::ofInt(text("p"), 1)});
 }
 
 TEST_F(Save, WritesANameThatReadingReplaces) {
