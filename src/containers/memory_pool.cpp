@@ -48,8 +48,8 @@ MemoryPool::~MemoryPool() {
 }
 
 void MemoryPool::prefetch() const noexcept {
-  constexpr std::size_t cache = 64 << 10;
-  if (total_ > cache) return;
+  constexpr std::size_t mostAhead = 64 << 10;
+  if (total_ > mostAhead) return;
   for (const Chunk* chunk = chunks_; chunk; chunk = chunk->next)
     platform::prefetch(chunk + 1, chunk->size);
 }

@@ -24,8 +24,8 @@ class MemoryPool {
   /// All blocks go with the pool.
   ~MemoryPool();
 
-  /// Asks for the small blocks ahead, since they are about to be read; for none when they are more than
-  /// the cache next to the processor holds.
+  /// Asks for the small blocks ahead, since they are about to be read; for none when they are so many
+  /// that the first would be gone from the cache when the last arrive.
   void prefetch() const noexcept;
 
   /// From now on nothing need be given back, since the pool is about to go: giving back does nothing.

@@ -7,7 +7,7 @@ namespace Tesk::KoStyle {
 
 void RankTree::reserve(std::size_t count) {
   if (count <= places_.size()) return;
-  std::size_t pages = 0;
+  std::size_t pages = 0;  // at worst all of a level are half full but the last, which holds one
   for (std::size_t held = count; pages == 0 || held > 1; pages += held) held = (held - 1) / least + 1;
   if (pages > none / fanout) throw std::bad_alloc();
   pages_.reserve(pages);

@@ -42,18 +42,8 @@ class RankTree {
   std::size_t position(Node node) const noexcept;
 
   // The neighbours of a node of this tree; none at the ends.
-  Node next(Node node) const noexcept {
-    const Spot spot = spotOf(node);
-    const Page& leaf = pages_[spot.page];
-    if (spot.index + 1 < leaf.count) return leaf.ids[spot.index + 1];
-    return leaf.next == none ? none : pages_[leaf.next].ids[0];
-  }
-  Node previous(Node node) const noexcept {
-    const Spot spot = spotOf(node);
-    const Page& leaf = pages_[spot.page];
-    if (spot.index > 0) return leaf.ids[spot.index - 1];
-    return leaf.previous == none ? none : pages_[leaf.previous].last();
-  }
+  Node next(Node node) const noexcept { return after(node, 1); }
+  Node previous(Node node) const noexcept { return before(node, 1); }
 
   // The node so many places, up to `reach`, after or before another of this tree; none past the ends.
   static constexpr std::size_t reach = 16;

@@ -27,6 +27,7 @@ MutableParameter* ParameterList::append(MutableEffect& parent, TextView name) {
 void ParameterList::rename(MutableParameter& parameter, TextView name) {
   PooledText copy(pool(), name);
   renamed_.insert(&parameter);
+  wasRenamed_ = true;
   parameters_.modifyKey(&parameter, [&] { parameter.assignName(std::move(copy)); });
 }
 
@@ -38,7 +39,7 @@ void ParameterList::destroy(MutableParameter& parameter) noexcept {
 // A stable sort that moves the renamed parameters only: the others are in order already. A renamed one
 // belongs among the others of its name as near as possible to where it stands.
 void ParameterList::sort() {
-  if (isSorted()) return;
+  if (renamed_.empty()) return;
   struct Move {
     MutableParameter* parameter;
     std::size_t position;  // among all, then among the parameters that stay, then its target there

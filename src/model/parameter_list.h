@@ -34,8 +34,8 @@ class ParameterList {
   }
   bool containsName(TextView name) const noexcept { return parameters_.findKey(name) != nullptr; }
 
-  /// Whether no parameter was renamed since the list was sorted last.
-  bool isSorted() const noexcept { return renamed_.empty(); }
+  /// Whether a parameter ever was renamed. Until then all names differ and are in order.
+  bool wasRenamed() const noexcept { return wasRenamed_; }
 
   /// Appends a new parameter of an effect and sorts. Null when the name is here already.
   MutableParameter* append(MutableEffect& parent, TextView name);
@@ -55,6 +55,7 @@ class ParameterList {
 
   OwnedSequence<MutableParameter, IParameterBase, NameOf> parameters_;
   std::set<MutableParameter*> renamed_;  // since the list was sorted last
+  bool wasRenamed_ = false;
 };
 
 }  // namespace Tesk::KoStyle

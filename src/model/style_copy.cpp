@@ -54,17 +54,12 @@ class TakenEffects {
     }
   }
 
-  // Renaming can give several parameters one name, of which the first is taken.
   void addParameters(const ParameterList& parameters) {
-    if (!parameters.isSorted()) return addInOrder(parameters);
-    const MutableParameter* previous = nullptr;
-    for (const MutableParameter& parameter : parameters) {
-      if (!previous || !equalTexts(previous->wholeName(), parameter.wholeName()))
-        parameters_.push_back(&parameter);
-      previous = &parameter;
-    }
+    if (parameters.wasRenamed()) return addInOrder(parameters);
+    for (const MutableParameter& parameter : parameters) parameters_.push_back(&parameter);
   }
 
+  // Renaming can give several parameters one name, of which the first is taken.
   void addInOrder(const ParameterList& parameters) {
     struct Entry : Named {
       const MutableParameter* parameter;

@@ -5,7 +5,7 @@
 
 namespace Tesk::KoStyle::platform {
 
-/// A hint, which changes nothing but the time. The memory must be some, of one object or block.
+/// A hint, which changes nothing but the time. The memory is of one object or block, and not empty.
 inline void prefetch([[maybe_unused]] const void* memory, [[maybe_unused]] std::size_t size) noexcept {
 #if defined(__GNUC__)
   constexpr std::size_t cacheLine = 64;
